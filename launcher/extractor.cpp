@@ -1,0 +1,228 @@
+#include "launcher/extractor.h"
+
+#include <archive.h>
+#include <archive_entry.h>
+
+#include <cstdio>
+#include <memory>
+
+#include "launcher/adapter.h"
+#include "launcher/texts/strtab.h"
+#include "lib/file-op.h"
+#include "lib/log.h"
+
+namespace {
+
+const ustring kComponent("extractor_debug");
+
+constexpr size_t kBlockSize = 10240;  // bytes read from the archive file at once
+
+// Neither owner, permissions nor times are asked for: the copy is the user's own.
+constexpr int kWriteOptions =
+    ARCHIVE_EXTRACT_UNLINK | ARCHIVE_EXTRACT_SECURE_NODOTDOT | ARCHIVE_EXTRACT_MAC_METADATA;
+static_assert(kWriteOptions == 0x2210, "the flags that packages are made for");
+
+struct ReaderCloser {
+  // What closing a reader could report, reading has reported before.
+  void operator()(archive* reader) const { (void)archive_read_free(reader); }
+};
+using Reader = std::unique_ptr<archive, ReaderCloser>;
+
+struct WriterCloser {
+  // Every entry has been finished by then; what is left are the modes of directories that
+  // were not writable, and those are no content.
+  void operator()(archive* writer) const { (void)archive_write_free(writer); }
+};
+using Writer = std::unique_ptr<archive, WriterCloser>;
+
+// An archive handle's error text; without one, that of the handle it worked for.
+const char* error_text(archive* handle, archive* other = nullptr) {
+  const char* text = archive_error_string(handle);
+  if (!text && other) text = archive_error_string(other);
+  return text ? text : "";
+}
+
+// A reader for every format and compression, null when there is no memory.
+Reader make_reader() {
+  Reader reader(archive_read_new());
+  if (reader) {
+    // Both warn where a compression needs a helper program; an archive that it is needed
+    // for then fails to open.
+    (void)archive_read_support_filter_all(reader.get());
+    (void)archive_read_support_format_all(reader.get());
+  }
+  return reader;
+}
+
+int open_source(archive* reader, const ustring& source) {
+  return archive_read_open_filename(reader, source.c_str(), kBlockSize);
+}
+
+}  // namespace
+
+int Extractor::Extract() {
+  if (source.empty() || target.empty()) {
+    Logger::LogMsg(Logger::L_ERR, kComponent, "[ERROR] extractor(%d): Invalid Argument\n",
+                   __LINE__);
+    return -1;
+  }
+  Logger::LogMsg(Logger::L_DEBUG, kComponent,
+                 "[DEBUG] extractor(%d): decompress from '%s' to '%s'\n", __LINE__, source.c_str(),
+                 target.c_str());
+  Notify_Adapter::GetInstance().UpdateDialogText(
+      StrTable::LoadStr(StrTable::desc_qlmr_env_preparing));
+
+  const int total = Count();
+  if (total < 1) {
+    Logger::LogMsg(Logger::L_ERR, kComponent,
+                   "[ERROR] extractor(%d): Failed to calculate total file numbers, ret: %d\n",
+                   __LINE__, total);
+    return -1;
+  }
+
+  const Reader reader = make_reader();
+  if (!reader) {
+    Logger::LogMsg(Logger::L_ERR, kComponent, "[ERROR] extractor(%d): Allocate extractor failed\n",
+                   __LINE__);
+    return -1;
+  }
+  const Writer writer(archive_write_disk_new());
+  if (!writer) {
+    Logger::LogMsg(Logger::L_ERR, kComponent, "[ERROR] extractor(%d): Allocate extractor failed\n",
+                   __LINE__);
+    return -1;
+  }
+  // Fails for a handle that is in use only.
+  (void)archive_write_disk_set_options(writer.get(), kWriteOptions);
+
+  if (open_source(reader.get(), source) != ARCHIVE_OK) {
+    Logger::LogMsg(Logger::L_ERR, kComponent,
+                   "[ERROR] extractor(%d): Failed to read file '%s' ('%s')\n", __LINE__,
+                   source.c_str(), error_text(reader.get()));
+    return -1;
+  }
+  return ExtractEntries(reader.get(), writer.get(), total);
+}
+
+int Extractor::ExtractEntries(archive* reader, archive* writer, int total) {
+  for (int done = 0;;) {
+    archive_entry* entry = nullptr;
+    const int status = archive_read_next_header(reader, &entry);
+    if (status == ARCHIVE_EOF) return 0;
+    if (status != ARCHIVE_OK) {
+      Logger::LogMsg(Logger::L_ERR, kComponent,
+                     "[ERROR] extractor(%d): archive_read_next_header failed: '%s'\n", __LINE__,
+                     error_text(reader));
+      return -1;
+    }
+
+    // Without the barrier a loss of power could leave the last entry on the disk and an
+    // earlier one not, and the copy would pass for complete.
+    if (done + 1 == total && FSSync(target) != 0) return -1;
+
+    // Only the name is put below the target: a hard link's target stays as stored.
+    const char* const name = archive_entry_pathname(entry);
+    const ustring path = target + "/" + (name ? name : "");
+    archive_entry_set_pathname(entry, path.c_str());
+    if (archive_read_extract2(reader, entry, writer) != ARCHIVE_OK) {
+      Logger::LogMsg(Logger::L_ERR, kComponent,
+                     "[ERROR] extractor(%d): archive_read_extract2 failed: '%s'\n", __LINE__,
+                     error_text(writer, reader));
+      return -1;
+    }
+    ++done;
+    Notify_Adapter::GetInstance().UpdateProgress(total, done);
+    if (archive_write_finish_entry(writer) != ARCHIVE_OK) {
+      Logger::LogMsg(Logger::L_ERR, kComponent,
+                     "[ERROR] extractor(%d): archive_write_finish_entry failed: '%s'\n", __LINE__,
+                     error_text(writer));
+      return -1;
+    }
+  }
+}
+
+int Extractor::Count() {
+  if (target.empty() || source.empty()) {
+    // Meant: "argument" in lower case here and in List.
+    Logger::LogMsg(Logger::L_ERR, kComponent, "[ERROR] extractor(%d): Invalid argument\n",
+                   __LINE__);
+    return -1;
+  }
+  const Reader reader = make_reader();
+  if (!reader) {
+    Logger::LogMsg(Logger::L_ERR, kComponent, "[ERROR] extractor(%d): Allocate archive failed\n",
+                   __LINE__);
+    return -1;
+  }
+  if (open_source(reader.get(), source) != ARCHIVE_OK) {
+    Logger::LogMsg(Logger::L_ERR, kComponent,
+                   "[ERROR] extractor(%d): archive_read_open_filename failed: '%s'\n", __LINE__,
+                   error_text(reader.get()));
+    return -1;
+  }
+
+  int count = 0;
+  archive_entry* entry = nullptr;
+  while (archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK) {
+    ++count;
+    // Data that cannot be skipped shows in the next header.
+    (void)archive_read_data_skip(reader.get());
+  }
+  return count;
+}
+
+int Extractor::List() {
+  if (target.empty() || source.empty()) {
+    // Meant: the message is no reason to stop; opening the archive decides.
+    Logger::LogMsg(Logger::L_ERR, kComponent, "[ERROR] extractor(%d): Invalid argument\n",
+                   __LINE__);
+  }
+  const Reader reader = make_reader();
+  if (!reader) {
+    Logger::LogMsg(Logger::L_ERR, kComponent, "[ERROR] extractor(%d): Allocate archive failed\n",
+                   __LINE__);
+    return -1;
+  }
+  if (open_source(reader.get(), source) != ARCHIVE_OK) {
+    Logger::LogMsg(Logger::L_ERR, kComponent,
+                   "[ERROR] extractor(%d): archive_read_open_filename failed: '%s'\n", __LINE__,
+                   error_text(reader.get()));
+    return -1;
+  }
+
+  archive_entry* entry = nullptr;
+  while (archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK) {
+    const char* const name = archive_entry_pathname(entry);
+    printf("%s\n", name ? name : "");
+    (void)archive_read_data_skip(reader.get());  // shows in the next header
+  }
+  (void)archive_read_close(reader.get());  // as ReaderCloser
+  return 0;
+}
+
+int Extractor::copy_data(archive* reader, archive* writer) {
+  if (!reader || !writer) {
+    Logger::LogMsg(Logger::L_ERR, kComponent, "[ERROR] extractor(%d): Invalid Argument\n",
+                   __LINE__);
+    return -1;
+  }
+  for (;;) {
+    const void* buffer = nullptr;
+    size_t size = 0;
+    la_int64_t offset = 0;
+    const int status = archive_read_data_block(reader, &buffer, &size, &offset);
+    if (status == ARCHIVE_EOF) return 0;
+    if (status != ARCHIVE_OK) {
+      Logger::LogMsg(Logger::L_ERR, kComponent,
+                     "[ERROR] extractor(%d): archive_read_data_block failed: '%s'\n", __LINE__,
+                     error_text(reader));
+      return -1;
+    }
+    if (archive_write_data_block(writer, buffer, size, offset) != ARCHIVE_OK) {
+      Logger::LogMsg(Logger::L_ERR, kComponent,
+                     "[ERROR] extractor(%d): archive_write_data_block failed: '%s'\n", __LINE__,
+                     error_text(writer));
+      return -1;
+    }
+  }
+}

@@ -1,0 +1,152 @@
+#include "launcher/launcher.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QFont>
+#include <QGuiApplication>
+#include <QIcon>
+
+#include "launcher/adapter.h"
+#include "launcher/texts/strtab.h"
+#include "lib/log.h"
+
+namespace {
+
+const ustring kComponent("launcher_debug");
+
+constexpr int kDialogWidth = 400;  // device-independent pixels
+
+}  // namespace
+
+ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr) {
+  const QFont font("Arial");
+  const QString icon =
+      QString::fromUtf8(Service::GetRootQuillmereResourceInstallPath().c_str()) +
+      "/images/ico_72_quill_mere.png";
+  setWindowTitle(StrTable::LoadStr(StrTable::app_name));
+  setWindowIcon(QIcon(icon));
+  setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint);
+  setValue(0);
+  setRange(0, 100);
+  setLabelText(StrTable::LoadStr(StrTable::desc_qlmr_env_preparing));
+  setFont(font);
+  setFixedWidth(kDialogWidth);
+  // The second call overrides the first; both are meant, in this order.
+  setModal(true);
+  setWindowModality(Qt::WindowModal);
+  setStyleSheet(" QProgressDialog { background-color: WhiteSmoke; \n  vertical-align: middle } ");
+}
+
+void ProcessingProgressDialog::reject() {}
+
+void ProcessingProgressDialog::closeEvent(QCloseEvent* event) {
+  event->ignore();
+}
+
+void HandlerThread::run() {
+  (void)exec();  // ends by quit() alone, with 0
+}
+
+Worker::Worker() {
+  m_service = new LinuxService;
+  m_handler_thread = new HandlerThread;
+  moveToThread(m_handler_thread);
+}
+
+Worker::~Worker() {
+  // The controller has done both, unless the event loop ended in another way (a session
+  // that closes): then the job is still brought to its end.
+  QuitThread();
+  JoinThread();
+  delete m_handler_thread;
+  delete m_service;
+}
+
+void Worker::StartThread() {
+  m_handler_thread->start(QThread::InheritPriority);
+}
+
+void Worker::QuitThread() {
+  m_handler_thread->quit();
+}
+
+void Worker::JoinThread() {
+  (void)m_handler_thread->wait();  // without a time limit there is nothing to report
+}
+
+void Worker::HandleServicce() {
+  Logger::LogMsg(Logger::L_DEBUG, kComponent, "[DEBUG] launcher(%d): running\n", 88);
+  m_service->PreUpgrade();
+  if (!m_service->IsNeedUpgrade()) {
+    Logger::LogMsg(Logger::L_DEBUG, kComponent, "[DEBUG] launcher(%d): no need to upgrade\n", 93);
+  } else {
+    emit sigShowMsg();
+    if (m_service->HandlePackageUpgrade() != 0) {
+      Logger::LogMsg(Logger::L_ERR, kComponent,
+                     "[ERROR] launcher(%d): Failed to upgrade packge\n", 100);
+    } else {
+      emit sigUpdateProgress(100, 100);
+      emit sigSetLabelText(StrTable::LoadStr(StrTable::desc_qlmr_env_preparation_done));
+    }
+  }
+  m_service->PostUpgrade();
+  Logger::LogMsg(Logger::L_DEBUG, kComponent, "[DEBUG] launcher(%d): done\n", 111);
+  emit sigServiceDone();
+}
+
+Launcher::Launcher() {
+  m_worker = new Worker;
+  m_progress = new ProcessingProgressDialog;
+  m_progress->setCancelButton(nullptr);
+  m_progress->setAutoReset(false);
+
+  // The sender's signals come from the worker thread but for the first: all are queued.
+  connect(this, &Launcher::sigStart, m_worker, &Worker::HandleServicce);
+  connect(m_worker, &Worker::sigShowMsg, this, &Launcher::ShowMsgBox);
+  connect(m_worker, &Worker::sigServiceDone, this, &Launcher::LaunchDone);
+  connect(m_worker, &Worker::sigUpdateProgress, this, &Launcher::UpdateProgress);
+  connect(m_worker, &Worker::sigSetLabelText, this, &Launcher::SetLabelText);
+  Notify_Adapter& adapter = Notify_Adapter::GetInstance();
+  connect(&adapter, &Notify_Adapter::sigUpdateProgress, this, &Launcher::UpdateProgress);
+  connect(&adapter, &Notify_Adapter::sigUpdateDialogText, this, &Launcher::SetLabelText);
+
+  // Nothing but LaunchDone() may end the event loop: not a closed window, and not a session
+  // that ends, which would also be held up by a dialog that refuses to close.
+  QGuiApplication::setQuitOnLastWindowClosed(false);
+  QGuiApplication::setFallbackSessionManagementEnabled(false);
+}
+
+Launcher::~Launcher() {
+  delete m_worker;
+  delete m_progress;
+}
+
+void Launcher::Run() {
+  m_worker->StartThread();
+}
+
+void Launcher::Start() {
+  emit sigStart();
+}
+
+void Launcher::UpdateProgress(int total, int steps) {
+  const int percent = steps * 100 / total;
+  // There is a call for each entry of a package; only a new percentage is worth a repaint.
+  if (percent != m_progress->value()) m_progress->setValue(percent);
+}
+
+void Launcher::SetLabelText(QString text) {
+  m_progress->setLabelText(text);
+}
+
+void Launcher::ShowMsgBox() {
+  m_progress->show();
+}
+
+void Launcher::LaunchDone() {
+  m_progress->setValue(100);
+  m_progress->hide();
+  m_worker->QuitThread();
+  m_worker->JoinThread();
+  QCoreApplication::quit();
+}

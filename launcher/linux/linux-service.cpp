@@ -1,0 +1,149 @@
+#include "launcher/linux/linux-service.h"
+
+#include <QProcess>
+#include <QString>
+#include <QStringList>
+
+#include <signal.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+#include <limits>
+
+#include "lib/config.h"
+#include "lib/file-op.h"
+#include "lib/log.h"
+
+namespace {
+
+const ustring kComponent("service_debug");
+
+constexpr int kTimeout = 10000;      // milliseconds; nothing reads it
+constexpr int kProbes = 5;           // looks at a client that was asked to end,
+constexpr unsigned kProbeDelay = 1;  // seconds apart
+
+// The process that `text` names, 0 when it names none that may be signalled. Anything
+// below 1 would reach a whole group of processes, a number that does not fit pid_t another
+// one than was written, and a stale file may name the launcher itself.
+pid_t parse_pid(const ustring& text) {
+  const long long number = strtoll(text.c_str(), nullptr, 10);
+  const bool usable =
+      number >= 1 && number <= std::numeric_limits<pid_t>::max() && number != getpid();
+  return usable ? static_cast<pid_t>(number) : 0;
+}
+
+// The number as atoi reads it; 0 for an empty text.
+int build_number(const ustring& text) {
+  return text.empty() ? 0 : atoi(text.c_str());
+}
+
+// `program` as the toolkit's command lines hold it: as it is, or in double quotes with each
+// quote of its own tripled, when a blank or a quote would split it.
+QString quoted(const QString& program) {
+  if (!program.contains(' ') && !program.contains('"')) return program;
+  return '"' + QString(program).replace("\"", "\"\"\"") + '"';
+}
+
+}  // namespace
+
+LinuxService::LinuxService() {
+  timeout = kTimeout;
+  per_user_install_path = GetUserQuillmereAppInstallPath();
+}
+
+LinuxService& LinuxService::GetInstace() {
+  static LinuxService instance;
+  return instance;
+}
+
+void LinuxService::LoadSourceVerInfo() {
+  LoadSourceVersion();
+}
+
+void LinuxService::LoadTargetVerInfo() {
+  LoadTargetVersion();
+}
+
+void LinuxService::PreUpgrade() {
+  LoadTargetVerInfo();
+  LoadSourceVerInfo();
+  Logger::LogMsg(Logger::L_DEBUG, kComponent,
+                 "[DEBUG] linux/linux-service(%d): Source version: ('%s', '%s')\n", 62,
+                 source_version.build_version.c_str(),
+                 source_version.icon_overlay_version.c_str());
+  Logger::LogMsg(Logger::L_DEBUG, kComponent,
+                 "[DEBUG] linux/linux-service(%d): Target version: ('%s', '%s')\n", 63,
+                 target_version.build_version.c_str(),
+                 target_version.icon_overlay_version.c_str());
+}
+
+bool LinuxService::IsNeedUpgrade() {
+  const int source = build_number(source_version.build_version);
+  const int target = build_number(target_version.build_version);
+  Logger::LogMsg(Logger::L_DEBUG, kComponent,
+                 "[DEBUG] linux/linux-service(%d): source version = %d, target version = %d\n",
+                 126, source, target);
+  return target > source || !PerUserBinPathExist();
+}
+
+bool LinuxService::PerUserBinPathExist() {
+  return access((per_user_install_path + "/bin/cloud-ui").c_str(), F_OK) == 0;
+}
+
+int LinuxService::HandlePackageUpgrade() {
+  if (PerUserBinPathExist()) {
+    Logger::LogMsg(Logger::L_DEBUG, kComponent,
+                   "[DEBUG] linux/linux-service(%d): local appdata exist\n", 139);
+    StopService();
+  }
+  return PrepareUserEnv();
+}
+
+void LinuxService::StopService() {
+  const ustring path = GetUserQuillmereInstallPath() + "/ui.pid";
+  const bool exists = IsFileExist(path, false);
+  Config file;
+  if (exists && file.read(path) < 0) {
+    Logger::LogMsg(Logger::L_NOTICE, kComponent,
+                   "[NOTE] linux/linux-service(%d): Failed to read pid file '%s', not exist ?\n",
+                   81, path.c_str());
+    return;
+  }
+  const pid_t pid = exists ? parse_pid(file["pid"]) : 0;
+  if (pid == 0) {
+    Logger::LogMsg(
+        Logger::L_DEBUG, kComponent,
+        "[DEBUG] linux/linux-service(%d): pid file '%s' does not exist, no need to terminate\n",
+        76, path.c_str());
+    return;
+  }
+
+  if (kill(pid, SIGTERM) != 0) {
+    if (errno == ESRCH) return;
+    Logger::LogMsg(Logger::L_ERR, kComponent, "[ERROR] linux/linux-service(%d): kill: %s (%d)\n",
+                   96, strerror(errno), errno);
+  }
+  for (int probe = 0; probe < kProbes; ++probe) {
+    if (kill(pid, 0) != 0 && errno == ESRCH) return;
+    (void)sleep(kProbeDelay);  // cut short by a signal, it only makes the wait shorter
+  }
+  // It may have ended since the last look, and nobody waits for it now: either way the
+  // upgrade goes on.
+  (void)kill(pid, SIGKILL);
+}
+
+void LinuxService::PostUpgrade() {
+  (void)LaunchPerUserBin();  // always 0
+}
+
+int LinuxService::LaunchPerUserBin() {
+  const ustring script = per_user_install_path + "/package/start-stop";
+  const QString command = quoted(QString::fromUtf8(script.c_str())) + " start";
+  QStringList arguments = QProcess::splitCommand(command);
+  const QString program = arguments.takeFirst();
+  // The script's outcome is its own business; a missing one leaves nothing to start.
+  (void)QProcess::execute(program, arguments);
+  return 0;
+}

@@ -1,0 +1,1255 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="hu_HU" sourcelanguage="en_US">
+<context>
+    <name>global</name>
+    <message>
+        <source>{\VerdanaBold13}Welcome to the [ProductName] Setup Wizard</source>
+        <translation>{\VerdanaBold13}Üdvözli a [ProductName] telepítővarázslója</translation>
+    </message>
+    <message>
+        <source>Start [ProductName] now</source>
+        <translation>A [ProductName] indítása most</translation>
+    </message>
+    <message>
+        <source>Shared folders</source>
+        <translation>Megosztott mappák</translation>
+    </message>
+    <message>
+        <source>All files are up to date.</source>
+        <translation>Minden fájl naprakész.</translation>
+    </message>
+    <message>
+        <source>Processing...</source>
+        <translation>Feldolgozás…</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Kilépés</translation>
+    </message>
+    <message>
+        <source>The Setup Wizard is ready to begin the installation.</source>
+        <translation>A telepítővarázsló készen áll a telepítés megkezdésére.</translation>
+    </message>
+    <message>
+        <source>File name</source>
+        <translation>Fájlnév</translation>
+    </message>
+    <message>
+        <source>Connection mode</source>
+        <translation>Kapcsolódási mód</translation>
+    </message>
+    <message>
+        <source>The local database is damaged. Unlink the connection, then link it again to rebuild the database.</source>
+        <translation>A helyi adatbázis sérült. Az adatbázis újraépítéséhez válassza le a kapcsolatot, majd végezze el újra az összekapcsolást.</translation>
+    </message>
+    <message>
+        <source>&amp;Close the applications and restart them after setup</source>
+        <translation>Az alkalmazások &amp;bezárása és újraindítása a telepítés után</translation>
+    </message>
+    <message>
+        <source>The folder is a mount point. Choose a folder that is not a mount point.</source>
+        <translation>A mappa csatolási pont. Válasszon olyan mappát, amely nem csatolási pont.</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]Ready to remove [ProductName]</source>
+        <translation>[DlgTitleFont]Készen áll a [ProductName] eltávolítására</translation>
+    </message>
+    <message>
+        <source>The server has been replaced. Click here to link again.</source>
+        <translation>A kiszolgálót lecserélték. Kattintson ide az újbóli összekapcsoláshoz.</translation>
+    </message>
+    <message>
+        <source>Currently syncing %1 files.</source>
+        <translation>Jelenleg %1 fájl szinkronizálása zajlik.</translation>
+    </message>
+    <message>
+        <source>The Setup Wizard lets you change, repair, or remove [ProductName]. Click Next to continue, or click Cancel to exit the Setup Wizard.</source>
+        <translation>A telepítővarázslóval módosíthatja, javíthatja vagy eltávolíthatja a [ProductName] programot. A folytatáshoz kattintson a Tovább, a telepítővarázslóból való kilépéshez a Mégse gombra.</translation>
+    </message>
+    <message>
+        <source>Block list</source>
+        <translation>Tiltólista</translation>
+    </message>
+    <message>
+        <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
+        <translation>Törli ezt a megosztási hivatkozást?\nA hivatkozás birtokosai többé nem fogják tudni megnyitni a fájlt.</translation>
+    </message>
+    <message>
+        <source>This client is too old for the server.</source>
+        <translation>Ez az ügyfélprogram túl régi a kiszolgálóhoz.</translation>
+    </message>
+    <message>
+        <source>[ProductName] Setup</source>
+        <translation>[ProductName] telepítője</translation>
+    </message>
+    <message>
+        <source>Sign-in failed</source>
+        <translation>Sikertelen bejelentkezés</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Verzió</translation>
+    </message>
+    <message>
+        <source>Testing the connection...</source>
+        <translation>Kapcsolat tesztelése…</translation>
+    </message>
+    <message>
+        <source>The SSL certificate of the server is not trusted, so others may be able to read the data you send. Do you want to continue?</source>
+        <translation>A kiszolgáló SSL-tanúsítványa nem megbízható, ezért mások esetleg elolvashatják az Ön által küldött adatokat. Folytatja?</translation>
+    </message>
+    <message>
+        <source>New shared folder</source>
+        <translation>Új megosztott mappa</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Névjegy</translation>
+    </message>
+    <message>
+        <source>Check the settings below, then click Done.</source>
+        <translation>Ellenőrizze az alábbi beállításokat, majd kattintson a Kész gombra.</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;Nyomtatás</translation>
+    </message>
+    <message>
+        <source>The Setup Wizard is ready to begin the removal.</source>
+        <translation>A telepítővarázsló készen áll az eltávolítás megkezdésére.</translation>
+    </message>
+    <message>
+        <source>This computer is already linked to this server. Edit the existing connection or enter a different server.</source>
+        <translation>Ez a számítógép már össze van kapcsolva ezzel a kiszolgálóval. Szerkessze a meglévő kapcsolatot, vagy adjon meg egy másik kiszolgálót.</translation>
+    </message>
+    <message>
+        <source>Download history</source>
+        <translation>Letöltési előzmények</translation>
+    </message>
+    <message>
+        <source>The connection to the server was lost. Check the network connection, then try again.</source>
+        <translation>Megszakadt a kapcsolat a kiszolgálóval. Ellenőrizze a hálózati kapcsolatot, majd próbálkozzon újra.</translation>
+    </message>
+    <message>
+        <source>The SSL certificate of the server could not be verified.</source>
+        <translation>A kiszolgáló SSL-tanúsítványa nem ellenőrizhető.</translation>
+    </message>
+    <message>
+        <source>Use a black and white tray icon</source>
+        <translation>Fekete-fehér ikon használata a rendszertálcán</translation>
+    </message>
+    <message>
+        <source>The files in this folder will be synced with the server.</source>
+        <translation>A mappában lévő fájlok szinkronizálva lesznek a kiszolgálóval.</translation>
+    </message>
+    <message>
+        <source>The proxy server requires sign-in</source>
+        <translation>A proxykiszolgáló bejelentkezést igényel</translation>
+    </message>
+    <message>
+        <source>Sync tasks</source>
+        <translation>Szinkronizálási feladatok</translation>
+    </message>
+    <message>
+        <source>Blocked files</source>
+        <translation>Letiltott fájlok</translation>
+    </message>
+    <message>
+        <source>No permission</source>
+        <translation>Nincs jogosultság</translation>
+    </message>
+    <message>
+        <source>The server is too old for this client. Ask the server administrator to upgrade it.</source>
+        <translation>A kiszolgáló túl régi ehhez az ügyfélprogramhoz. Kérje meg a kiszolgáló rendszergazdáját, hogy frissítse.</translation>
+    </message>
+    <message>
+        <source>To try again, run setup again later. Click Finish to exit the Setup Wizard.</source>
+        <translation>Ha újra szeretne próbálkozni, később futtassa ismét a telepítőt. A telepítővarázslóból való kilépéshez kattintson a Befejezés gombra.</translation>
+    </message>
+    <message>
+        <source>The connection to the server is unstable.</source>
+        <translation>A kapcsolat a kiszolgálóval nem stabil.</translation>
+    </message>
+    <message>
+        <source>A newer version of Quillmere is already installed. To install this version, remove the newer one first.</source>
+        <translation>A Quillmere egy újabb verziója már telepítve van. Ennek a verziónak a telepítéséhez először távolítsa el az újabbat.</translation>
+    </message>
+    <message>
+        <source>Click Repair to repair the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
+        <translation>A [ProductName] telepítésének javításához kattintson a Javítás gombra. A választások áttekintéséhez kattintson a Vissza, a telepítővarázslóból való kilépéshez a Mégse gombra.</translation>
+    </message>
+    <message>
+        <source>Some settings have not been saved. Do you want to save them?</source>
+        <translation>Néhány beállítás nincs mentve. Menti a beállításokat?</translation>
+    </message>
+    <message>
+        <source>Icon overlays on files</source>
+        <translation>Ikonátfedések a fájlokon</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Művelet</translation>
+    </message>
+    <message>
+        <source>This folder is already used by another sync program. Choose a different folder to avoid conflicts.</source>
+        <translation>Ezt a mappát már egy másik szinkronizálóprogram használja. Az ütközések elkerülése érdekében válasszon másik mappát.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Törlés</translation>
+    </message>
+    <message>
+        <source>Incompatible version</source>
+        <translation>Nem kompatibilis verzió</translation>
+    </message>
+    <message>
+        <source>Change the sync folder</source>
+        <translation>Szinkronizálási mappa módosítása</translation>
+    </message>
+    <message>
+        <source>Enter a complete file name without a folder path.</source>
+        <translation>Adjon meg egy teljes fájlnevet a mappa elérési útja nélkül.</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]An error stopped setup, and its changes were undone.</source>
+        <translation>[DlgTitleFont]Hiba miatt a telepítés leállt, a módosítások visszavonása megtörtént.</translation>
+    </message>
+    <message>
+        <source>Standby</source>
+        <translation>Készenlét</translation>
+    </message>
+    <message>
+        <source>The Setup Wizard will install [ProductName] on your computer. Click Next to continue, or click Cancel to exit the Setup Wizard.</source>
+        <translation>A telepítővarázsló telepíti a [ProductName] programot a számítógépre. A folytatáshoz kattintson a Tovább, a telepítővarázslóból való kilépéshez a Mégse gombra.</translation>
+    </message>
+    <message>
+        <source>Sync problem</source>
+        <translation>Szinkronizálási probléma</translation>
+    </message>
+    <message>
+        <source>Read the following license agreement carefully.</source>
+        <translation>Olvassa el figyelmesen az alábbi licencszerződést.</translation>
+    </message>
+    <message>
+        <source>Folder not empty</source>
+        <translation>A mappa nem üres</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Név</translation>
+    </message>
+    <message>
+        <source>Encrypt data transfer with SSL</source>
+        <translation>Adatátvitel titkosítása SSL használatával</translation>
+    </message>
+    <message>
+        <source>Some files that need to be updated are in use.</source>
+        <translation>Néhány frissítendő fájl használatban van.</translation>
+    </message>
+    <message>
+        <source>Read-only</source>
+        <translation>Írásvédett</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Súgó</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Igen</translation>
+    </message>
+    <message>
+        <source>A new version of Quillmere is available. Click here to upgrade.</source>
+        <translation>Elérhető a Quillmere új verziója. Kattintson ide a frissítéshez.</translation>
+    </message>
+    <message>
+        <source>The download of %1 was canceled.</source>
+        <translation>%1 letöltése megszakítva.</translation>
+    </message>
+    <message>
+        <source>The value you entered is not valid. Check it, then try again.</source>
+        <translation>A megadott érték érvénytelen. Ellenőrizze, majd próbálkozzon újra.</translation>
+    </message>
+    <message>
+        <source>This file has no earlier versions yet. Change the file and let it sync to create one.</source>
+        <translation>Ennek a fájlnak még nincsenek korábbi verziói. Módosítsa a fájlt, és várja meg a szinkronizálását, hogy létrejöjjön egy.</translation>
+    </message>
+    <message>
+        <source>Unlink</source>
+        <translation>Leválasztás</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Vissza</translation>
+    </message>
+    <message>
+        <source>Quillmere is initializing...</source>
+        <translation>A Quillmere inicializálása…</translation>
+    </message>
+    <message>
+        <source>Start now</source>
+        <translation>Indítás most</translation>
+    </message>
+    <message>
+        <source>Pause syncing</source>
+        <translation>Szinkronizálás szüneteltetése</translation>
+    </message>
+    <message>
+        <source>Merge mode</source>
+        <translation>Egyesítési mód</translation>
+    </message>
+    <message>
+        <source>Quillmere is ready.</source>
+        <translation>A Quillmere készen áll.</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Időpont</translation>
+    </message>
+    <message>
+        <source>This version could not be downloaded. Check the connection to the server, then try again.</source>
+        <translation>Ez a verzió nem tölthető le. Ellenőrizze a kapcsolatot a kiszolgálóval, majd próbálkozzon újra.</translation>
+    </message>
+    <message>
+        <source>Applying the settings...</source>
+        <translation>Beállítások alkalmazása…</translation>
+    </message>
+    <message>
+        <source>Files that are not synced</source>
+        <translation>Nem szinkronizált fájlok</translation>
+    </message>
+    <message>
+        <source>Created</source>
+        <translation>Létrehozva</translation>
+    </message>
+    <message>
+        <source>The Quillmere service is turned off on the server. Ask the server administrator to turn it on.</source>
+        <translation>A Quillmere szolgáltatás ki van kapcsolva a kiszolgálón. Kérje meg a kiszolgáló rendszergazdáját, hogy kapcsolja be.</translation>
+    </message>
+    <message>
+        <source>Internet</source>
+        <translation>Internet</translation>
+    </message>
+    <message>
+        <source>Choose the shared folders to sync</source>
+        <translation>Válassza ki a szinkronizálandó megosztott mappákat</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]Re&amp;move</source>
+        <translation>[DlgTitleFont]&amp;Eltávolítás</translation>
+    </message>
+    <message>
+        <source>Uploading...</source>
+        <translation>Feltöltés…</translation>
+    </message>
+    <message>
+        <source>To use selective sync, ask the server administrator to upgrade Quillmere on the server.</source>
+        <translation>A szelektív szinkronizálás használatához kérje meg a kiszolgáló rendszergazdáját, hogy frissítse a Quillmere programot a kiszolgálón.</translation>
+    </message>
+    <message>
+        <source>No settings have been changed.</source>
+        <translation>Egyetlen beállítás sem módosult.</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]Files in use</source>
+        <translation>[DlgTitleFont]Használatban lévő fájlok</translation>
+    </message>
+    <message>
+        <source>Repairs errors in the installation of [ProductName] by restoring missing or damaged files and shortcuts.</source>
+        <translation>Kijavítja a [ProductName] telepítésének hibáit a hiányzó vagy sérült fájlok és parancsikonok helyreállításával.</translation>
+    </message>
+    <message>
+        <source>Blocked file extensions</source>
+        <translation>Letiltott fájlkiterjesztések</translation>
+    </message>
+    <message>
+        <source>Syncing is paused.</source>
+        <translation>A szinkronizálás szünetel.</translation>
+    </message>
+    <message>
+        <source>{\VerdanaBold13}Welcome back to the [ProductName] Setup Wizard</source>
+        <translation>{\VerdanaBold13}Ismét üdvözli a [ProductName] telepítővarázslója</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Jelszó</translation>
+    </message>
+    <message>
+        <source>The volume that holds the sync folder is not mounted. Mount the volume, then resume syncing.</source>
+        <translation>A szinkronizálási mappát tartalmazó kötet nincs csatolva. Csatolja a kötetet, majd folytassa a szinkronizálást.</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Szerkesztés</translation>
+    </message>
+    <message>
+        <source>This computer has no free disk space.</source>
+        <translation>Ezen a számítógépen nincs szabad lemezterület.</translation>
+    </message>
+    <message>
+        <source>Proxy server address</source>
+        <translation>Proxykiszolgáló címe</translation>
+    </message>
+    <message>
+        <source>&amp;Retry</source>
+        <translation>Új&amp;ra</translation>
+    </message>
+    <message>
+        <source>&amp;Ignore</source>
+        <translation>&amp;Kihagyás</translation>
+    </message>
+    <message>
+        <source>A folder with this name already exists. Do you want to merge its files with those on the server?</source>
+        <translation>Már létezik ilyen nevű mappa. Egyesíti a fájljait a kiszolgálón lévőkkel?</translation>
+    </message>
+    <message>
+        <source>Quillmere keeps your files in sync between your computers and your server.</source>
+        <translation>A Quillmere szinkronban tartja a fájljait a számítógépei és a kiszolgálója között.</translation>
+    </message>
+    <message>
+        <source>Change the installed features</source>
+        <translation>A telepített összetevők módosítása</translation>
+    </message>
+    <message>
+        <source>Welcome to Quillmere</source>
+        <translation>Üdvözli a Quillmere</translation>
+    </message>
+    <message>
+        <source>&amp;Repair</source>
+        <translation>&amp;Javítás</translation>
+    </message>
+    <message>
+        <source>Upgrading Quillmere...</source>
+        <translation>A Quillmere frissítése…</translation>
+    </message>
+    <message>
+        <source>Sync mode</source>
+        <translation>Szinkronizálási mód</translation>
+    </message>
+    <message>
+        <source>Enter a domain name, an IP address, or a server ID.</source>
+        <translation>Adjon meg egy tartománynevet, IP-címet vagy kiszolgálóazonosítót.</translation>
+    </message>
+    <message>
+        <source>A share link could not be created for this file. Check the connection to the server, then try again.</source>
+        <translation>Nem hozható létre megosztási hivatkozás ehhez a fájlhoz. Ellenőrizze a kapcsolatot a kiszolgálóval, majd próbálkozzon újra.</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>Azonosító</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Alkalmaz</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Kész</translation>
+    </message>
+    <message>
+        <source>Syncing %1 files...</source>
+        <translation>%1 fájl szinkronizálása…</translation>
+    </message>
+    <message>
+        <source>Link again</source>
+        <translation>Újbóli összekapcsolás</translation>
+    </message>
+    <message>
+        <source>Your files, in sync everywhere</source>
+        <translation>Fájljai mindenhol szinkronban</translation>
+    </message>
+    <message>
+        <source>Destination</source>
+        <translation>Cél</translation>
+    </message>
+    <message>
+        <source>The Setup Wizard is making the changes you chose.</source>
+        <translation>A telepítővarázsló végrehajtja a kiválasztott módosításokat.</translation>
+    </message>
+    <message>
+        <source>System default</source>
+        <translation>Rendszer alapértelmezése</translation>
+    </message>
+    <message>
+        <source>The folders and files you cleared will be removed from this computer. They will be kept on the server.</source>
+        <translation>Azok a mappák és fájlok, amelyek jelölését törölte, el lesznek távolítva erről a számítógépről. A kiszolgálón megmaradnak.</translation>
+    </message>
+    <message>
+        <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
+        <translation>A telepítő végrehajtotta az összes kiválasztott módosítást. A telepítővarázslóból való kilépéshez kattintson a Befejezés gombra.</translation>
+    </message>
+    <message>
+        <source>Click Remove to remove [ProductName] from your computer. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
+        <translation>A [ProductName] számítógépről való eltávolításához kattintson az Eltávolítás gombra. A választások áttekintéséhez kattintson a Vissza, a telepítővarázslóból való kilépéshez a Mégse gombra.</translation>
+    </message>
+    <message>
+        <source>No space left</source>
+        <translation>Nincs több hely</translation>
+    </message>
+    <message>
+        <source>Inactive</source>
+        <translation>Inaktív</translation>
+    </message>
+    <message>
+        <source>Your quota on the server is full.</source>
+        <translation>Betelt a kvótája a kiszolgálón.</translation>
+    </message>
+    <message>
+        <source>Unlink this connection?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation>Leválasztja ezt a kapcsolatot?\nA fájljai megmaradnak ezen a számítógépen és a kiszolgálón, de többé nem lesznek szinkronizálva.</translation>
+    </message>
+    <message>
+        <source>The relay service has a problem. Try again later, or connect with the IP address of the server.</source>
+        <translation>Hiba történt a közvetítő szolgáltatásban. Próbálkozzon újra később, vagy kapcsolódjon a kiszolgáló IP-címével.</translation>
+    </message>
+    <message>
+        <source>Server ID</source>
+        <translation>Kiszolgálóazonosító</translation>
+    </message>
+    <message>
+        <source>Blocked file names</source>
+        <translation>Letiltott fájlnevek</translation>
+    </message>
+    <message>
+        <source>Server address</source>
+        <translation>Kiszolgáló címe</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Folytatás</translation>
+    </message>
+    <message>
+        <source>Enabled</source>
+        <translation>Bekapcsolva</translation>
+    </message>
+    <message>
+        <source>This computer has no free disk space. Free some space to continue syncing.</source>
+        <translation>Ezen a számítógépen nincs szabad lemezterület. A szinkronizálás folytatásához szabadítson fel helyet.</translation>
+    </message>
+    <message>
+        <source>Folders to sync</source>
+        <translation>Szinkronizálandó mappák</translation>
+    </message>
+    <message>
+        <source>Choose a sync folder</source>
+        <translation>Válasszon szinkronizálási mappát</translation>
+    </message>
+    <message>
+        <source>Connection settings</source>
+        <translation>Kapcsolat beállításai</translation>
+    </message>
+    <message>
+        <source>Selective sync</source>
+        <translation>Szelektív szinkronizálás</translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation>Számítógép</translation>
+    </message>
+    <message>
+        <source>Your quota on the server is full. Delete files you do not need, or ask the server administrator for a larger quota.</source>
+        <translation>Betelt a kvótája a kiszolgálón. Törölje a szükségtelen fájlokat, vagy kérjen nagyobb kvótát a kiszolgáló rendszergazdájától.</translation>
+    </message>
+    <message>
+        <source>After you start [ProductName], you can find it in the system tray.</source>
+        <translation>Az indítás után a [ProductName] a rendszertálcán található.</translation>
+    </message>
+    <message>
+        <source>&amp;Leave the applications open and restart the computer later</source>
+        <translation>Az alkalmazások n&amp;yitva hagyása és a számítógép későbbi újraindítása</translation>
+    </message>
+    <message>
+        <source>Use the following proxy server</source>
+        <translation>A következő proxykiszolgáló használata</translation>
+    </message>
+    <message>
+        <source>This file was changed in two places. Compare both copies, then keep the one you need.</source>
+        <translation>Ez a fájl két helyen is módosult. Hasonlítsa össze a két példányt, majd tartsa meg azt, amelyikre szüksége van.</translation>
+    </message>
+    <message>
+        <source>One place for your files on every computer, through a server of your own</source>
+        <translation>Egy hely a fájljainak minden számítógépén, a saját kiszolgálóján keresztül</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Show desktop notifications</source>
+        <translation>Asztali értesítések megjelenítése</translation>
+    </message>
+    <message>
+        <source>The following applications use files that setup needs to update. Close them and click Retry, click Ignore to continue without closing them, or click Exit to leave setup.</source>
+        <translation>A következő alkalmazások olyan fájlokat használnak, amelyeket a telepítőnek frissítenie kell. Zárja be őket, és kattintson az Újra gombra. Ha a bezárásuk nélkül szeretné folytatni, kattintson a Kihagyás gombra, a telepítőből való kilépéshez pedig a Kilépés gombra.</translation>
+    </message>
+    <message>
+        <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
+        <translation>A kiszolgáló nem érhető el. Ellenőrizze a hálózati kapcsolatot és a kiszolgáló címét, majd próbálkozzon újra.</translation>
+    </message>
+    <message>
+        <source>Local sync folder</source>
+        <translation>Helyi szinkronizálási mappa</translation>
+    </message>
+    <message>
+        <source>Files that match an entry in this list are not synced.</source>
+        <translation>A lista valamelyik bejegyzésének megfelelő fájlok nem lesznek szinkronizálva.</translation>
+    </message>
+    <message>
+        <source>Edit connection</source>
+        <translation>Kapcsolat szerkesztése</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Lehetőségek</translation>
+    </message>
+    <message>
+        <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
+        <translation>A következő alkalmazások olyan fájlokat használnak, amelyeket a telepítőnek frissítenie kell. Válassza ki, hogy a telepítő bezárja-e őket. Ha nyitva maradnak, a telepítés befejezéséhez újra kell indítania a számítógépet.</translation>
+    </message>
+    <message>
+        <source>The Setup Wizard is ready to begin the repair.</source>
+        <translation>A telepítővarázsló készen áll a javítás megkezdésére.</translation>
+    </message>
+    <message>
+        <source>Open Quillmere</source>
+        <translation>A Quillmere megnyitása</translation>
+    </message>
+    <message>
+        <source>Please restart %1 to apply the new language settings.</source>
+        <translation>Az új nyelvi beállítások alkalmazásához indítsa újra a következő programot: %1.</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Szüneteltetés</translation>
+    </message>
+    <message>
+        <source>Show icon overlays on filtered files</source>
+        <translation>Ikonátfedések megjelenítése a kiszűrt fájlokon</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Beállítások</translation>
+    </message>
+    <message>
+        <source>Loading...</source>
+        <translation>Betöltés…</translation>
+    </message>
+    <message>
+        <source>You can sync at most %1 shared folders. Stop syncing one of them before you add another.</source>
+        <translation>Legfeljebb %1 megosztott mappa szinkronizálható. Újabb mappa hozzáadása előtt szüntesse meg valamelyikük szinkronizálását.</translation>
+    </message>
+    <message>
+        <source>Unlink this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation>Leválasztja ezt a szinkronizálási feladatot?\nA fájljai megmaradnak ezen a számítógépen és a kiszolgálón, de többé nem lesznek szinkronizálva.</translation>
+    </message>
+    <message>
+        <source>Starting Quillmere...</source>
+        <translation>A Quillmere indítása…</translation>
+    </message>
+    <message>
+        <source>Quillmere could not be upgraded. Restart the computer, then try again.</source>
+        <translation>A Quillmere frissítése nem sikerült. Indítsa újra a számítógépet, majd próbálkozzon újra.</translation>
+    </message>
+    <message>
+        <source>Block names that begin with a dot</source>
+        <translation>A ponttal kezdődő nevek letiltása</translation>
+    </message>
+    <message>
+        <source>The server has no free disk space. Ask the server administrator to free some space.</source>
+        <translation>A kiszolgálón nincs szabad lemezterület. Kérje meg a kiszolgáló rendszergazdáját, hogy szabadítson fel helyet.</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]License agreement</source>
+        <translation>[DlgTitleFont]Licencszerződés</translation>
+    </message>
+    <message>
+        <source>%1 was downloaded.</source>
+        <translation>%1 letöltve.</translation>
+    </message>
+    <message>
+        <source>The versions of this file could not be listed. Check the connection to the server, then try again.</source>
+        <translation>A fájl verziói nem listázhatók. Ellenőrizze a kapcsolatot a kiszolgálóval, majd próbálkozzon újra.</translation>
+    </message>
+    <message>
+        <source>Connected to the server.</source>
+        <translation>Létrejött a kapcsolat a kiszolgálóval.</translation>
+    </message>
+    <message>
+        <source>{\VerdanaBold13}The [ProductName] Setup Wizard is complete</source>
+        <translation>{\VerdanaBold13}A [ProductName] telepítővarázslója befejezte a műveletet</translation>
+    </message>
+    <message>
+        <source>Local network</source>
+        <translation>Helyi hálózat</translation>
+    </message>
+    <message>
+        <source>Do not use a proxy server</source>
+        <translation>Nincs proxykiszolgáló</translation>
+    </message>
+    <message>
+        <source>Shared folder not found</source>
+        <translation>A megosztott mappa nem található</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Tovább</translation>
+    </message>
+    <message>
+        <source>Parvenor Quillmere</source>
+        <translation>Parvenor Quillmere</translation>
+    </message>
+    <message>
+        <source>%1 could not be downloaded. Check the connection to the server, then try again.</source>
+        <translation>%1 letöltése nem sikerült. Ellenőrizze a kapcsolatot a kiszolgálóval, majd próbálkozzon újra.</translation>
+    </message>
+    <message>
+        <source>Watching for file changes...</source>
+        <translation>Fájlváltozások figyelése…</translation>
+    </message>
+    <message>
+        <source>Shared folder</source>
+        <translation>Megosztott mappa</translation>
+    </message>
+    <message>
+        <source>Client options</source>
+        <translation>Az ügyfélprogram beállításai</translation>
+    </message>
+    <message>
+        <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
+        <translation>A megosztási hivatkozás nem törölhető. Ellenőrizze a kapcsolatot a kiszolgálóval, majd próbálkozzon újra.</translation>
+    </message>
+    <message>
+        <source>The SSL certificate of the server could not be verified. Ask the server administrator to check the certificate.</source>
+        <translation>A kiszolgáló SSL-tanúsítványa nem ellenőrizhető. Kérje meg a kiszolgáló rendszergazdáját, hogy ellenőrizze a tanúsítványt.</translation>
+    </message>
+    <message>
+        <source>This is not the server the connection was linked to. Check the server address, or link again.</source>
+        <translation>Ez nem az a kiszolgáló, amellyel az összekapcsolás történt. Ellenőrizze a kiszolgáló címét, vagy végezze el újra az összekapcsolást.</translation>
+    </message>
+    <message>
+        <source>[ProductName] has no features that can be changed separately.</source>
+        <translation>A [ProductName] nem tartalmaz külön módosítható összetevőket.</translation>
+    </message>
+    <message>
+        <source>The address or port of the proxy server is missing. Enter both, then try again.</source>
+        <translation>Hiányzik a proxykiszolgáló címe vagy portja. Adja meg mindkettőt, majd próbálkozzon újra.</translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation>Proxy</translation>
+    </message>
+    <message>
+        <source>The user name is missing. Enter a user name.</source>
+        <translation>Hiányzik a felhasználónév. Adjon meg egy felhasználónevet.</translation>
+    </message>
+    <message>
+        <source>Delete link</source>
+        <translation>Hivatkozás törlése</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Hiba</translation>
+    </message>
+    <message>
+        <source>I &amp;accept the terms of the license agreement</source>
+        <translation>&amp;Elfogadom a licencszerződés feltételeit</translation>
+    </message>
+    <message>
+        <source>Updated: %1</source>
+        <translation>Frissítve: %1</translation>
+    </message>
+    <message>
+        <source>Manage connections</source>
+        <translation>Kapcsolatok kezelése</translation>
+    </message>
+    <message>
+        <source>Link to another server</source>
+        <translation>Összekapcsolás másik kiszolgálóval</translation>
+    </message>
+    <message>
+        <source>Show icon overlays</source>
+        <translation>Ikonátfedések megjelenítése</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]Setting up [ProductName]</source>
+        <translation>[DlgTitleFont]A [ProductName] beállítása</translation>
+    </message>
+    <message>
+        <source>Service turned off</source>
+        <translation>A szolgáltatás ki van kapcsolva</translation>
+    </message>
+    <message>
+        <source>Sync</source>
+        <translation>Szinkronizálás</translation>
+    </message>
+    <message>
+        <source>Stop syncing this shared folder?\nThe files already on this computer will be kept.</source>
+        <translation>Megszünteti ennek a megosztott mappának a szinkronizálását?\nA számítógépen már meglévő fájlok megmaradnak.</translation>
+    </message>
+    <message>
+        <source>&amp;Install</source>
+        <translation>Te&amp;lepítés</translation>
+    </message>
+    <message>
+        <source>File filter</source>
+        <translation>Fájlszűrő</translation>
+    </message>
+    <message>
+        <source>Status details</source>
+        <translation>Állapot részletei</translation>
+    </message>
+    <message>
+        <source>I &amp;do not accept the terms of the license agreement</source>
+        <translation>Ne&amp;m fogadom el a licencszerződés feltételeit</translation>
+    </message>
+    <message>
+        <source>Something went wrong. Try again, and contact the server administrator if the problem continues.</source>
+        <translation>Hiba történt. Próbálkozzon újra, és ha a probléma továbbra is fennáll, forduljon a kiszolgáló rendszergazdájához.</translation>
+    </message>
+    <message>
+        <source>Tray icons</source>
+        <translation>Rendszertálca-ikonok</translation>
+    </message>
+    <message>
+        <source>The folder is read-only. Choose a folder you can write to.</source>
+        <translation>A mappa írásvédett. Válasszon olyan mappát, amelybe írhat.</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Tovább</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Vissza</translation>
+    </message>
+    <message>
+        <source>Proxy settings</source>
+        <translation>Proxybeállítások</translation>
+    </message>
+    <message>
+        <source>You are not signed in as an administrator, so Quillmere might not install completely. Do you want to continue?</source>
+        <translation>Nem rendszergazdaként jelentkezett be, ezért lehet, hogy a Quillmere telepítése nem lesz teljes. Folytatja?</translation>
+    </message>
+    <message>
+        <source>Use the tray icon at any time to see the sync status or change the settings.</source>
+        <translation>A rendszertálcán lévő ikonnal bármikor megtekintheti a szinkronizálás állapotát, vagy módosíthatja a beállításokat.</translation>
+    </message>
+    <message>
+        <source>Share link created</source>
+        <translation>Megosztási hivatkozás létrehozva</translation>
+    </message>
+    <message>
+        <source>The user name or password is not correct. Check both, then try again.</source>
+        <translation>A felhasználónév vagy a jelszó helytelen. Ellenőrizze mindkettőt, majd próbálkozzon újra.</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]Ready to repair [ProductName]</source>
+        <translation>[DlgTitleFont]Készen áll a [ProductName] javítására</translation>
+    </message>
+    <message>
+        <source>The shared folder %1 is now available. Click here to sync it.</source>
+        <translation>Elérhetővé vált a következő megosztott mappa: %1. Kattintson ide a szinkronizálásához.</translation>
+    </message>
+    <message>
+        <source>Status:</source>
+        <translation>Állapot:</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Méret</translation>
+    </message>
+    <message>
+        <source>Connection information</source>
+        <translation>Kapcsolati adatok</translation>
+    </message>
+    <message>
+        <source>Lets you choose which features are installed.</source>
+        <translation>Itt választhatja ki, hogy mely összetevők legyenek telepítve.</translation>
+    </message>
+    <message>
+        <source>Folder name</source>
+        <translation>Mappanév</translation>
+    </message>
+    <message>
+        <source>Folder is a mount point</source>
+        <translation>A mappa csatolási pont</translation>
+    </message>
+    <message>
+        <source>Choose another folder</source>
+        <translation>Másik mappa választása</translation>
+    </message>
+    <message>
+        <source>Download only</source>
+        <translation>Csak letöltés</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]&amp;Repair</source>
+        <translation>[DlgTitleFont]&amp;Javítás</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>&amp;Eltávolítás</translation>
+    </message>
+    <message>
+        <source>Maximum file size</source>
+        <translation>Maximális fájlméret</translation>
+    </message>
+    <message>
+        <source>Enter the server address and the account you use on the server.</source>
+        <translation>Adja meg a kiszolgáló címét és a kiszolgálón használt fiókját.</translation>
+    </message>
+    <message>
+        <source>A different server was found at the server address.</source>
+        <translation>A kiszolgáló címén egy másik kiszolgáló található.</translation>
+    </message>
+    <message>
+        <source>Linking to the server...</source>
+        <translation>Összekapcsolás a kiszolgálóval…</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Port</translation>
+    </message>
+    <message>
+        <source>Share link</source>
+        <translation>Megosztási hivatkozás létrehozása</translation>
+    </message>
+    <message>
+        <source>The user name or password was not accepted by the server. Edit the connection and enter them again.</source>
+        <translation>A kiszolgáló nem fogadta el a felhasználónevet vagy a jelszót. Szerkessze a kapcsolatot, és adja meg őket újra.</translation>
+    </message>
+    <message>
+        <source>Recently updated files</source>
+        <translation>Nemrég frissített fájlok</translation>
+    </message>
+    <message>
+        <source>Use the system proxy settings</source>
+        <translation>A rendszer proxybeállításainak használata</translation>
+    </message>
+    <message>
+        <source>Change folder</source>
+        <translation>Mappa módosítása</translation>
+    </message>
+    <message>
+        <source>Finish</source>
+        <translation>Befejezés</translation>
+    </message>
+    <message>
+        <source>Folder path</source>
+        <translation>Mappa elérési útja</translation>
+    </message>
+    <message>
+        <source>Downloading...</source>
+        <translation>Letöltés…</translation>
+    </message>
+    <message>
+        <source>The file is locked</source>
+        <translation>A fájl zárolva van</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Mégse</translation>
+    </message>
+    <message>
+        <source>Preparing...</source>
+        <translation>Előkészítés…</translation>
+    </message>
+    <message>
+        <source>Updating files...</source>
+        <translation>Fájlok frissítése…</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]Ready to install [ProductName]</source>
+        <translation>[DlgTitleFont]Készen áll a [ProductName] telepítésére</translation>
+    </message>
+    <message>
+        <source>Checking the user name and password...</source>
+        <translation>A felhasználónév és a jelszó ellenőrzése…</translation>
+    </message>
+    <message>
+        <source>Wait while the Setup Wizard sets up [ProductName]. This can take several minutes.</source>
+        <translation>Várjon, amíg a telepítővarázsló beállítja a [ProductName] programot. Ez több percig is eltarthat.</translation>
+    </message>
+    <message>
+        <source>Manage</source>
+        <translation>Kezelés</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Állapot</translation>
+    </message>
+    <message>
+        <source>The server ID is not valid. Check the server ID, then try again.</source>
+        <translation>A kiszolgálóazonosító érvénytelen. Ellenőrizze a kiszolgálóazonosítót, majd próbálkozzon újra.</translation>
+    </message>
+    <message>
+        <source>Open sync folder</source>
+        <translation>Szinkronizálási mappa megnyitása</translation>
+    </message>
+    <message>
+        <source>When the tray icon is double-clicked</source>
+        <translation>A rendszertálcán lévő ikonra való dupla kattintáskor</translation>
+    </message>
+    <message>
+        <source>Syncing could not be turned on for this shared folder. Check your permissions on the server, then try again.</source>
+        <translation>A szinkronizálás nem kapcsolható be ennél a megosztott mappánál. Ellenőrizze a jogosultságait a kiszolgálón, majd próbálkozzon újra.</translation>
+    </message>
+    <message>
+        <source>File sharing over the relay is turned off on the server. Ask the server administrator to turn it on.</source>
+        <translation>A közvetítőn keresztüli fájlmegosztás ki van kapcsolva a kiszolgálón. Kérje meg a kiszolgáló rendszergazdáját, hogy kapcsolja be.</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Hozzáadás</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Érték</translation>
+    </message>
+    <message>
+        <source>Resume syncing</source>
+        <translation>Szinkronizálás folytatása</translation>
+    </message>
+    <message>
+        <source>E&amp;xit</source>
+        <translation>Kilé&amp;pés</translation>
+    </message>
+    <message>
+        <source>The share link was copied to the clipboard.</source>
+        <translation>A megosztási hivatkozás a vágólapra került.</translation>
+    </message>
+    <message>
+        <source>The local sync folder was not found. Restore the folder or choose a different one.</source>
+        <translation>A helyi szinkronizálási mappa nem található. Állítsa helyre a mappát, vagy válasszon egy másikat.</translation>
+    </message>
+    <message>
+        <source>Upgrade Quillmere</source>
+        <translation>A Quillmere frissítése</translation>
+    </message>
+    <message>
+        <source>Add sync task</source>
+        <translation>Szinkronizálási feladat hozzáadása</translation>
+    </message>
+    <message>
+        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it.</source>
+        <translation>A megosztott mappa nincs csatolva a kiszolgálón. Kérje meg a kiszolgáló rendszergazdáját, hogy csatolja.</translation>
+    </message>
+    <message>
+        <source>The server sent an unexpected response. Upgrade the client and the server, then try again.</source>
+        <translation>A kiszolgáló váratlan választ küldött. Frissítse az ügyfélprogramot és a kiszolgálót, majd próbálkozzon újra.</translation>
+    </message>
+    <message>
+        <source>Server overview</source>
+        <translation>Kiszolgáló áttekintése</translation>
+    </message>
+    <message>
+        <source>Syncing stopped because of a problem. Click here for details.</source>
+        <translation>A szinkronizálás egy probléma miatt leállt. A részletekért kattintson ide.</translation>
+    </message>
+    <message>
+        <source>Enter a size of at most %1 MB.</source>
+        <translation>Legfeljebb %1&#xa0;MB méretet adjon meg.</translation>
+    </message>
+    <message>
+        <source>Checking the data...</source>
+        <translation>Adatok ellenőrzése…</translation>
+    </message>
+    <message>
+        <source>Trying to sync...</source>
+        <translation>Szinkronizálási kísérlet…</translation>
+    </message>
+    <message>
+        <source>Click Install to begin the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
+        <translation>A [ProductName] telepítésének megkezdéséhez kattintson a Telepítés gombra. A választások áttekintéséhez kattintson a Vissza, a telepítővarázslóból való kilépéshez a Mégse gombra.</translation>
+    </message>
+    <message>
+        <source>{\VerdanaBold13}[ProductName] setup was interrupted</source>
+        <translation>{\VerdanaBold13}A [ProductName] telepítése megszakadt</translation>
+    </message>
+    <message>
+        <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
+        <translation>A mappa nem üres. Egyesítse a fájljait a kiszolgálón lévőkkel, vagy válasszon másik mappát.</translation>
+    </message>
+    <message>
+        <source>This folder is being indexed. Its files will appear when indexing is complete.</source>
+        <translation>A mappa indexelése folyamatban van. A fájljai az indexelés befejezése után jelennek meg.</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>Felhasználónév</translation>
+    </message>
+    <message>
+        <source>Merge</source>
+        <translation>Egyesítés</translation>
+    </message>
+    <message>
+        <source>You can open the files in this shared folder, but changes you make are not uploaded.</source>
+        <translation>A megosztott mappában lévő fájlokat megnyithatja, de az Ön módosításai nem töltődnek fel.</translation>
+    </message>
+    <message>
+        <source>Network settings</source>
+        <translation>Hálózati beállítások</translation>
+    </message>
+    <message>
+        <source>This folder is already synced with another shared folder. Choose a different folder.</source>
+        <translation>Ez a mappa már egy másik megosztott mappával van szinkronizálva. Válasszon másik mappát.</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Folytatás</translation>
+    </message>
+    <message>
+        <source>The server has no free disk space.</source>
+        <translation>A kiszolgálón nincs szabad lemezterület.</translation>
+    </message>
+    <message>
+        <source>Relay by server ID</source>
+        <translation>Közvetítés kiszolgálóazonosítóval</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Nem</translation>
+    </message>
+    <message>
+        <source>Choose what you want to do.</source>
+        <translation>Válassza ki a kívánt műveletet.</translation>
+    </message>
+    <message>
+        <source>{\VerdanaBold13}[ProductName] setup did not finish</source>
+        <translation>{\VerdanaBold13}A [ProductName] telepítése nem fejeződött be</translation>
+    </message>
+    <message>
+        <source>Quillmere is already running.</source>
+        <translation>A Quillmere már fut.</translation>
+    </message>
+    <message>
+        <source>Welcome</source>
+        <translation>Üdvözöljük</translation>
+    </message>
+    <message>
+        <source>Start Quillmere when I sign in to this computer</source>
+        <translation>A Quillmere indítása, amikor bejelentkezem erre a számítógépre</translation>
+    </message>
+    <message>
+        <source>All files from both folders are kept. If two versions of a file differ, you get both.</source>
+        <translation>Mindkét mappa minden fájlja megmarad. Ha egy fájl két verziója eltér egymástól, mindkettőt megkapja.</translation>
+    </message>
+    <message>
+        <source>Repair the installation</source>
+        <translation>A telepített program javítása</translation>
+    </message>
+    <message>
+        <source>Sync enabled</source>
+        <translation>Szinkronizálás bekapcsolva</translation>
+    </message>
+    <message>
+        <source>Quillmere could not start. Restart the computer, then start Quillmere again.</source>
+        <translation>A Quillmere nem indítható el. Indítsa újra a számítógépet, majd indítsa el ismét a Quillmere programot.</translation>
+    </message>
+    <message>
+        <source>Do you want to cancel the setup of [ProductName]?</source>
+        <translation>Megszakítja a [ProductName] telepítését?</translation>
+    </message>
+    <message>
+        <source>Continue anyway</source>
+        <translation>Folytatás mindenképp</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]Change, repair, or remove [ProductName]</source>
+        <translation>[DlgTitleFont]A [ProductName] módosítása, javítása vagy eltávolítása</translation>
+    </message>
+    <message>
+        <source>Quillmere is set up</source>
+        <translation>A Quillmere beállítása kész</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Nyelv</translation>
+    </message>
+    <message>
+        <source>Advanced settings</source>
+        <translation>Speciális beállítások</translation>
+    </message>
+    <message>
+        <source>Browse versions</source>
+        <translation>Verziók tallózása</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]&amp;Change</source>
+        <translation>[DlgTitleFont]&amp;Módosítás</translation>
+    </message>
+    <message>
+        <source>This connection is inactive. Link it again to continue syncing.</source>
+        <translation>Ez a kapcsolat inaktív. A szinkronizálás folytatásához végezze el újra az összekapcsolást.</translation>
+    </message>
+    <message>
+        <source>Detecting...</source>
+        <translation>Észlelés…</translation>
+    </message>
+    <message>
+        <source>SSL warning</source>
+        <translation>SSL-figyelmeztetés</translation>
+    </message>
+    <message>
+        <source>The relay service cannot be reached. Check your Internet connection, then try again.</source>
+        <translation>A közvetítő szolgáltatás nem érhető el. Ellenőrizze az internetkapcsolatot, majd próbálkozzon újra.</translation>
+    </message>
+    <message>
+        <source>Removes [ProductName] from your computer.</source>
+        <translation>Eltávolítja a [ProductName] programot a számítógépről.</translation>
+    </message>
+    <message>
+        <source>Downloading %1...</source>
+        <translation>%1 letöltése…</translation>
+    </message>
+    <message>
+        <source>&amp;Finish</source>
+        <translation>&amp;Befejezés</translation>
+    </message>
+    <message>
+        <source>Read-only folder</source>
+        <translation>Írásvédett mappa</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]You canceled setup, and your computer was not changed.</source>
+        <translation>[DlgTitleFont]Megszakította a telepítést, a számítógép nem módosult.</translation>
+    </message>
+    <message>
+        <source>The port number is not valid. Enter a number from 1 to 65535.</source>
+        <translation>A portszám érvénytelen. Adjon meg egy 1 és 65535 közötti számot.</translation>
+    </message>
+    <message>
+        <source>Quillmere cannot watch for changes on a network drive. Choose a folder on a local drive.</source>
+        <translation>A Quillmere nem tudja figyelni a hálózati meghajtókon történő változásokat. Válasszon egy helyi meghajtón lévő mappát.</translation>
+    </message>
+    <message>
+        <source>Remove the installation</source>
+        <translation>A telepített program eltávolítása</translation>
+    </message>
+    <message>
+        <source>Direct connection</source>
+        <translation>Közvetlen kapcsolat</translation>
+    </message>
+    <message>
+        <source>The server volume that holds this folder is not mounted. Ask the server administrator to mount it.</source>
+        <translation>Az ezt a mappát tartalmazó kötet nincs csatolva a kiszolgálón. Kérje meg a kiszolgáló rendszergazdáját, hogy csatolja.</translation>
+    </message>
+    <message>
+        <source>This version of Quillmere is already installed. Do you want to install it again?</source>
+        <translation>A Quillmere ezen verziója már telepítve van. Telepíti újra?</translation>
+    </message>
+    <message>
+        <source>This client is too old for the server. Upgrade the client, then try again.</source>
+        <translation>Ez az ügyfélprogram túl régi a kiszolgálóhoz. Frissítse az ügyfélprogramot, majd próbálkozzon újra.</translation>
+    </message>
+    <message>
+        <source>The server is too old for this client.</source>
+        <translation>A kiszolgáló túl régi ehhez az ügyfélprogramhoz.</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Kikapcsolva</translation>
+    </message>
+</context>
+</TS>

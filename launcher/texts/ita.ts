@@ -1,0 +1,1255 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it_IT" sourcelanguage="en_US">
+<context>
+    <name>global</name>
+    <message>
+        <source>{\VerdanaBold13}Welcome to the [ProductName] Setup Wizard</source>
+        <translation>{\VerdanaBold13}Benvenuti nella procedura guidata di installazione di [ProductName]</translation>
+    </message>
+    <message>
+        <source>Start [ProductName] now</source>
+        <translation>Avvia [ProductName] ora</translation>
+    </message>
+    <message>
+        <source>Shared folders</source>
+        <translation>Cartelle condivise</translation>
+    </message>
+    <message>
+        <source>All files are up to date.</source>
+        <translation>Tutti i file sono aggiornati.</translation>
+    </message>
+    <message>
+        <source>Processing...</source>
+        <translation>Elaborazione in corso…</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Esci</translation>
+    </message>
+    <message>
+        <source>The Setup Wizard is ready to begin the installation.</source>
+        <translation>La procedura guidata è pronta per iniziare l&apos;installazione.</translation>
+    </message>
+    <message>
+        <source>File name</source>
+        <translation>Nome file</translation>
+    </message>
+    <message>
+        <source>Connection mode</source>
+        <translation>Modalità di connessione</translation>
+    </message>
+    <message>
+        <source>The local database is damaged. Unlink the connection, then link it again to rebuild the database.</source>
+        <translation>Il database locale è danneggiato. Scollegare la connessione, quindi collegarla di nuovo per ricostruire il database.</translation>
+    </message>
+    <message>
+        <source>&amp;Close the applications and restart them after setup</source>
+        <translation>&amp;Chiudi le applicazioni e riavviale al termine dell&apos;installazione</translation>
+    </message>
+    <message>
+        <source>The folder is a mount point. Choose a folder that is not a mount point.</source>
+        <translation>La cartella è un punto di montaggio. Scegliere una cartella che non sia un punto di montaggio.</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]Ready to remove [ProductName]</source>
+        <translation>[DlgTitleFont]Pronto per la disinstallazione di [ProductName]</translation>
+    </message>
+    <message>
+        <source>The server has been replaced. Click here to link again.</source>
+        <translation>Il server è stato sostituito. Fare clic qui per ripetere il collegamento.</translation>
+    </message>
+    <message>
+        <source>Currently syncing %1 files.</source>
+        <translation>Sincronizzazione di %1 file in corso.</translation>
+    </message>
+    <message>
+        <source>The Setup Wizard lets you change, repair, or remove [ProductName]. Click Next to continue, or click Cancel to exit the Setup Wizard.</source>
+        <translation>La procedura guidata consente di modificare, riparare o disinstallare [ProductName]. Fare clic su «Avanti» per continuare o su «Annulla» per uscire dalla procedura guidata.</translation>
+    </message>
+    <message>
+        <source>Block list</source>
+        <translation>Elenco esclusioni</translation>
+    </message>
+    <message>
+        <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
+        <translation>Eliminare questo link di condivisione?\nChi dispone del link non potrà più aprire il file.</translation>
+    </message>
+    <message>
+        <source>This client is too old for the server.</source>
+        <translation>Questo client è troppo vecchio per il server.</translation>
+    </message>
+    <message>
+        <source>[ProductName] Setup</source>
+        <translation>Installazione di [ProductName]</translation>
+    </message>
+    <message>
+        <source>Sign-in failed</source>
+        <translation>Autenticazione non riuscita</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Versione</translation>
+    </message>
+    <message>
+        <source>Testing the connection...</source>
+        <translation>Verifica della connessione…</translation>
+    </message>
+    <message>
+        <source>The SSL certificate of the server is not trusted, so others may be able to read the data you send. Do you want to continue?</source>
+        <translation>Il certificato SSL del server non è attendibile: altre persone potrebbero leggere i dati inviati. Continuare?</translation>
+    </message>
+    <message>
+        <source>New shared folder</source>
+        <translation>Nuova cartella condivisa</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Informazioni</translation>
+    </message>
+    <message>
+        <source>Check the settings below, then click Done.</source>
+        <translation>Controllare le impostazioni seguenti, quindi fare clic su «Fatto».</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;Stampa</translation>
+    </message>
+    <message>
+        <source>The Setup Wizard is ready to begin the removal.</source>
+        <translation>La procedura guidata è pronta per iniziare la disinstallazione.</translation>
+    </message>
+    <message>
+        <source>This computer is already linked to this server. Edit the existing connection or enter a different server.</source>
+        <translation>Questo computer è già collegato a questo server. Modificare la connessione esistente o indicare un altro server.</translation>
+    </message>
+    <message>
+        <source>Download history</source>
+        <translation>Cronologia download</translation>
+    </message>
+    <message>
+        <source>The connection to the server was lost. Check the network connection, then try again.</source>
+        <translation>La connessione al server è stata interrotta. Controllare la connessione di rete, quindi riprovare.</translation>
+    </message>
+    <message>
+        <source>The SSL certificate of the server could not be verified.</source>
+        <translation>Non è stato possibile verificare il certificato SSL del server.</translation>
+    </message>
+    <message>
+        <source>Use a black and white tray icon</source>
+        <translation>Usa un&apos;icona in bianco e nero nell&apos;area di notifica</translation>
+    </message>
+    <message>
+        <source>The files in this folder will be synced with the server.</source>
+        <translation>I file in questa cartella verranno sincronizzati con il server.</translation>
+    </message>
+    <message>
+        <source>The proxy server requires sign-in</source>
+        <translation>Il server proxy richiede l&apos;autenticazione</translation>
+    </message>
+    <message>
+        <source>Sync tasks</source>
+        <translation>Attività di sincronizzazione</translation>
+    </message>
+    <message>
+        <source>Blocked files</source>
+        <translation>File esclusi</translation>
+    </message>
+    <message>
+        <source>No permission</source>
+        <translation>Permessi insufficienti</translation>
+    </message>
+    <message>
+        <source>The server is too old for this client. Ask the server administrator to upgrade it.</source>
+        <translation>Il server è troppo vecchio per questo client. Chiedere all&apos;amministratore del server di aggiornarlo.</translation>
+    </message>
+    <message>
+        <source>To try again, run setup again later. Click Finish to exit the Setup Wizard.</source>
+        <translation>Per riprovare, eseguire di nuovo l&apos;installazione in un secondo momento. Fare clic su «Fine» per uscire dalla procedura guidata.</translation>
+    </message>
+    <message>
+        <source>The connection to the server is unstable.</source>
+        <translation>La connessione al server è instabile.</translation>
+    </message>
+    <message>
+        <source>A newer version of Quillmere is already installed. To install this version, remove the newer one first.</source>
+        <translation>È già installata una versione più recente di Quillmere. Per installare questa versione, disinstallare prima quella più recente.</translation>
+    </message>
+    <message>
+        <source>Click Repair to repair the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
+        <translation>Fare clic su «Ripara» per riparare l&apos;installazione di [ProductName]. Fare clic su «Indietro» per rivedere le scelte o su «Annulla» per uscire dalla procedura guidata.</translation>
+    </message>
+    <message>
+        <source>Some settings have not been saved. Do you want to save them?</source>
+        <translation>Alcune impostazioni non sono state salvate. Salvarle?</translation>
+    </message>
+    <message>
+        <source>Icon overlays on files</source>
+        <translation>Icone sovrapposte ai file</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Azione</translation>
+    </message>
+    <message>
+        <source>This folder is already used by another sync program. Choose a different folder to avoid conflicts.</source>
+        <translation>Questa cartella è già usata da un altro programma di sincronizzazione. Scegliere un&apos;altra cartella per evitare conflitti.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Elimina</translation>
+    </message>
+    <message>
+        <source>Incompatible version</source>
+        <translation>Versione incompatibile</translation>
+    </message>
+    <message>
+        <source>Change the sync folder</source>
+        <translation>Cambia cartella di sincronizzazione</translation>
+    </message>
+    <message>
+        <source>Enter a complete file name without a folder path.</source>
+        <translation>Inserire un nome di file completo, senza percorso della cartella.</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]An error stopped setup, and its changes were undone.</source>
+        <translation>[DlgTitleFont]Un errore ha interrotto l&apos;installazione e le modifiche apportate sono state annullate.</translation>
+    </message>
+    <message>
+        <source>Standby</source>
+        <translation>In attesa</translation>
+    </message>
+    <message>
+        <source>The Setup Wizard will install [ProductName] on your computer. Click Next to continue, or click Cancel to exit the Setup Wizard.</source>
+        <translation>La procedura guidata installerà [ProductName] sul computer. Fare clic su «Avanti» per continuare o su «Annulla» per uscire dalla procedura guidata.</translation>
+    </message>
+    <message>
+        <source>Sync problem</source>
+        <translation>Problema di sincronizzazione</translation>
+    </message>
+    <message>
+        <source>Read the following license agreement carefully.</source>
+        <translation>Leggere attentamente il seguente contratto di licenza.</translation>
+    </message>
+    <message>
+        <source>Folder not empty</source>
+        <translation>Cartella non vuota</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Encrypt data transfer with SSL</source>
+        <translation>Cifra il trasferimento dei dati con SSL</translation>
+    </message>
+    <message>
+        <source>Some files that need to be updated are in use.</source>
+        <translation>Alcuni file da aggiornare sono in uso.</translation>
+    </message>
+    <message>
+        <source>Read-only</source>
+        <translation>Sola lettura</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aiuto</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Sì</translation>
+    </message>
+    <message>
+        <source>A new version of Quillmere is available. Click here to upgrade.</source>
+        <translation>È disponibile una nuova versione di Quillmere. Fare clic qui per aggiornare.</translation>
+    </message>
+    <message>
+        <source>The download of %1 was canceled.</source>
+        <translation>Il download di «%1» è stato annullato.</translation>
+    </message>
+    <message>
+        <source>The value you entered is not valid. Check it, then try again.</source>
+        <translation>Il valore inserito non è valido. Controllarlo, quindi riprovare.</translation>
+    </message>
+    <message>
+        <source>This file has no earlier versions yet. Change the file and let it sync to create one.</source>
+        <translation>Questo file non ha ancora versioni precedenti. Modificarlo e attendere la sincronizzazione per crearne una.</translation>
+    </message>
+    <message>
+        <source>Unlink</source>
+        <translation>Scollega</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Indietro</translation>
+    </message>
+    <message>
+        <source>Quillmere is initializing...</source>
+        <translation>Inizializzazione di Quillmere…</translation>
+    </message>
+    <message>
+        <source>Start now</source>
+        <translation>Avvia ora</translation>
+    </message>
+    <message>
+        <source>Pause syncing</source>
+        <translation>Sospendi sincronizzazione</translation>
+    </message>
+    <message>
+        <source>Merge mode</source>
+        <translation>Modalità di unione</translation>
+    </message>
+    <message>
+        <source>Quillmere is ready.</source>
+        <translation>Quillmere è pronto.</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Ora</translation>
+    </message>
+    <message>
+        <source>This version could not be downloaded. Check the connection to the server, then try again.</source>
+        <translation>Non è stato possibile scaricare questa versione. Controllare la connessione al server, quindi riprovare.</translation>
+    </message>
+    <message>
+        <source>Applying the settings...</source>
+        <translation>Applicazione delle impostazioni…</translation>
+    </message>
+    <message>
+        <source>Files that are not synced</source>
+        <translation>File non sincronizzati</translation>
+    </message>
+    <message>
+        <source>Created</source>
+        <translation>Data di creazione</translation>
+    </message>
+    <message>
+        <source>The Quillmere service is turned off on the server. Ask the server administrator to turn it on.</source>
+        <translation>Il servizio Quillmere è disattivato sul server. Chiedere all&apos;amministratore del server di attivarlo.</translation>
+    </message>
+    <message>
+        <source>Internet</source>
+        <translation>Internet</translation>
+    </message>
+    <message>
+        <source>Choose the shared folders to sync</source>
+        <translation>Scegliere le cartelle condivise da sincronizzare</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]Re&amp;move</source>
+        <translation>[DlgTitleFont]&amp;Disinstalla</translation>
+    </message>
+    <message>
+        <source>Uploading...</source>
+        <translation>Invio in corso…</translation>
+    </message>
+    <message>
+        <source>To use selective sync, ask the server administrator to upgrade Quillmere on the server.</source>
+        <translation>Per usare la sincronizzazione selettiva, chiedere all&apos;amministratore del server di aggiornare Quillmere sul server.</translation>
+    </message>
+    <message>
+        <source>No settings have been changed.</source>
+        <translation>Nessuna impostazione è stata modificata.</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]Files in use</source>
+        <translation>[DlgTitleFont]File in uso</translation>
+    </message>
+    <message>
+        <source>Repairs errors in the installation of [ProductName] by restoring missing or damaged files and shortcuts.</source>
+        <translation>Corregge gli errori dell&apos;installazione di [ProductName] ripristinando i file e i collegamenti mancanti o danneggiati.</translation>
+    </message>
+    <message>
+        <source>Blocked file extensions</source>
+        <translation>Estensioni di file escluse</translation>
+    </message>
+    <message>
+        <source>Syncing is paused.</source>
+        <translation>La sincronizzazione è sospesa.</translation>
+    </message>
+    <message>
+        <source>{\VerdanaBold13}Welcome back to the [ProductName] Setup Wizard</source>
+        <translation>{\VerdanaBold13}Bentornati nella procedura guidata di installazione di [ProductName]</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Password</translation>
+    </message>
+    <message>
+        <source>The volume that holds the sync folder is not mounted. Mount the volume, then resume syncing.</source>
+        <translation>Il volume che contiene la cartella di sincronizzazione non è montato. Montare il volume, quindi riprendere la sincronizzazione.</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Modifica</translation>
+    </message>
+    <message>
+        <source>This computer has no free disk space.</source>
+        <translation>Lo spazio su disco di questo computer è esaurito.</translation>
+    </message>
+    <message>
+        <source>Proxy server address</source>
+        <translation>Indirizzo del server proxy</translation>
+    </message>
+    <message>
+        <source>&amp;Retry</source>
+        <translation>&amp;Riprova</translation>
+    </message>
+    <message>
+        <source>&amp;Ignore</source>
+        <translation>&amp;Ignora</translation>
+    </message>
+    <message>
+        <source>A folder with this name already exists. Do you want to merge its files with those on the server?</source>
+        <translation>Esiste già una cartella con questo nome. Unire i file che contiene a quelli sul server?</translation>
+    </message>
+    <message>
+        <source>Quillmere keeps your files in sync between your computers and your server.</source>
+        <translation>Quillmere mantiene sincronizzati i file tra i computer e il server.</translation>
+    </message>
+    <message>
+        <source>Change the installed features</source>
+        <translation>Modifica le funzionalità installate</translation>
+    </message>
+    <message>
+        <source>Welcome to Quillmere</source>
+        <translation>Benvenuti in Quillmere</translation>
+    </message>
+    <message>
+        <source>&amp;Repair</source>
+        <translation>&amp;Ripara</translation>
+    </message>
+    <message>
+        <source>Upgrading Quillmere...</source>
+        <translation>Aggiornamento di Quillmere…</translation>
+    </message>
+    <message>
+        <source>Sync mode</source>
+        <translation>Modalità di sincronizzazione</translation>
+    </message>
+    <message>
+        <source>Enter a domain name, an IP address, or a server ID.</source>
+        <translation>Inserire un nome di dominio, un indirizzo IP o un ID server.</translation>
+    </message>
+    <message>
+        <source>A share link could not be created for this file. Check the connection to the server, then try again.</source>
+        <translation>Non è stato possibile creare un link di condivisione per questo file. Controllare la connessione al server, quindi riprovare.</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Applica</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fatto</translation>
+    </message>
+    <message>
+        <source>Syncing %1 files...</source>
+        <translation>Sincronizzazione di %1 file…</translation>
+    </message>
+    <message>
+        <source>Link again</source>
+        <translation>Collega di nuovo</translation>
+    </message>
+    <message>
+        <source>Your files, in sync everywhere</source>
+        <translation>File sincronizzati, ovunque</translation>
+    </message>
+    <message>
+        <source>Destination</source>
+        <translation>Destinazione</translation>
+    </message>
+    <message>
+        <source>The Setup Wizard is making the changes you chose.</source>
+        <translation>La procedura guidata sta apportando le modifiche scelte.</translation>
+    </message>
+    <message>
+        <source>System default</source>
+        <translation>Predefinita del sistema</translation>
+    </message>
+    <message>
+        <source>The folders and files you cleared will be removed from this computer. They will be kept on the server.</source>
+        <translation>Le cartelle e i file deselezionati verranno rimossi da questo computer. Resteranno disponibili sul server.</translation>
+    </message>
+    <message>
+        <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
+        <translation>Il programma di installazione ha apportato tutte le modifiche scelte. Fare clic su «Fine» per uscire dalla procedura guidata.</translation>
+    </message>
+    <message>
+        <source>Click Remove to remove [ProductName] from your computer. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
+        <translation>Fare clic su «Disinstalla» per rimuovere [ProductName] dal computer. Fare clic su «Indietro» per rivedere le scelte o su «Annulla» per uscire dalla procedura guidata.</translation>
+    </message>
+    <message>
+        <source>No space left</source>
+        <translation>Spazio esaurito</translation>
+    </message>
+    <message>
+        <source>Inactive</source>
+        <translation>Inattiva</translation>
+    </message>
+    <message>
+        <source>Your quota on the server is full.</source>
+        <translation>La quota sul server è esaurita.</translation>
+    </message>
+    <message>
+        <source>Unlink this connection?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation>Scollegare questa connessione?\nI file verranno mantenuti su questo computer e sul server, ma non verranno più sincronizzati.</translation>
+    </message>
+    <message>
+        <source>The relay service has a problem. Try again later, or connect with the IP address of the server.</source>
+        <translation>Il servizio di relay ha riscontrato un problema. Riprovare più tardi o connettersi con l&apos;indirizzo IP del server.</translation>
+    </message>
+    <message>
+        <source>Server ID</source>
+        <translation>ID server</translation>
+    </message>
+    <message>
+        <source>Blocked file names</source>
+        <translation>Nomi di file esclusi</translation>
+    </message>
+    <message>
+        <source>Server address</source>
+        <translation>Indirizzo del server</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continua</translation>
+    </message>
+    <message>
+        <source>Enabled</source>
+        <translation>Attivato</translation>
+    </message>
+    <message>
+        <source>This computer has no free disk space. Free some space to continue syncing.</source>
+        <translation>Lo spazio su disco di questo computer è esaurito. Liberare spazio per continuare la sincronizzazione.</translation>
+    </message>
+    <message>
+        <source>Folders to sync</source>
+        <translation>Cartelle da sincronizzare</translation>
+    </message>
+    <message>
+        <source>Choose a sync folder</source>
+        <translation>Scegliere una cartella di sincronizzazione</translation>
+    </message>
+    <message>
+        <source>Connection settings</source>
+        <translation>Impostazioni di connessione</translation>
+    </message>
+    <message>
+        <source>Selective sync</source>
+        <translation>Sincronizzazione selettiva</translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation>Computer</translation>
+    </message>
+    <message>
+        <source>Your quota on the server is full. Delete files you do not need, or ask the server administrator for a larger quota.</source>
+        <translation>La quota sul server è esaurita. Eliminare i file non necessari o chiedere all&apos;amministratore del server una quota maggiore.</translation>
+    </message>
+    <message>
+        <source>After you start [ProductName], you can find it in the system tray.</source>
+        <translation>Dopo l&apos;avvio, [ProductName] è disponibile nell&apos;area di notifica.</translation>
+    </message>
+    <message>
+        <source>&amp;Leave the applications open and restart the computer later</source>
+        <translation>&amp;Lascia aperte le applicazioni e riavvia il computer in seguito</translation>
+    </message>
+    <message>
+        <source>Use the following proxy server</source>
+        <translation>Usa il seguente server proxy</translation>
+    </message>
+    <message>
+        <source>This file was changed in two places. Compare both copies, then keep the one you need.</source>
+        <translation>Questo file è stato modificato in due posizioni. Confrontare le due copie, quindi conservare quella necessaria.</translation>
+    </message>
+    <message>
+        <source>One place for your files on every computer, through a server of your own</source>
+        <translation>Un unico posto per i file su ogni computer, tramite il proprio server</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Show desktop notifications</source>
+        <translation>Mostra notifiche sul desktop</translation>
+    </message>
+    <message>
+        <source>The following applications use files that setup needs to update. Close them and click Retry, click Ignore to continue without closing them, or click Exit to leave setup.</source>
+        <translation>Le seguenti applicazioni usano file che il programma di installazione deve aggiornare. Chiuderle e fare clic su «Riprova», oppure fare clic su «Ignora» per continuare senza chiuderle o su «Esci» per abbandonare l&apos;installazione.</translation>
+    </message>
+    <message>
+        <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
+        <translation>Impossibile raggiungere il server. Controllare la connessione di rete e l&apos;indirizzo del server, quindi riprovare.</translation>
+    </message>
+    <message>
+        <source>Local sync folder</source>
+        <translation>Cartella di sincronizzazione locale</translation>
+    </message>
+    <message>
+        <source>Files that match an entry in this list are not synced.</source>
+        <translation>I file che corrispondono a una voce di questo elenco non vengono sincronizzati.</translation>
+    </message>
+    <message>
+        <source>Edit connection</source>
+        <translation>Modifica connessione</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Opzioni</translation>
+    </message>
+    <message>
+        <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
+        <translation>Le seguenti applicazioni usano file che il programma di installazione deve aggiornare. Scegliere se chiuderle automaticamente. Se restano aperte, sarà necessario riavviare il computer per completare l&apos;installazione.</translation>
+    </message>
+    <message>
+        <source>The Setup Wizard is ready to begin the repair.</source>
+        <translation>La procedura guidata è pronta per iniziare la riparazione.</translation>
+    </message>
+    <message>
+        <source>Open Quillmere</source>
+        <translation>Apri Quillmere</translation>
+    </message>
+    <message>
+        <source>Please restart %1 to apply the new language settings.</source>
+        <translation>Riavviare %1 per applicare le nuove impostazioni della lingua.</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Sospendi</translation>
+    </message>
+    <message>
+        <source>Show icon overlays on filtered files</source>
+        <translation>Mostra icone sovrapposte ai file filtrati</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Impostazioni</translation>
+    </message>
+    <message>
+        <source>Loading...</source>
+        <translation>Caricamento…</translation>
+    </message>
+    <message>
+        <source>You can sync at most %1 shared folders. Stop syncing one of them before you add another.</source>
+        <translation>Il numero massimo di cartelle condivise sincronizzabili è %1. Interrompere la sincronizzazione di una cartella prima di aggiungerne un&apos;altra.</translation>
+    </message>
+    <message>
+        <source>Unlink this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation>Scollegare questa attività di sincronizzazione?\nI relativi file verranno mantenuti su questo computer e sul server, ma non verranno più sincronizzati.</translation>
+    </message>
+    <message>
+        <source>Starting Quillmere...</source>
+        <translation>Avvio di Quillmere…</translation>
+    </message>
+    <message>
+        <source>Quillmere could not be upgraded. Restart the computer, then try again.</source>
+        <translation>Non è stato possibile aggiornare Quillmere. Riavviare il computer, quindi riprovare.</translation>
+    </message>
+    <message>
+        <source>Block names that begin with a dot</source>
+        <translation>Escludi i nomi che iniziano con un punto</translation>
+    </message>
+    <message>
+        <source>The server has no free disk space. Ask the server administrator to free some space.</source>
+        <translation>Lo spazio su disco del server è esaurito. Chiedere all&apos;amministratore del server di liberare spazio.</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]License agreement</source>
+        <translation>[DlgTitleFont]Contratto di licenza</translation>
+    </message>
+    <message>
+        <source>%1 was downloaded.</source>
+        <translation>Il file «%1» è stato scaricato.</translation>
+    </message>
+    <message>
+        <source>The versions of this file could not be listed. Check the connection to the server, then try again.</source>
+        <translation>Non è stato possibile elencare le versioni di questo file. Controllare la connessione al server, quindi riprovare.</translation>
+    </message>
+    <message>
+        <source>Connected to the server.</source>
+        <translation>Connessione al server stabilita.</translation>
+    </message>
+    <message>
+        <source>{\VerdanaBold13}The [ProductName] Setup Wizard is complete</source>
+        <translation>{\VerdanaBold13}La procedura guidata di installazione di [ProductName] è stata completata</translation>
+    </message>
+    <message>
+        <source>Local network</source>
+        <translation>Rete locale</translation>
+    </message>
+    <message>
+        <source>Do not use a proxy server</source>
+        <translation>Non usare un server proxy</translation>
+    </message>
+    <message>
+        <source>Shared folder not found</source>
+        <translation>Cartella condivisa non trovata</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Avanti</translation>
+    </message>
+    <message>
+        <source>Parvenor Quillmere</source>
+        <translation>Parvenor Quillmere</translation>
+    </message>
+    <message>
+        <source>%1 could not be downloaded. Check the connection to the server, then try again.</source>
+        <translation>Non è stato possibile scaricare il file «%1». Controllare la connessione al server, quindi riprovare.</translation>
+    </message>
+    <message>
+        <source>Watching for file changes...</source>
+        <translation>Monitoraggio delle modifiche ai file…</translation>
+    </message>
+    <message>
+        <source>Shared folder</source>
+        <translation>Cartella condivisa</translation>
+    </message>
+    <message>
+        <source>Client options</source>
+        <translation>Opzioni del client</translation>
+    </message>
+    <message>
+        <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
+        <translation>Non è stato possibile eliminare il link di condivisione. Controllare la connessione al server, quindi riprovare.</translation>
+    </message>
+    <message>
+        <source>The SSL certificate of the server could not be verified. Ask the server administrator to check the certificate.</source>
+        <translation>Non è stato possibile verificare il certificato SSL del server. Chiedere all&apos;amministratore del server di controllare il certificato.</translation>
+    </message>
+    <message>
+        <source>This is not the server the connection was linked to. Check the server address, or link again.</source>
+        <translation>Questo non è il server a cui era collegata la connessione. Controllare l&apos;indirizzo del server o ripetere il collegamento.</translation>
+    </message>
+    <message>
+        <source>[ProductName] has no features that can be changed separately.</source>
+        <translation>[ProductName] non ha funzionalità modificabili separatamente.</translation>
+    </message>
+    <message>
+        <source>The address or port of the proxy server is missing. Enter both, then try again.</source>
+        <translation>Manca l&apos;indirizzo o la porta del server proxy. Inserirli entrambi, quindi riprovare.</translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation>Proxy</translation>
+    </message>
+    <message>
+        <source>The user name is missing. Enter a user name.</source>
+        <translation>Manca il nome utente. Inserire un nome utente.</translation>
+    </message>
+    <message>
+        <source>Delete link</source>
+        <translation>Elimina link</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Errore</translation>
+    </message>
+    <message>
+        <source>I &amp;accept the terms of the license agreement</source>
+        <translation>A&amp;ccetto i termini del contratto di licenza</translation>
+    </message>
+    <message>
+        <source>Updated: %1</source>
+        <translation>Aggiornato: %1</translation>
+    </message>
+    <message>
+        <source>Manage connections</source>
+        <translation>Gestisci connessioni</translation>
+    </message>
+    <message>
+        <source>Link to another server</source>
+        <translation>Collega a un altro server</translation>
+    </message>
+    <message>
+        <source>Show icon overlays</source>
+        <translation>Mostra icone sovrapposte</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]Setting up [ProductName]</source>
+        <translation>[DlgTitleFont]Configurazione di [ProductName]</translation>
+    </message>
+    <message>
+        <source>Service turned off</source>
+        <translation>Servizio disattivato</translation>
+    </message>
+    <message>
+        <source>Sync</source>
+        <translation>Sincronizza</translation>
+    </message>
+    <message>
+        <source>Stop syncing this shared folder?\nThe files already on this computer will be kept.</source>
+        <translation>Interrompere la sincronizzazione di questa cartella condivisa?\nI file già presenti su questo computer verranno mantenuti.</translation>
+    </message>
+    <message>
+        <source>&amp;Install</source>
+        <translation>I&amp;nstalla</translation>
+    </message>
+    <message>
+        <source>File filter</source>
+        <translation>Filtro file</translation>
+    </message>
+    <message>
+        <source>Status details</source>
+        <translation>Dettagli dello stato</translation>
+    </message>
+    <message>
+        <source>I &amp;do not accept the terms of the license agreement</source>
+        <translation>&amp;Non accetto i termini del contratto di licenza</translation>
+    </message>
+    <message>
+        <source>Something went wrong. Try again, and contact the server administrator if the problem continues.</source>
+        <translation>Si è verificato un problema. Riprovare e, se il problema persiste, contattare l&apos;amministratore del server.</translation>
+    </message>
+    <message>
+        <source>Tray icons</source>
+        <translation>Icone nell&apos;area di notifica</translation>
+    </message>
+    <message>
+        <source>The folder is read-only. Choose a folder you can write to.</source>
+        <translation>La cartella è in sola lettura. Scegliere una cartella in cui sia possibile scrivere.</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Avanti</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Indietro</translation>
+    </message>
+    <message>
+        <source>Proxy settings</source>
+        <translation>Impostazioni del proxy</translation>
+    </message>
+    <message>
+        <source>You are not signed in as an administrator, so Quillmere might not install completely. Do you want to continue?</source>
+        <translation>L&apos;accesso non è stato eseguito come amministratore, quindi Quillmere potrebbe non essere installato completamente. Continuare?</translation>
+    </message>
+    <message>
+        <source>Use the tray icon at any time to see the sync status or change the settings.</source>
+        <translation>Usare l&apos;icona nell&apos;area di notifica in qualsiasi momento per visualizzare lo stato della sincronizzazione o modificare le impostazioni.</translation>
+    </message>
+    <message>
+        <source>Share link created</source>
+        <translation>Link di condivisione creato</translation>
+    </message>
+    <message>
+        <source>The user name or password is not correct. Check both, then try again.</source>
+        <translation>Nome utente o password non corretti. Controllarli entrambi, quindi riprovare.</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]Ready to repair [ProductName]</source>
+        <translation>[DlgTitleFont]Pronto per la riparazione di [ProductName]</translation>
+    </message>
+    <message>
+        <source>The shared folder %1 is now available. Click here to sync it.</source>
+        <translation>La cartella condivisa «%1» è ora disponibile. Fare clic qui per sincronizzarla.</translation>
+    </message>
+    <message>
+        <source>Status:</source>
+        <translation>Stato:</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Dimensione</translation>
+    </message>
+    <message>
+        <source>Connection information</source>
+        <translation>Informazioni sulla connessione</translation>
+    </message>
+    <message>
+        <source>Lets you choose which features are installed.</source>
+        <translation>Consente di scegliere le funzionalità da installare.</translation>
+    </message>
+    <message>
+        <source>Folder name</source>
+        <translation>Nome cartella</translation>
+    </message>
+    <message>
+        <source>Folder is a mount point</source>
+        <translation>La cartella è un punto di montaggio</translation>
+    </message>
+    <message>
+        <source>Choose another folder</source>
+        <translation>Scegli un&apos;altra cartella</translation>
+    </message>
+    <message>
+        <source>Download only</source>
+        <translation>Solo download</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]&amp;Repair</source>
+        <translation>[DlgTitleFont]&amp;Ripara</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>&amp;Disinstalla</translation>
+    </message>
+    <message>
+        <source>Maximum file size</source>
+        <translation>Dimensione massima dei file</translation>
+    </message>
+    <message>
+        <source>Enter the server address and the account you use on the server.</source>
+        <translation>Inserire l&apos;indirizzo del server e l&apos;account usato sul server.</translation>
+    </message>
+    <message>
+        <source>A different server was found at the server address.</source>
+        <translation>All&apos;indirizzo registrato è stato trovato un altro server.</translation>
+    </message>
+    <message>
+        <source>Linking to the server...</source>
+        <translation>Collegamento al server…</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Porta</translation>
+    </message>
+    <message>
+        <source>Share link</source>
+        <translation>Crea link di condivisione</translation>
+    </message>
+    <message>
+        <source>The user name or password was not accepted by the server. Edit the connection and enter them again.</source>
+        <translation>Il server non ha accettato il nome utente o la password. Modificare la connessione e inserirli di nuovo.</translation>
+    </message>
+    <message>
+        <source>Recently updated files</source>
+        <translation>File aggiornati di recente</translation>
+    </message>
+    <message>
+        <source>Use the system proxy settings</source>
+        <translation>Usa le impostazioni proxy del sistema</translation>
+    </message>
+    <message>
+        <source>Change folder</source>
+        <translation>Cambia cartella</translation>
+    </message>
+    <message>
+        <source>Finish</source>
+        <translation>Fine</translation>
+    </message>
+    <message>
+        <source>Folder path</source>
+        <translation>Percorso della cartella</translation>
+    </message>
+    <message>
+        <source>Downloading...</source>
+        <translation>Download in corso…</translation>
+    </message>
+    <message>
+        <source>The file is locked</source>
+        <translation>Il file è bloccato</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Preparing...</source>
+        <translation>Preparazione…</translation>
+    </message>
+    <message>
+        <source>Updating files...</source>
+        <translation>Aggiornamento dei file…</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]Ready to install [ProductName]</source>
+        <translation>[DlgTitleFont]Pronto per l&apos;installazione di [ProductName]</translation>
+    </message>
+    <message>
+        <source>Checking the user name and password...</source>
+        <translation>Verifica del nome utente e della password…</translation>
+    </message>
+    <message>
+        <source>Wait while the Setup Wizard sets up [ProductName]. This can take several minutes.</source>
+        <translation>Attendere che la procedura guidata configuri [ProductName]. L&apos;operazione può richiedere diversi minuti.</translation>
+    </message>
+    <message>
+        <source>Manage</source>
+        <translation>Gestisci</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Stato</translation>
+    </message>
+    <message>
+        <source>The server ID is not valid. Check the server ID, then try again.</source>
+        <translation>L&apos;ID server non è valido. Controllarlo, quindi riprovare.</translation>
+    </message>
+    <message>
+        <source>Open sync folder</source>
+        <translation>Apri cartella di sincronizzazione</translation>
+    </message>
+    <message>
+        <source>When the tray icon is double-clicked</source>
+        <translation>Al doppio clic sull&apos;icona nell&apos;area di notifica</translation>
+    </message>
+    <message>
+        <source>Syncing could not be turned on for this shared folder. Check your permissions on the server, then try again.</source>
+        <translation>Non è stato possibile attivare la sincronizzazione per questa cartella condivisa. Controllare i propri permessi sul server, quindi riprovare.</translation>
+    </message>
+    <message>
+        <source>File sharing over the relay is turned off on the server. Ask the server administrator to turn it on.</source>
+        <translation>La condivisione di file tramite relay è disattivata sul server. Chiedere all&apos;amministratore del server di attivarla.</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Aggiungi</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valore</translation>
+    </message>
+    <message>
+        <source>Resume syncing</source>
+        <translation>Riprendi sincronizzazione</translation>
+    </message>
+    <message>
+        <source>E&amp;xit</source>
+        <translation>&amp;Esci</translation>
+    </message>
+    <message>
+        <source>The share link was copied to the clipboard.</source>
+        <translation>Il link di condivisione è stato copiato negli appunti.</translation>
+    </message>
+    <message>
+        <source>The local sync folder was not found. Restore the folder or choose a different one.</source>
+        <translation>La cartella di sincronizzazione locale non è stata trovata. Ripristinarla o sceglierne un&apos;altra.</translation>
+    </message>
+    <message>
+        <source>Upgrade Quillmere</source>
+        <translation>Aggiornamento di Quillmere</translation>
+    </message>
+    <message>
+        <source>Add sync task</source>
+        <translation>Aggiungi attività di sincronizzazione</translation>
+    </message>
+    <message>
+        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it.</source>
+        <translation>La cartella condivisa non è montata sul server. Chiedere all&apos;amministratore del server di montarla.</translation>
+    </message>
+    <message>
+        <source>The server sent an unexpected response. Upgrade the client and the server, then try again.</source>
+        <translation>Il server ha inviato una risposta imprevista. Aggiornare il client e il server, quindi riprovare.</translation>
+    </message>
+    <message>
+        <source>Server overview</source>
+        <translation>Panoramica del server</translation>
+    </message>
+    <message>
+        <source>Syncing stopped because of a problem. Click here for details.</source>
+        <translation>La sincronizzazione si è interrotta a causa di un problema. Fare clic qui per i dettagli.</translation>
+    </message>
+    <message>
+        <source>Enter a size of at most %1 MB.</source>
+        <translation>Inserire una dimensione non superiore a %1 MB.</translation>
+    </message>
+    <message>
+        <source>Checking the data...</source>
+        <translation>Controllo dei dati…</translation>
+    </message>
+    <message>
+        <source>Trying to sync...</source>
+        <translation>Tentativo di sincronizzazione…</translation>
+    </message>
+    <message>
+        <source>Click Install to begin the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
+        <translation>Fare clic su «Installa» per iniziare l&apos;installazione di [ProductName]. Fare clic su «Indietro» per rivedere le scelte o su «Annulla» per uscire dalla procedura guidata.</translation>
+    </message>
+    <message>
+        <source>{\VerdanaBold13}[ProductName] setup was interrupted</source>
+        <translation>{\VerdanaBold13}L&apos;installazione di [ProductName] è stata interrotta</translation>
+    </message>
+    <message>
+        <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
+        <translation>La cartella non è vuota. Unire i file che contiene a quelli sul server o scegliere un&apos;altra cartella.</translation>
+    </message>
+    <message>
+        <source>This folder is being indexed. Its files will appear when indexing is complete.</source>
+        <translation>L&apos;indicizzazione di questa cartella è in corso. I file verranno visualizzati al termine.</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>Nome utente</translation>
+    </message>
+    <message>
+        <source>Merge</source>
+        <translation>Unisci</translation>
+    </message>
+    <message>
+        <source>You can open the files in this shared folder, but changes you make are not uploaded.</source>
+        <translation>È possibile aprire i file in questa cartella condivisa, ma le modifiche apportate non vengono inviate al server.</translation>
+    </message>
+    <message>
+        <source>Network settings</source>
+        <translation>Impostazioni di rete</translation>
+    </message>
+    <message>
+        <source>This folder is already synced with another shared folder. Choose a different folder.</source>
+        <translation>Questa cartella è già sincronizzata con un&apos;altra cartella condivisa. Scegliere una cartella diversa.</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Riprendi</translation>
+    </message>
+    <message>
+        <source>The server has no free disk space.</source>
+        <translation>Lo spazio su disco del server è esaurito.</translation>
+    </message>
+    <message>
+        <source>Relay by server ID</source>
+        <translation>Relay tramite ID server</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;No</translation>
+    </message>
+    <message>
+        <source>Choose what you want to do.</source>
+        <translation>Scegliere l&apos;operazione da eseguire.</translation>
+    </message>
+    <message>
+        <source>{\VerdanaBold13}[ProductName] setup did not finish</source>
+        <translation>{\VerdanaBold13}L&apos;installazione di [ProductName] non è stata completata</translation>
+    </message>
+    <message>
+        <source>Quillmere is already running.</source>
+        <translation>Quillmere è già in esecuzione.</translation>
+    </message>
+    <message>
+        <source>Welcome</source>
+        <translation>Benvenuti</translation>
+    </message>
+    <message>
+        <source>Start Quillmere when I sign in to this computer</source>
+        <translation>Avvia Quillmere all&apos;accesso a questo computer</translation>
+    </message>
+    <message>
+        <source>All files from both folders are kept. If two versions of a file differ, you get both.</source>
+        <translation>Tutti i file di entrambe le cartelle vengono mantenuti. Se due versioni di un file sono diverse, restano disponibili entrambe.</translation>
+    </message>
+    <message>
+        <source>Repair the installation</source>
+        <translation>Ripara l&apos;installazione</translation>
+    </message>
+    <message>
+        <source>Sync enabled</source>
+        <translation>Sincronizzazione attivata</translation>
+    </message>
+    <message>
+        <source>Quillmere could not start. Restart the computer, then start Quillmere again.</source>
+        <translation>Non è stato possibile avviare Quillmere. Riavviare il computer, quindi avviare di nuovo Quillmere.</translation>
+    </message>
+    <message>
+        <source>Do you want to cancel the setup of [ProductName]?</source>
+        <translation>Annullare l&apos;installazione di [ProductName]?</translation>
+    </message>
+    <message>
+        <source>Continue anyway</source>
+        <translation>Continua comunque</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]Change, repair, or remove [ProductName]</source>
+        <translation>[DlgTitleFont]Modifica, riparazione o disinstallazione di [ProductName]</translation>
+    </message>
+    <message>
+        <source>Quillmere is set up</source>
+        <translation>Quillmere è configurato</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Lingua</translation>
+    </message>
+    <message>
+        <source>Advanced settings</source>
+        <translation>Impostazioni avanzate</translation>
+    </message>
+    <message>
+        <source>Browse versions</source>
+        <translation>Sfoglia versioni</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]&amp;Change</source>
+        <translation>[DlgTitleFont]&amp;Modifica</translation>
+    </message>
+    <message>
+        <source>This connection is inactive. Link it again to continue syncing.</source>
+        <translation>Questa connessione è inattiva. Collegarla di nuovo per continuare la sincronizzazione.</translation>
+    </message>
+    <message>
+        <source>Detecting...</source>
+        <translation>Rilevamento…</translation>
+    </message>
+    <message>
+        <source>SSL warning</source>
+        <translation>Avviso SSL</translation>
+    </message>
+    <message>
+        <source>The relay service cannot be reached. Check your Internet connection, then try again.</source>
+        <translation>Impossibile raggiungere il servizio di relay. Controllare la connessione a Internet, quindi riprovare.</translation>
+    </message>
+    <message>
+        <source>Removes [ProductName] from your computer.</source>
+        <translation>Rimuove [ProductName] dal computer.</translation>
+    </message>
+    <message>
+        <source>Downloading %1...</source>
+        <translation>Download di «%1»…</translation>
+    </message>
+    <message>
+        <source>&amp;Finish</source>
+        <translation>&amp;Fine</translation>
+    </message>
+    <message>
+        <source>Read-only folder</source>
+        <translation>Cartella in sola lettura</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]You canceled setup, and your computer was not changed.</source>
+        <translation>[DlgTitleFont]L&apos;installazione è stata annullata e il computer non è stato modificato.</translation>
+    </message>
+    <message>
+        <source>The port number is not valid. Enter a number from 1 to 65535.</source>
+        <translation>Il numero di porta non è valido. Inserire un numero compreso tra 1 e 65535.</translation>
+    </message>
+    <message>
+        <source>Quillmere cannot watch for changes on a network drive. Choose a folder on a local drive.</source>
+        <translation>Quillmere non può monitorare le modifiche su un&apos;unità di rete. Scegliere una cartella su un&apos;unità locale.</translation>
+    </message>
+    <message>
+        <source>Remove the installation</source>
+        <translation>Rimuovi l&apos;installazione</translation>
+    </message>
+    <message>
+        <source>Direct connection</source>
+        <translation>Connessione diretta</translation>
+    </message>
+    <message>
+        <source>The server volume that holds this folder is not mounted. Ask the server administrator to mount it.</source>
+        <translation>Il volume del server che contiene questa cartella non è montato. Chiedere all&apos;amministratore del server di montarlo.</translation>
+    </message>
+    <message>
+        <source>This version of Quillmere is already installed. Do you want to install it again?</source>
+        <translation>Questa versione di Quillmere è già installata. Installarla di nuovo?</translation>
+    </message>
+    <message>
+        <source>This client is too old for the server. Upgrade the client, then try again.</source>
+        <translation>Questo client è troppo vecchio per il server. Aggiornare il client, quindi riprovare.</translation>
+    </message>
+    <message>
+        <source>The server is too old for this client.</source>
+        <translation>Il server è troppo vecchio per questo client.</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Disattivato</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,1255 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja_JP" sourcelanguage="en_US">
+<context>
+    <name>global</name>
+    <message>
+        <source>{\VerdanaBold13}Welcome to the [ProductName] Setup Wizard</source>
+        <translation>{\VerdanaBold13}[ProductName]セットアップウィザードへようこそ</translation>
+    </message>
+    <message>
+        <source>Start [ProductName] now</source>
+        <translation>今すぐ[ProductName]を起動する</translation>
+    </message>
+    <message>
+        <source>Shared folders</source>
+        <translation>共有フォルダー</translation>
+    </message>
+    <message>
+        <source>All files are up to date.</source>
+        <translation>すべてのファイルが最新の状態です。</translation>
+    </message>
+    <message>
+        <source>Processing...</source>
+        <translation>処理中…</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>The Setup Wizard is ready to begin the installation.</source>
+        <translation>セットアップウィザードによるインストールの準備ができました。</translation>
+    </message>
+    <message>
+        <source>File name</source>
+        <translation>ファイル名</translation>
+    </message>
+    <message>
+        <source>Connection mode</source>
+        <translation>接続モード</translation>
+    </message>
+    <message>
+        <source>The local database is damaged. Unlink the connection, then link it again to rebuild the database.</source>
+        <translation>ローカルデータベースが破損しています。接続のリンクを解除してから再リンクし、データベースを再構築してください。</translation>
+    </message>
+    <message>
+        <source>&amp;Close the applications and restart them after setup</source>
+        <translation>アプリケーションを閉じ、セットアップ後に再起動する(&amp;C)</translation>
+    </message>
+    <message>
+        <source>The folder is a mount point. Choose a folder that is not a mount point.</source>
+        <translation>このフォルダーはマウントポイントです。マウントポイントではないフォルダーを選択してください。</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]Ready to remove [ProductName]</source>
+        <translation>[DlgTitleFont][ProductName]を削除する準備ができました</translation>
+    </message>
+    <message>
+        <source>The server has been replaced. Click here to link again.</source>
+        <translation>サーバーが交換されています。再リンクするにはここをクリックしてください。</translation>
+    </message>
+    <message>
+        <source>Currently syncing %1 files.</source>
+        <translation>%1個のファイルを同期しています。</translation>
+    </message>
+    <message>
+        <source>The Setup Wizard lets you change, repair, or remove [ProductName]. Click Next to continue, or click Cancel to exit the Setup Wizard.</source>
+        <translation>セットアップウィザードでは、[ProductName]の変更、修復、削除を行えます。続行するには「次へ」を、セットアップウィザードを終了するには「キャンセル」をクリックしてください。</translation>
+    </message>
+    <message>
+        <source>Block list</source>
+        <translation>除外リスト</translation>
+    </message>
+    <message>
+        <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
+        <translation>この共有リンクを削除しますか？\nリンクを知っているユーザーはファイルを開けなくなります。</translation>
+    </message>
+    <message>
+        <source>This client is too old for the server.</source>
+        <translation>このクライアントは古いため、サーバーに対応していません。</translation>
+    </message>
+    <message>
+        <source>[ProductName] Setup</source>
+        <translation>[ProductName]セットアップ</translation>
+    </message>
+    <message>
+        <source>Sign-in failed</source>
+        <translation>サインイン失敗</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>バージョン</translation>
+    </message>
+    <message>
+        <source>Testing the connection...</source>
+        <translation>接続をテストしています…</translation>
+    </message>
+    <message>
+        <source>The SSL certificate of the server is not trusted, so others may be able to read the data you send. Do you want to continue?</source>
+        <translation>サーバーのSSL証明書が信頼されていないため、送信するデータを第三者に読み取られる可能性があります。続行しますか？</translation>
+    </message>
+    <message>
+        <source>New shared folder</source>
+        <translation>新しい共有フォルダー</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>バージョン情報</translation>
+    </message>
+    <message>
+        <source>Check the settings below, then click Done.</source>
+        <translation>次の設定を確認し、「完了」をクリックしてください。</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>印刷(&amp;P)</translation>
+    </message>
+    <message>
+        <source>The Setup Wizard is ready to begin the removal.</source>
+        <translation>セットアップウィザードによる削除の準備ができました。</translation>
+    </message>
+    <message>
+        <source>This computer is already linked to this server. Edit the existing connection or enter a different server.</source>
+        <translation>このコンピューターはすでにこのサーバーとリンクされています。既存の接続を編集するか、別のサーバーを入力してください。</translation>
+    </message>
+    <message>
+        <source>Download history</source>
+        <translation>ダウンロード履歴</translation>
+    </message>
+    <message>
+        <source>The connection to the server was lost. Check the network connection, then try again.</source>
+        <translation>サーバーとの接続が切断されました。ネットワーク接続を確認してから、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>The SSL certificate of the server could not be verified.</source>
+        <translation>サーバーのSSL証明書を検証できませんでした。</translation>
+    </message>
+    <message>
+        <source>Use a black and white tray icon</source>
+        <translation>白黒のトレイアイコンを使用する</translation>
+    </message>
+    <message>
+        <source>The files in this folder will be synced with the server.</source>
+        <translation>このフォルダー内のファイルがサーバーと同期されます。</translation>
+    </message>
+    <message>
+        <source>The proxy server requires sign-in</source>
+        <translation>プロキシサーバーで認証が必要</translation>
+    </message>
+    <message>
+        <source>Sync tasks</source>
+        <translation>同期タスク</translation>
+    </message>
+    <message>
+        <source>Blocked files</source>
+        <translation>除外するファイル</translation>
+    </message>
+    <message>
+        <source>No permission</source>
+        <translation>アクセス権がありません</translation>
+    </message>
+    <message>
+        <source>The server is too old for this client. Ask the server administrator to upgrade it.</source>
+        <translation>サーバーが古いため、このクライアントに対応していません。サーバー管理者にアップグレードを依頼してください。</translation>
+    </message>
+    <message>
+        <source>To try again, run setup again later. Click Finish to exit the Setup Wizard.</source>
+        <translation>やり直すには、後でもう一度セットアップを実行してください。「完了」をクリックすると、セットアップウィザードが終了します。</translation>
+    </message>
+    <message>
+        <source>The connection to the server is unstable.</source>
+        <translation>サーバーとの接続が不安定です。</translation>
+    </message>
+    <message>
+        <source>A newer version of Quillmere is already installed. To install this version, remove the newer one first.</source>
+        <translation>新しいバージョンのQuillmereがすでにインストールされています。このバージョンをインストールするには、先に新しいバージョンを削除してください。</translation>
+    </message>
+    <message>
+        <source>Click Repair to repair the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
+        <translation>「修復」をクリックすると、[ProductName]のインストールが修復されます。選択内容を確認するには「戻る」を、セットアップウィザードを終了するには「キャンセル」をクリックしてください。</translation>
+    </message>
+    <message>
+        <source>Some settings have not been saved. Do you want to save them?</source>
+        <translation>保存されていない設定があります。保存しますか？</translation>
+    </message>
+    <message>
+        <source>Icon overlays on files</source>
+        <translation>ファイルのオーバーレイアイコン</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>This folder is already used by another sync program. Choose a different folder to avoid conflicts.</source>
+        <translation>このフォルダーは別の同期プログラムですでに使用されています。競合を避けるため、別のフォルダーを選択してください。</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Incompatible version</source>
+        <translation>互換性のないバージョン</translation>
+    </message>
+    <message>
+        <source>Change the sync folder</source>
+        <translation>同期フォルダーの変更</translation>
+    </message>
+    <message>
+        <source>Enter a complete file name without a folder path.</source>
+        <translation>フォルダーのパスを含まない完全なファイル名を入力してください。</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]An error stopped setup, and its changes were undone.</source>
+        <translation>[DlgTitleFont]エラーのためセットアップが停止し、変更は元に戻されました。</translation>
+    </message>
+    <message>
+        <source>Standby</source>
+        <translation>待機中</translation>
+    </message>
+    <message>
+        <source>The Setup Wizard will install [ProductName] on your computer. Click Next to continue, or click Cancel to exit the Setup Wizard.</source>
+        <translation>セットアップウィザードで、コンピューターに[ProductName]をインストールします。続行するには「次へ」を、セットアップウィザードを終了するには「キャンセル」をクリックしてください。</translation>
+    </message>
+    <message>
+        <source>Sync problem</source>
+        <translation>同期の問題</translation>
+    </message>
+    <message>
+        <source>Read the following license agreement carefully.</source>
+        <translation>次の使用許諾契約書をよくお読みください。</translation>
+    </message>
+    <message>
+        <source>Folder not empty</source>
+        <translation>フォルダーが空ではありません</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Encrypt data transfer with SSL</source>
+        <translation>データ転送をSSLで暗号化する</translation>
+    </message>
+    <message>
+        <source>Some files that need to be updated are in use.</source>
+        <translation>更新が必要なファイルの一部が使用中です。</translation>
+    </message>
+    <message>
+        <source>Read-only</source>
+        <translation>読み取り専用</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>はい(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>A new version of Quillmere is available. Click here to upgrade.</source>
+        <translation>Quillmereの新しいバージョンを利用できます。アップグレードするにはここをクリックしてください。</translation>
+    </message>
+    <message>
+        <source>The download of %1 was canceled.</source>
+        <translation>「%1」のダウンロードをキャンセルしました。</translation>
+    </message>
+    <message>
+        <source>The value you entered is not valid. Check it, then try again.</source>
+        <translation>入力した値が正しくありません。値を確認してから、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>This file has no earlier versions yet. Change the file and let it sync to create one.</source>
+        <translation>このファイルにはまだ以前のバージョンがありません。ファイルを変更して同期すると作成されます。</translation>
+    </message>
+    <message>
+        <source>Unlink</source>
+        <translation>リンク解除</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>Quillmere is initializing...</source>
+        <translation>Quillmereを初期化しています…</translation>
+    </message>
+    <message>
+        <source>Start now</source>
+        <translation>今すぐ開始</translation>
+    </message>
+    <message>
+        <source>Pause syncing</source>
+        <translation>同期を一時停止</translation>
+    </message>
+    <message>
+        <source>Merge mode</source>
+        <translation>統合モード</translation>
+    </message>
+    <message>
+        <source>Quillmere is ready.</source>
+        <translation>Quillmereの準備ができました。</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>日時</translation>
+    </message>
+    <message>
+        <source>This version could not be downloaded. Check the connection to the server, then try again.</source>
+        <translation>このバージョンをダウンロードできませんでした。サーバーとの接続を確認してから、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>Applying the settings...</source>
+        <translation>設定を適用しています…</translation>
+    </message>
+    <message>
+        <source>Files that are not synced</source>
+        <translation>同期しないファイル</translation>
+    </message>
+    <message>
+        <source>Created</source>
+        <translation>作成日時</translation>
+    </message>
+    <message>
+        <source>The Quillmere service is turned off on the server. Ask the server administrator to turn it on.</source>
+        <translation>サーバーでQuillmereサービスが無効になっています。サーバー管理者に有効化を依頼してください。</translation>
+    </message>
+    <message>
+        <source>Internet</source>
+        <translation>インターネット</translation>
+    </message>
+    <message>
+        <source>Choose the shared folders to sync</source>
+        <translation>同期する共有フォルダーの選択</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]Re&amp;move</source>
+        <translation>[DlgTitleFont]削除(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Uploading...</source>
+        <translation>アップロード中…</translation>
+    </message>
+    <message>
+        <source>To use selective sync, ask the server administrator to upgrade Quillmere on the server.</source>
+        <translation>選択的同期を使用するには、サーバー上のQuillmereのアップグレードをサーバー管理者に依頼してください。</translation>
+    </message>
+    <message>
+        <source>No settings have been changed.</source>
+        <translation>変更された設定はありません。</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]Files in use</source>
+        <translation>[DlgTitleFont]使用中のファイル</translation>
+    </message>
+    <message>
+        <source>Repairs errors in the installation of [ProductName] by restoring missing or damaged files and shortcuts.</source>
+        <translation>不足または破損しているファイルやショートカットを復元して、[ProductName]のインストールのエラーを修復します。</translation>
+    </message>
+    <message>
+        <source>Blocked file extensions</source>
+        <translation>除外するファイルの拡張子</translation>
+    </message>
+    <message>
+        <source>Syncing is paused.</source>
+        <translation>同期は一時停止中です。</translation>
+    </message>
+    <message>
+        <source>{\VerdanaBold13}Welcome back to the [ProductName] Setup Wizard</source>
+        <translation>{\VerdanaBold13}[ProductName]セットアップウィザードへようこそ</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>パスワード</translation>
+    </message>
+    <message>
+        <source>The volume that holds the sync folder is not mounted. Mount the volume, then resume syncing.</source>
+        <translation>同期フォルダーのあるボリュームがマウントされていません。ボリュームをマウントしてから、同期を再開してください。</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>編集</translation>
+    </message>
+    <message>
+        <source>This computer has no free disk space.</source>
+        <translation>このコンピューターのディスクに空き容量がありません。</translation>
+    </message>
+    <message>
+        <source>Proxy server address</source>
+        <translation>プロキシサーバーのアドレス</translation>
+    </message>
+    <message>
+        <source>&amp;Retry</source>
+        <translation>再試行(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Ignore</source>
+        <translation>無視(&amp;I)</translation>
+    </message>
+    <message>
+        <source>A folder with this name already exists. Do you want to merge its files with those on the server?</source>
+        <translation>同じ名前のフォルダーがすでに存在します。そのフォルダー内のファイルをサーバー上のファイルと統合しますか？</translation>
+    </message>
+    <message>
+        <source>Quillmere keeps your files in sync between your computers and your server.</source>
+        <translation>Quillmereは、お使いのコンピューターとサーバーの間でファイルを常に同期します。</translation>
+    </message>
+    <message>
+        <source>Change the installed features</source>
+        <translation>インストールされている機能の変更</translation>
+    </message>
+    <message>
+        <source>Welcome to Quillmere</source>
+        <translation>Quillmereへようこそ</translation>
+    </message>
+    <message>
+        <source>&amp;Repair</source>
+        <translation>修復(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Upgrading Quillmere...</source>
+        <translation>Quillmereをアップグレードしています…</translation>
+    </message>
+    <message>
+        <source>Sync mode</source>
+        <translation>同期モード</translation>
+    </message>
+    <message>
+        <source>Enter a domain name, an IP address, or a server ID.</source>
+        <translation>ドメイン名、IPアドレス、またはサーバーIDを入力してください。</translation>
+    </message>
+    <message>
+        <source>A share link could not be created for this file. Check the connection to the server, then try again.</source>
+        <translation>このファイルの共有リンクを作成できませんでした。サーバーとの接続を確認してから、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>適用</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>完了</translation>
+    </message>
+    <message>
+        <source>Syncing %1 files...</source>
+        <translation>%1個のファイルを同期しています…</translation>
+    </message>
+    <message>
+        <source>Link again</source>
+        <translation>再リンク</translation>
+    </message>
+    <message>
+        <source>Your files, in sync everywhere</source>
+        <translation>あなたのファイルを、どこでも同期</translation>
+    </message>
+    <message>
+        <source>Destination</source>
+        <translation>保存先</translation>
+    </message>
+    <message>
+        <source>The Setup Wizard is making the changes you chose.</source>
+        <translation>選択した変更をセットアップウィザードが実行しています。</translation>
+    </message>
+    <message>
+        <source>System default</source>
+        <translation>システムの既定値</translation>
+    </message>
+    <message>
+        <source>The folders and files you cleared will be removed from this computer. They will be kept on the server.</source>
+        <translation>選択を解除したフォルダーとファイルは、このコンピューターから削除されます。サーバー上には残ります。</translation>
+    </message>
+    <message>
+        <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
+        <translation>選択した変更がすべて完了しました。「完了」をクリックすると、セットアップウィザードが終了します。</translation>
+    </message>
+    <message>
+        <source>Click Remove to remove [ProductName] from your computer. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
+        <translation>「削除」をクリックすると、コンピューターから[ProductName]が削除されます。選択内容を確認するには「戻る」を、セットアップウィザードを終了するには「キャンセル」をクリックしてください。</translation>
+    </message>
+    <message>
+        <source>No space left</source>
+        <translation>空き容量なし</translation>
+    </message>
+    <message>
+        <source>Inactive</source>
+        <translation>非アクティブ</translation>
+    </message>
+    <message>
+        <source>Your quota on the server is full.</source>
+        <translation>サーバーの割り当て容量がいっぱいです。</translation>
+    </message>
+    <message>
+        <source>Unlink this connection?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation>この接続のリンクを解除しますか？\nファイルはこのコンピューターとサーバーに残りますが、同期されなくなります。</translation>
+    </message>
+    <message>
+        <source>The relay service has a problem. Try again later, or connect with the IP address of the server.</source>
+        <translation>中継サービスで問題が発生しています。後でもう一度試すか、サーバーのIPアドレスで接続してください。</translation>
+    </message>
+    <message>
+        <source>Server ID</source>
+        <translation>サーバーID</translation>
+    </message>
+    <message>
+        <source>Blocked file names</source>
+        <translation>除外するファイル名</translation>
+    </message>
+    <message>
+        <source>Server address</source>
+        <translation>サーバーアドレス</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>続行</translation>
+    </message>
+    <message>
+        <source>Enabled</source>
+        <translation>有効</translation>
+    </message>
+    <message>
+        <source>This computer has no free disk space. Free some space to continue syncing.</source>
+        <translation>このコンピューターのディスクに空き容量がありません。同期を続けるには、空き容量を増やしてください。</translation>
+    </message>
+    <message>
+        <source>Folders to sync</source>
+        <translation>同期するフォルダー</translation>
+    </message>
+    <message>
+        <source>Choose a sync folder</source>
+        <translation>同期フォルダーの選択</translation>
+    </message>
+    <message>
+        <source>Connection settings</source>
+        <translation>接続設定</translation>
+    </message>
+    <message>
+        <source>Selective sync</source>
+        <translation>選択的同期</translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation>コンピューター</translation>
+    </message>
+    <message>
+        <source>Your quota on the server is full. Delete files you do not need, or ask the server administrator for a larger quota.</source>
+        <translation>サーバーの割り当て容量がいっぱいです。不要なファイルを削除するか、割り当て容量の追加をサーバー管理者に依頼してください。</translation>
+    </message>
+    <message>
+        <source>After you start [ProductName], you can find it in the system tray.</source>
+        <translation>[ProductName]を起動すると、システムトレイに表示されます。</translation>
+    </message>
+    <message>
+        <source>&amp;Leave the applications open and restart the computer later</source>
+        <translation>アプリケーションを開いたままにし、後でコンピューターを再起動する(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Use the following proxy server</source>
+        <translation>次のプロキシサーバーを使用する</translation>
+    </message>
+    <message>
+        <source>This file was changed in two places. Compare both copies, then keep the one you need.</source>
+        <translation>このファイルは2か所で変更されました。両方のコピーを比較し、必要な方を残してください。</translation>
+    </message>
+    <message>
+        <source>One place for your files on every computer, through a server of your own</source>
+        <translation>自分だけのサーバーで、すべてのコンピューターのファイルを一か所に</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Show desktop notifications</source>
+        <translation>デスクトップ通知を表示する</translation>
+    </message>
+    <message>
+        <source>The following applications use files that setup needs to update. Close them and click Retry, click Ignore to continue without closing them, or click Exit to leave setup.</source>
+        <translation>次のアプリケーションは、セットアップで更新する必要のあるファイルを使用しています。アプリケーションを閉じて「再試行」をクリックするか、閉じずに続行する場合は「無視」を、セットアップを中止する場合は「終了」をクリックしてください。</translation>
+    </message>
+    <message>
+        <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
+        <translation>サーバーに接続できません。ネットワーク接続とサーバーアドレスを確認してから、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>Local sync folder</source>
+        <translation>ローカル同期フォルダー</translation>
+    </message>
+    <message>
+        <source>Files that match an entry in this list are not synced.</source>
+        <translation>このリストの項目に一致するファイルは同期されません。</translation>
+    </message>
+    <message>
+        <source>Edit connection</source>
+        <translation>接続の編集</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>オプション</translation>
+    </message>
+    <message>
+        <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
+        <translation>次のアプリケーションは、セットアップで更新する必要のあるファイルを使用しています。セットアップでこれらのアプリケーションを閉じるかどうかを選択してください。開いたままにする場合、セットアップを完了するにはコンピューターの再起動が必要です。</translation>
+    </message>
+    <message>
+        <source>The Setup Wizard is ready to begin the repair.</source>
+        <translation>セットアップウィザードによる修復の準備ができました。</translation>
+    </message>
+    <message>
+        <source>Open Quillmere</source>
+        <translation>Quillmereを開く</translation>
+    </message>
+    <message>
+        <source>Please restart %1 to apply the new language settings.</source>
+        <translation>新しい言語設定を適用するには、%1を再起動してください。</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>一時停止</translation>
+    </message>
+    <message>
+        <source>Show icon overlays on filtered files</source>
+        <translation>フィルターで除外されたファイルにオーバーレイアイコンを表示する</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Loading...</source>
+        <translation>読み込み中…</translation>
+    </message>
+    <message>
+        <source>You can sync at most %1 shared folders. Stop syncing one of them before you add another.</source>
+        <translation>同期できる共有フォルダーは最大%1個です。別のフォルダーを追加する前に、いずれかの同期を停止してください。</translation>
+    </message>
+    <message>
+        <source>Unlink this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation>この同期タスクのリンクを解除しますか？\nファイルはこのコンピューターとサーバーに残りますが、同期されなくなります。</translation>
+    </message>
+    <message>
+        <source>Starting Quillmere...</source>
+        <translation>Quillmereを起動しています…</translation>
+    </message>
+    <message>
+        <source>Quillmere could not be upgraded. Restart the computer, then try again.</source>
+        <translation>Quillmereをアップグレードできませんでした。コンピューターを再起動してから、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>Block names that begin with a dot</source>
+        <translation>ドットで始まる名前を除外する</translation>
+    </message>
+    <message>
+        <source>The server has no free disk space. Ask the server administrator to free some space.</source>
+        <translation>サーバーのディスクに空き容量がありません。サーバー管理者に空き容量の確保を依頼してください。</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]License agreement</source>
+        <translation>[DlgTitleFont]使用許諾契約書</translation>
+    </message>
+    <message>
+        <source>%1 was downloaded.</source>
+        <translation>「%1」をダウンロードしました。</translation>
+    </message>
+    <message>
+        <source>The versions of this file could not be listed. Check the connection to the server, then try again.</source>
+        <translation>このファイルのバージョン一覧を取得できませんでした。サーバーとの接続を確認してから、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>Connected to the server.</source>
+        <translation>サーバーに接続しました。</translation>
+    </message>
+    <message>
+        <source>{\VerdanaBold13}The [ProductName] Setup Wizard is complete</source>
+        <translation>{\VerdanaBold13}[ProductName]セットアップウィザードが完了しました</translation>
+    </message>
+    <message>
+        <source>Local network</source>
+        <translation>ローカルネットワーク</translation>
+    </message>
+    <message>
+        <source>Do not use a proxy server</source>
+        <translation>プロキシサーバーを使用しない</translation>
+    </message>
+    <message>
+        <source>Shared folder not found</source>
+        <translation>共有フォルダーが見つかりません</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>次へ(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Parvenor Quillmere</source>
+        <translation>Parvenor Quillmere</translation>
+    </message>
+    <message>
+        <source>%1 could not be downloaded. Check the connection to the server, then try again.</source>
+        <translation>「%1」をダウンロードできませんでした。サーバーとの接続を確認してから、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>Watching for file changes...</source>
+        <translation>ファイルの変更を監視しています…</translation>
+    </message>
+    <message>
+        <source>Shared folder</source>
+        <translation>共有フォルダー</translation>
+    </message>
+    <message>
+        <source>Client options</source>
+        <translation>クライアントのオプション</translation>
+    </message>
+    <message>
+        <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
+        <translation>共有リンクを削除できませんでした。サーバーとの接続を確認してから、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>The SSL certificate of the server could not be verified. Ask the server administrator to check the certificate.</source>
+        <translation>サーバーのSSL証明書を検証できませんでした。サーバー管理者に証明書の確認を依頼してください。</translation>
+    </message>
+    <message>
+        <source>This is not the server the connection was linked to. Check the server address, or link again.</source>
+        <translation>この接続のリンク先とは異なるサーバーです。サーバーアドレスを確認するか、再リンクしてください。</translation>
+    </message>
+    <message>
+        <source>[ProductName] has no features that can be changed separately.</source>
+        <translation>[ProductName]には個別に変更できる機能がありません。</translation>
+    </message>
+    <message>
+        <source>The address or port of the proxy server is missing. Enter both, then try again.</source>
+        <translation>プロキシサーバーのアドレスまたはポートが入力されていません。両方を入力してから、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation>プロキシ</translation>
+    </message>
+    <message>
+        <source>The user name is missing. Enter a user name.</source>
+        <translation>ユーザー名が入力されていません。ユーザー名を入力してください。</translation>
+    </message>
+    <message>
+        <source>Delete link</source>
+        <translation>共有リンクを削除</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>エラー</translation>
+    </message>
+    <message>
+        <source>I &amp;accept the terms of the license agreement</source>
+        <translation>使用許諾契約書の条項に同意する(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Updated: %1</source>
+        <translation>更新しました：%1</translation>
+    </message>
+    <message>
+        <source>Manage connections</source>
+        <translation>接続の管理</translation>
+    </message>
+    <message>
+        <source>Link to another server</source>
+        <translation>別のサーバーとリンク</translation>
+    </message>
+    <message>
+        <source>Show icon overlays</source>
+        <translation>オーバーレイアイコンを表示する</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]Setting up [ProductName]</source>
+        <translation>[DlgTitleFont][ProductName]のセットアップ中</translation>
+    </message>
+    <message>
+        <source>Service turned off</source>
+        <translation>サービスが無効</translation>
+    </message>
+    <message>
+        <source>Sync</source>
+        <translation>同期</translation>
+    </message>
+    <message>
+        <source>Stop syncing this shared folder?\nThe files already on this computer will be kept.</source>
+        <translation>この共有フォルダーの同期を停止しますか？\nすでにこのコンピューターにあるファイルは残ります。</translation>
+    </message>
+    <message>
+        <source>&amp;Install</source>
+        <translation>インストール(&amp;I)</translation>
+    </message>
+    <message>
+        <source>File filter</source>
+        <translation>ファイルフィルター</translation>
+    </message>
+    <message>
+        <source>Status details</source>
+        <translation>状態の詳細</translation>
+    </message>
+    <message>
+        <source>I &amp;do not accept the terms of the license agreement</source>
+        <translation>使用許諾契約書の条項に同意しない(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Something went wrong. Try again, and contact the server administrator if the problem continues.</source>
+        <translation>問題が発生しました。もう一度お試しください。問題が続く場合は、サーバー管理者にお問い合わせください。</translation>
+    </message>
+    <message>
+        <source>Tray icons</source>
+        <translation>トレイアイコン</translation>
+    </message>
+    <message>
+        <source>The folder is read-only. Choose a folder you can write to.</source>
+        <translation>このフォルダーは読み取り専用です。書き込み可能なフォルダーを選択してください。</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>次へ</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>戻る(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Proxy settings</source>
+        <translation>プロキシ設定</translation>
+    </message>
+    <message>
+        <source>You are not signed in as an administrator, so Quillmere might not install completely. Do you want to continue?</source>
+        <translation>管理者としてサインインしていないため、Quillmereを完全にインストールできない可能性があります。続行しますか？</translation>
+    </message>
+    <message>
+        <source>Use the tray icon at any time to see the sync status or change the settings.</source>
+        <translation>トレイアイコンから、同期の状態の確認や設定の変更をいつでも行えます。</translation>
+    </message>
+    <message>
+        <source>Share link created</source>
+        <translation>共有リンクを作成しました</translation>
+    </message>
+    <message>
+        <source>The user name or password is not correct. Check both, then try again.</source>
+        <translation>ユーザー名またはパスワードが正しくありません。両方を確認してから、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]Ready to repair [ProductName]</source>
+        <translation>[DlgTitleFont][ProductName]を修復する準備ができました</translation>
+    </message>
+    <message>
+        <source>The shared folder %1 is now available. Click here to sync it.</source>
+        <translation>共有フォルダー「%1」を利用できるようになりました。同期するにはここをクリックしてください。</translation>
+    </message>
+    <message>
+        <source>Status:</source>
+        <translation>状態：</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>サイズ</translation>
+    </message>
+    <message>
+        <source>Connection information</source>
+        <translation>接続情報</translation>
+    </message>
+    <message>
+        <source>Lets you choose which features are installed.</source>
+        <translation>インストールする機能を選択できます。</translation>
+    </message>
+    <message>
+        <source>Folder name</source>
+        <translation>フォルダー名</translation>
+    </message>
+    <message>
+        <source>Folder is a mount point</source>
+        <translation>フォルダーがマウントポイントです</translation>
+    </message>
+    <message>
+        <source>Choose another folder</source>
+        <translation>別のフォルダーを選択</translation>
+    </message>
+    <message>
+        <source>Download only</source>
+        <translation>ダウンロードのみ</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]&amp;Repair</source>
+        <translation>[DlgTitleFont]修復(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>削除(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Maximum file size</source>
+        <translation>最大ファイルサイズ</translation>
+    </message>
+    <message>
+        <source>Enter the server address and the account you use on the server.</source>
+        <translation>サーバーアドレスと、サーバーで使用しているアカウントを入力してください。</translation>
+    </message>
+    <message>
+        <source>A different server was found at the server address.</source>
+        <translation>サーバーアドレスで別のサーバーが検出されました。</translation>
+    </message>
+    <message>
+        <source>Linking to the server...</source>
+        <translation>サーバーとリンクしています…</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>ポート</translation>
+    </message>
+    <message>
+        <source>Share link</source>
+        <translation>共有リンクを作成</translation>
+    </message>
+    <message>
+        <source>The user name or password was not accepted by the server. Edit the connection and enter them again.</source>
+        <translation>ユーザー名またはパスワードがサーバーに拒否されました。接続を編集し、入力し直してください。</translation>
+    </message>
+    <message>
+        <source>Recently updated files</source>
+        <translation>最近更新されたファイル</translation>
+    </message>
+    <message>
+        <source>Use the system proxy settings</source>
+        <translation>システムのプロキシ設定を使用する</translation>
+    </message>
+    <message>
+        <source>Change folder</source>
+        <translation>フォルダーを変更</translation>
+    </message>
+    <message>
+        <source>Finish</source>
+        <translation>完了</translation>
+    </message>
+    <message>
+        <source>Folder path</source>
+        <translation>フォルダーのパス</translation>
+    </message>
+    <message>
+        <source>Downloading...</source>
+        <translation>ダウンロード中…</translation>
+    </message>
+    <message>
+        <source>The file is locked</source>
+        <translation>ファイルがロックされています</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Preparing...</source>
+        <translation>準備中…</translation>
+    </message>
+    <message>
+        <source>Updating files...</source>
+        <translation>ファイルを更新しています…</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]Ready to install [ProductName]</source>
+        <translation>[DlgTitleFont][ProductName]をインストールする準備ができました</translation>
+    </message>
+    <message>
+        <source>Checking the user name and password...</source>
+        <translation>ユーザー名とパスワードを確認しています…</translation>
+    </message>
+    <message>
+        <source>Wait while the Setup Wizard sets up [ProductName]. This can take several minutes.</source>
+        <translation>セットアップウィザードが[ProductName]のセットアップを行っています。しばらくお待ちください。数分かかることがあります。</translation>
+    </message>
+    <message>
+        <source>Manage</source>
+        <translation>管理</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>The server ID is not valid. Check the server ID, then try again.</source>
+        <translation>サーバーIDが正しくありません。サーバーIDを確認してから、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>Open sync folder</source>
+        <translation>同期フォルダーを開く</translation>
+    </message>
+    <message>
+        <source>When the tray icon is double-clicked</source>
+        <translation>トレイアイコンをダブルクリックしたとき</translation>
+    </message>
+    <message>
+        <source>Syncing could not be turned on for this shared folder. Check your permissions on the server, then try again.</source>
+        <translation>この共有フォルダーの同期を有効にできませんでした。サーバー上のアクセス権を確認してから、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>File sharing over the relay is turned off on the server. Ask the server administrator to turn it on.</source>
+        <translation>サーバーで中継経由のファイル共有が無効になっています。サーバー管理者に有効化を依頼してください。</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>追加</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>値</translation>
+    </message>
+    <message>
+        <source>Resume syncing</source>
+        <translation>同期を再開</translation>
+    </message>
+    <message>
+        <source>E&amp;xit</source>
+        <translation>終了(&amp;X)</translation>
+    </message>
+    <message>
+        <source>The share link was copied to the clipboard.</source>
+        <translation>共有リンクをクリップボードにコピーしました。</translation>
+    </message>
+    <message>
+        <source>The local sync folder was not found. Restore the folder or choose a different one.</source>
+        <translation>ローカル同期フォルダーが見つかりません。フォルダーを復元するか、別のフォルダーを選択してください。</translation>
+    </message>
+    <message>
+        <source>Upgrade Quillmere</source>
+        <translation>Quillmereのアップグレード</translation>
+    </message>
+    <message>
+        <source>Add sync task</source>
+        <translation>同期タスクを追加</translation>
+    </message>
+    <message>
+        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it.</source>
+        <translation>共有フォルダーがサーバーでマウントされていません。サーバー管理者にマウントを依頼してください。</translation>
+    </message>
+    <message>
+        <source>The server sent an unexpected response. Upgrade the client and the server, then try again.</source>
+        <translation>サーバーから予期しない応答がありました。クライアントとサーバーをアップグレードしてから、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>Server overview</source>
+        <translation>サーバーの概要</translation>
+    </message>
+    <message>
+        <source>Syncing stopped because of a problem. Click here for details.</source>
+        <translation>問題が発生したため同期が停止しました。詳細を確認するにはここをクリックしてください。</translation>
+    </message>
+    <message>
+        <source>Enter a size of at most %1 MB.</source>
+        <translation>%1 MB以下のサイズを入力してください。</translation>
+    </message>
+    <message>
+        <source>Checking the data...</source>
+        <translation>データを確認しています…</translation>
+    </message>
+    <message>
+        <source>Trying to sync...</source>
+        <translation>同期を試みています…</translation>
+    </message>
+    <message>
+        <source>Click Install to begin the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
+        <translation>「インストール」をクリックすると、[ProductName]のインストールが開始されます。選択内容を確認するには「戻る」を、セットアップウィザードを終了するには「キャンセル」をクリックしてください。</translation>
+    </message>
+    <message>
+        <source>{\VerdanaBold13}[ProductName] setup was interrupted</source>
+        <translation>{\VerdanaBold13}[ProductName]のセットアップが中断されました</translation>
+    </message>
+    <message>
+        <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
+        <translation>このフォルダーは空ではありません。フォルダー内のファイルをサーバー上のファイルと統合するか、別のフォルダーを選択してください。</translation>
+    </message>
+    <message>
+        <source>This folder is being indexed. Its files will appear when indexing is complete.</source>
+        <translation>このフォルダーのインデックスを作成しています。完了するとファイルが表示されます。</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>ユーザー名</translation>
+    </message>
+    <message>
+        <source>Merge</source>
+        <translation>統合</translation>
+    </message>
+    <message>
+        <source>You can open the files in this shared folder, but changes you make are not uploaded.</source>
+        <translation>この共有フォルダー内のファイルを開くことはできますが、変更はアップロードされません。</translation>
+    </message>
+    <message>
+        <source>Network settings</source>
+        <translation>ネットワーク設定</translation>
+    </message>
+    <message>
+        <source>This folder is already synced with another shared folder. Choose a different folder.</source>
+        <translation>このフォルダーはすでに別の共有フォルダーと同期されています。別のフォルダーを選択してください。</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>再開</translation>
+    </message>
+    <message>
+        <source>The server has no free disk space.</source>
+        <translation>サーバーのディスクに空き容量がありません。</translation>
+    </message>
+    <message>
+        <source>Relay by server ID</source>
+        <translation>サーバーIDによる中継</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>いいえ(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Choose what you want to do.</source>
+        <translation>実行する操作を選択してください。</translation>
+    </message>
+    <message>
+        <source>{\VerdanaBold13}[ProductName] setup did not finish</source>
+        <translation>{\VerdanaBold13}[ProductName]のセットアップを完了できませんでした</translation>
+    </message>
+    <message>
+        <source>Quillmere is already running.</source>
+        <translation>Quillmereはすでに実行中です。</translation>
+    </message>
+    <message>
+        <source>Welcome</source>
+        <translation>ようこそ</translation>
+    </message>
+    <message>
+        <source>Start Quillmere when I sign in to this computer</source>
+        <translation>このコンピューターへのサインイン時にQuillmereを起動する</translation>
+    </message>
+    <message>
+        <source>All files from both folders are kept. If two versions of a file differ, you get both.</source>
+        <translation>両方のフォルダーのすべてのファイルが保持されます。同じファイルの内容が異なる場合は、両方のバージョンが残ります。</translation>
+    </message>
+    <message>
+        <source>Repair the installation</source>
+        <translation>インストールの修復</translation>
+    </message>
+    <message>
+        <source>Sync enabled</source>
+        <translation>同期が有効</translation>
+    </message>
+    <message>
+        <source>Quillmere could not start. Restart the computer, then start Quillmere again.</source>
+        <translation>Quillmereを起動できませんでした。コンピューターを再起動してから、もう一度Quillmereを起動してください。</translation>
+    </message>
+    <message>
+        <source>Do you want to cancel the setup of [ProductName]?</source>
+        <translation>[ProductName]のセットアップをキャンセルしますか？</translation>
+    </message>
+    <message>
+        <source>Continue anyway</source>
+        <translation>このまま続行</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]Change, repair, or remove [ProductName]</source>
+        <translation>[DlgTitleFont][ProductName]の変更、修復、削除</translation>
+    </message>
+    <message>
+        <source>Quillmere is set up</source>
+        <translation>Quillmereの設定が完了しました</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>Advanced settings</source>
+        <translation>詳細設定</translation>
+    </message>
+    <message>
+        <source>Browse versions</source>
+        <translation>以前のバージョンを表示</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]&amp;Change</source>
+        <translation>[DlgTitleFont]変更(&amp;C)</translation>
+    </message>
+    <message>
+        <source>This connection is inactive. Link it again to continue syncing.</source>
+        <translation>この接続は非アクティブです。同期を続けるには再リンクしてください。</translation>
+    </message>
+    <message>
+        <source>Detecting...</source>
+        <translation>検出中…</translation>
+    </message>
+    <message>
+        <source>SSL warning</source>
+        <translation>SSLの警告</translation>
+    </message>
+    <message>
+        <source>The relay service cannot be reached. Check your Internet connection, then try again.</source>
+        <translation>中継サービスに接続できません。インターネット接続を確認してから、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>Removes [ProductName] from your computer.</source>
+        <translation>コンピューターから[ProductName]を削除します。</translation>
+    </message>
+    <message>
+        <source>Downloading %1...</source>
+        <translation>「%1」をダウンロードしています…</translation>
+    </message>
+    <message>
+        <source>&amp;Finish</source>
+        <translation>完了(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Read-only folder</source>
+        <translation>読み取り専用フォルダー</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]You canceled setup, and your computer was not changed.</source>
+        <translation>[DlgTitleFont]セットアップはキャンセルされ、コンピューターは変更されていません。</translation>
+    </message>
+    <message>
+        <source>The port number is not valid. Enter a number from 1 to 65535.</source>
+        <translation>ポート番号が正しくありません。1～65535の数値を入力してください。</translation>
+    </message>
+    <message>
+        <source>Quillmere cannot watch for changes on a network drive. Choose a folder on a local drive.</source>
+        <translation>Quillmereではネットワークドライブ上の変更を監視できません。ローカルドライブ上のフォルダーを選択してください。</translation>
+    </message>
+    <message>
+        <source>Remove the installation</source>
+        <translation>インストールの削除</translation>
+    </message>
+    <message>
+        <source>Direct connection</source>
+        <translation>直接接続</translation>
+    </message>
+    <message>
+        <source>The server volume that holds this folder is not mounted. Ask the server administrator to mount it.</source>
+        <translation>このフォルダーのあるサーバーボリュームがマウントされていません。サーバー管理者にマウントを依頼してください。</translation>
+    </message>
+    <message>
+        <source>This version of Quillmere is already installed. Do you want to install it again?</source>
+        <translation>このバージョンのQuillmereはすでにインストールされています。もう一度インストールしますか？</translation>
+    </message>
+    <message>
+        <source>This client is too old for the server. Upgrade the client, then try again.</source>
+        <translation>このクライアントは古いため、サーバーに対応していません。クライアントをアップグレードしてから、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>The server is too old for this client.</source>
+        <translation>サーバーが古いため、このクライアントに対応していません。</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>無効</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,1255 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="tr_TR" sourcelanguage="en_US">
+<context>
+    <name>global</name>
+    <message>
+        <source>{\VerdanaBold13}Welcome to the [ProductName] Setup Wizard</source>
+        <translation>{\VerdanaBold13}[ProductName] kurulum sihirbazına hoş geldiniz</translation>
+    </message>
+    <message>
+        <source>Start [ProductName] now</source>
+        <translation>[ProductName] uygulamasını şimdi başlat</translation>
+    </message>
+    <message>
+        <source>Shared folders</source>
+        <translation>Paylaşılan klasörler</translation>
+    </message>
+    <message>
+        <source>All files are up to date.</source>
+        <translation>Tüm dosyalar güncel.</translation>
+    </message>
+    <message>
+        <source>Processing...</source>
+        <translation>İşleniyor…</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Çıkış</translation>
+    </message>
+    <message>
+        <source>The Setup Wizard is ready to begin the installation.</source>
+        <translation>Kurulum sihirbazı kuruluma başlamaya hazır.</translation>
+    </message>
+    <message>
+        <source>File name</source>
+        <translation>Dosya adı</translation>
+    </message>
+    <message>
+        <source>Connection mode</source>
+        <translation>Bağlantı modu</translation>
+    </message>
+    <message>
+        <source>The local database is damaged. Unlink the connection, then link it again to rebuild the database.</source>
+        <translation>Yerel veri tabanı zarar görmüş. Veri tabanını yeniden oluşturmak için bağlantının eşleştirmesini kaldırın, ardından bağlantıyı yeniden eşleştirin.</translation>
+    </message>
+    <message>
+        <source>&amp;Close the applications and restart them after setup</source>
+        <translation>Uygulamaları k&amp;apat ve kurulumdan sonra yeniden başlat</translation>
+    </message>
+    <message>
+        <source>The folder is a mount point. Choose a folder that is not a mount point.</source>
+        <translation>Klasör bir bağlama noktası. Bağlama noktası olmayan bir klasör seçin.</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]Ready to remove [ProductName]</source>
+        <translation>[DlgTitleFont][ProductName] kaldırılmaya hazır</translation>
+    </message>
+    <message>
+        <source>The server has been replaced. Click here to link again.</source>
+        <translation>Sunucu değiştirilmiş. Yeniden eşleştirmek için buraya tıklayın.</translation>
+    </message>
+    <message>
+        <source>Currently syncing %1 files.</source>
+        <translation>Şu anda %1 dosya eşitleniyor.</translation>
+    </message>
+    <message>
+        <source>The Setup Wizard lets you change, repair, or remove [ProductName]. Click Next to continue, or click Cancel to exit the Setup Wizard.</source>
+        <translation>Kurulum sihirbazı [ProductName] uygulamasını değiştirmenizi, onarmanızı veya kaldırmanızı sağlar. Devam etmek için “İleri” düğmesine, kurulum sihirbazından çıkmak için “İptal” düğmesine tıklayın.</translation>
+    </message>
+    <message>
+        <source>Block list</source>
+        <translation>Hariç tutma listesi</translation>
+    </message>
+    <message>
+        <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
+        <translation>Bu paylaşım bağlantısı silinsin mi?\nBağlantıya sahip olan kişiler artık dosyayı açamayacak.</translation>
+    </message>
+    <message>
+        <source>This client is too old for the server.</source>
+        <translation>Bu istemci, sunucu için çok eski.</translation>
+    </message>
+    <message>
+        <source>[ProductName] Setup</source>
+        <translation>[ProductName] Kurulumu</translation>
+    </message>
+    <message>
+        <source>Sign-in failed</source>
+        <translation>Oturum açılamadı</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Sürüm</translation>
+    </message>
+    <message>
+        <source>Testing the connection...</source>
+        <translation>Bağlantı sınanıyor…</translation>
+    </message>
+    <message>
+        <source>The SSL certificate of the server is not trusted, so others may be able to read the data you send. Do you want to continue?</source>
+        <translation>Sunucunun SSL sertifikası güvenilir değil, bu nedenle gönderdiğiniz verileri başkaları okuyabilir. Devam etmek istiyor musunuz?</translation>
+    </message>
+    <message>
+        <source>New shared folder</source>
+        <translation>Yeni paylaşılan klasör</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Hakkında</translation>
+    </message>
+    <message>
+        <source>Check the settings below, then click Done.</source>
+        <translation>Aşağıdaki ayarları gözden geçirin, ardından “Bitti” düğmesine tıklayın.</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>Ya&amp;zdır</translation>
+    </message>
+    <message>
+        <source>The Setup Wizard is ready to begin the removal.</source>
+        <translation>Kurulum sihirbazı kaldırma işlemine başlamaya hazır.</translation>
+    </message>
+    <message>
+        <source>This computer is already linked to this server. Edit the existing connection or enter a different server.</source>
+        <translation>Bu bilgisayar bu sunucuyla zaten eşleştirilmiş. Var olan bağlantıyı düzenleyin veya farklı bir sunucu girin.</translation>
+    </message>
+    <message>
+        <source>Download history</source>
+        <translation>İndirme geçmişi</translation>
+    </message>
+    <message>
+        <source>The connection to the server was lost. Check the network connection, then try again.</source>
+        <translation>Sunucu bağlantısı kesildi. Ağ bağlantısını denetleyip yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>The SSL certificate of the server could not be verified.</source>
+        <translation>Sunucunun SSL sertifikası doğrulanamadı.</translation>
+    </message>
+    <message>
+        <source>Use a black and white tray icon</source>
+        <translation>Siyah beyaz sistem tepsisi simgesi kullan</translation>
+    </message>
+    <message>
+        <source>The files in this folder will be synced with the server.</source>
+        <translation>Bu klasördeki dosyalar sunucuyla eşitlenecek.</translation>
+    </message>
+    <message>
+        <source>The proxy server requires sign-in</source>
+        <translation>Vekil sunucu oturum açmayı gerektiriyor</translation>
+    </message>
+    <message>
+        <source>Sync tasks</source>
+        <translation>Eşitleme görevleri</translation>
+    </message>
+    <message>
+        <source>Blocked files</source>
+        <translation>Hariç tutulan dosyalar</translation>
+    </message>
+    <message>
+        <source>No permission</source>
+        <translation>İzin yok</translation>
+    </message>
+    <message>
+        <source>The server is too old for this client. Ask the server administrator to upgrade it.</source>
+        <translation>Sunucu bu istemci için çok eski. Sunucu yöneticisinden sunucuyu yükseltmesini isteyin.</translation>
+    </message>
+    <message>
+        <source>To try again, run setup again later. Click Finish to exit the Setup Wizard.</source>
+        <translation>Yeniden denemek için kurulumu daha sonra tekrar çalıştırın. Kurulum sihirbazından çıkmak için “Bitir” düğmesine tıklayın.</translation>
+    </message>
+    <message>
+        <source>The connection to the server is unstable.</source>
+        <translation>Sunucu bağlantısı kararlı değil.</translation>
+    </message>
+    <message>
+        <source>A newer version of Quillmere is already installed. To install this version, remove the newer one first.</source>
+        <translation>Daha yeni bir Quillmere sürümü zaten kurulu. Bu sürümü kurmak için önce daha yeni olan sürümü kaldırın.</translation>
+    </message>
+    <message>
+        <source>Click Repair to repair the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
+        <translation>[ProductName] kurulumunu onarmak için “Onar” düğmesine tıklayın. Seçimlerinizi gözden geçirmek için “Geri” düğmesine, kurulum sihirbazından çıkmak için “İptal” düğmesine tıklayın.</translation>
+    </message>
+    <message>
+        <source>Some settings have not been saved. Do you want to save them?</source>
+        <translation>Bazı ayarlar kaydedilmedi. Bunları kaydetmek istiyor musunuz?</translation>
+    </message>
+    <message>
+        <source>Icon overlays on files</source>
+        <translation>Dosyalardaki simge kaplamaları</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Eylem</translation>
+    </message>
+    <message>
+        <source>This folder is already used by another sync program. Choose a different folder to avoid conflicts.</source>
+        <translation>Bu klasör başka bir eşitleme programı tarafından zaten kullanılıyor. Çakışmaları önlemek için farklı bir klasör seçin.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Sil</translation>
+    </message>
+    <message>
+        <source>Incompatible version</source>
+        <translation>Uyumsuz sürüm</translation>
+    </message>
+    <message>
+        <source>Change the sync folder</source>
+        <translation>Eşitleme klasörünü değiştir</translation>
+    </message>
+    <message>
+        <source>Enter a complete file name without a folder path.</source>
+        <translation>Klasör yolu olmadan dosya adının tamamını girin.</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]An error stopped setup, and its changes were undone.</source>
+        <translation>[DlgTitleFont]Bir hata kurulumu durdurdu ve yapılan değişiklikler geri alındı.</translation>
+    </message>
+    <message>
+        <source>Standby</source>
+        <translation>Beklemede</translation>
+    </message>
+    <message>
+        <source>The Setup Wizard will install [ProductName] on your computer. Click Next to continue, or click Cancel to exit the Setup Wizard.</source>
+        <translation>Kurulum sihirbazı [ProductName] uygulamasını bilgisayarınıza kuracak. Devam etmek için “İleri” düğmesine, kurulum sihirbazından çıkmak için “İptal” düğmesine tıklayın.</translation>
+    </message>
+    <message>
+        <source>Sync problem</source>
+        <translation>Eşitleme sorunu</translation>
+    </message>
+    <message>
+        <source>Read the following license agreement carefully.</source>
+        <translation>Aşağıdaki lisans sözleşmesini dikkatle okuyun.</translation>
+    </message>
+    <message>
+        <source>Folder not empty</source>
+        <translation>Klasör boş değil</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Ad</translation>
+    </message>
+    <message>
+        <source>Encrypt data transfer with SSL</source>
+        <translation>Veri aktarımını SSL ile şifrele</translation>
+    </message>
+    <message>
+        <source>Some files that need to be updated are in use.</source>
+        <translation>Güncellenmesi gereken bazı dosyalar kullanımda.</translation>
+    </message>
+    <message>
+        <source>Read-only</source>
+        <translation>Salt okunur</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Yardım</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Evet</translation>
+    </message>
+    <message>
+        <source>A new version of Quillmere is available. Click here to upgrade.</source>
+        <translation>Yeni bir Quillmere sürümü var. Yükseltmek için buraya tıklayın.</translation>
+    </message>
+    <message>
+        <source>The download of %1 was canceled.</source>
+        <translation>“%1” dosyasının indirilmesi iptal edildi.</translation>
+    </message>
+    <message>
+        <source>The value you entered is not valid. Check it, then try again.</source>
+        <translation>Girdiğiniz değer geçerli değil. Değeri denetleyip yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>This file has no earlier versions yet. Change the file and let it sync to create one.</source>
+        <translation>Bu dosyanın henüz önceki bir sürümü yok. Sürüm oluşturmak için dosyayı değiştirin ve eşitlenmesini bekleyin.</translation>
+    </message>
+    <message>
+        <source>Unlink</source>
+        <translation>Eşleştirmeyi kaldır</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Geri</translation>
+    </message>
+    <message>
+        <source>Quillmere is initializing...</source>
+        <translation>Quillmere hazırlanıyor…</translation>
+    </message>
+    <message>
+        <source>Start now</source>
+        <translation>Şimdi başlat</translation>
+    </message>
+    <message>
+        <source>Pause syncing</source>
+        <translation>Eşitlemeyi duraklat</translation>
+    </message>
+    <message>
+        <source>Merge mode</source>
+        <translation>Birleştirme modu</translation>
+    </message>
+    <message>
+        <source>Quillmere is ready.</source>
+        <translation>Quillmere hazır.</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zaman</translation>
+    </message>
+    <message>
+        <source>This version could not be downloaded. Check the connection to the server, then try again.</source>
+        <translation>Bu sürüm indirilemedi. Sunucu bağlantısını denetleyip yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>Applying the settings...</source>
+        <translation>Ayarlar uygulanıyor…</translation>
+    </message>
+    <message>
+        <source>Files that are not synced</source>
+        <translation>Eşitlenmeyen dosyalar</translation>
+    </message>
+    <message>
+        <source>Created</source>
+        <translation>Oluşturulma zamanı</translation>
+    </message>
+    <message>
+        <source>The Quillmere service is turned off on the server. Ask the server administrator to turn it on.</source>
+        <translation>Quillmere hizmeti sunucuda kapalı. Sunucu yöneticisinden hizmeti açmasını isteyin.</translation>
+    </message>
+    <message>
+        <source>Internet</source>
+        <translation>İnternet</translation>
+    </message>
+    <message>
+        <source>Choose the shared folders to sync</source>
+        <translation>Eşitlenecek paylaşılan klasörleri seçin</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]Re&amp;move</source>
+        <translation>[DlgTitleFont]&amp;Kaldır</translation>
+    </message>
+    <message>
+        <source>Uploading...</source>
+        <translation>Karşıya yükleniyor…</translation>
+    </message>
+    <message>
+        <source>To use selective sync, ask the server administrator to upgrade Quillmere on the server.</source>
+        <translation>Seçmeli eşitlemeyi kullanmak için sunucu yöneticisinden sunucudaki Quillmere yazılımını yükseltmesini isteyin.</translation>
+    </message>
+    <message>
+        <source>No settings have been changed.</source>
+        <translation>Hiçbir ayar değiştirilmedi.</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]Files in use</source>
+        <translation>[DlgTitleFont]Kullanımdaki dosyalar</translation>
+    </message>
+    <message>
+        <source>Repairs errors in the installation of [ProductName] by restoring missing or damaged files and shortcuts.</source>
+        <translation>Eksik veya zarar görmüş dosyaları ve kısayolları geri yükleyerek [ProductName] kurulumundaki hataları onarır.</translation>
+    </message>
+    <message>
+        <source>Blocked file extensions</source>
+        <translation>Hariç tutulan dosya uzantıları</translation>
+    </message>
+    <message>
+        <source>Syncing is paused.</source>
+        <translation>Eşitleme duraklatıldı.</translation>
+    </message>
+    <message>
+        <source>{\VerdanaBold13}Welcome back to the [ProductName] Setup Wizard</source>
+        <translation>{\VerdanaBold13}[ProductName] kurulum sihirbazına yeniden hoş geldiniz</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Parola</translation>
+    </message>
+    <message>
+        <source>The volume that holds the sync folder is not mounted. Mount the volume, then resume syncing.</source>
+        <translation>Eşitleme klasörünün bulunduğu birim bağlı değil. Birimi bağlayın, ardından eşitlemeyi sürdürün.</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Düzenle</translation>
+    </message>
+    <message>
+        <source>This computer has no free disk space.</source>
+        <translation>Bu bilgisayarda boş disk alanı yok.</translation>
+    </message>
+    <message>
+        <source>Proxy server address</source>
+        <translation>Vekil sunucu adresi</translation>
+    </message>
+    <message>
+        <source>&amp;Retry</source>
+        <translation>&amp;Yeniden dene</translation>
+    </message>
+    <message>
+        <source>&amp;Ignore</source>
+        <translation>Y&amp;ok say</translation>
+    </message>
+    <message>
+        <source>A folder with this name already exists. Do you want to merge its files with those on the server?</source>
+        <translation>Bu adda bir klasör zaten var. Bu klasördeki dosyaları sunucudakilerle birleştirmek istiyor musunuz?</translation>
+    </message>
+    <message>
+        <source>Quillmere keeps your files in sync between your computers and your server.</source>
+        <translation>Quillmere, dosyalarınızı bilgisayarlarınız ile sunucunuz arasında eşitlenmiş durumda tutar.</translation>
+    </message>
+    <message>
+        <source>Change the installed features</source>
+        <translation>Kurulu bileşenleri değiştir</translation>
+    </message>
+    <message>
+        <source>Welcome to Quillmere</source>
+        <translation>Quillmere uygulamasına hoş geldiniz</translation>
+    </message>
+    <message>
+        <source>&amp;Repair</source>
+        <translation>&amp;Onar</translation>
+    </message>
+    <message>
+        <source>Upgrading Quillmere...</source>
+        <translation>Quillmere yükseltiliyor…</translation>
+    </message>
+    <message>
+        <source>Sync mode</source>
+        <translation>Eşitleme modu</translation>
+    </message>
+    <message>
+        <source>Enter a domain name, an IP address, or a server ID.</source>
+        <translation>Bir alan adı, IP adresi veya sunucu kimliği girin.</translation>
+    </message>
+    <message>
+        <source>A share link could not be created for this file. Check the connection to the server, then try again.</source>
+        <translation>Bu dosya için paylaşım bağlantısı oluşturulamadı. Sunucu bağlantısını denetleyip yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>Kimlik</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Uygula</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Bitti</translation>
+    </message>
+    <message>
+        <source>Syncing %1 files...</source>
+        <translation>%1 dosya eşitleniyor…</translation>
+    </message>
+    <message>
+        <source>Link again</source>
+        <translation>Yeniden eşleştir</translation>
+    </message>
+    <message>
+        <source>Your files, in sync everywhere</source>
+        <translation>Dosyalarınız her yerde eşitlenmiş durumda</translation>
+    </message>
+    <message>
+        <source>Destination</source>
+        <translation>Hedef</translation>
+    </message>
+    <message>
+        <source>The Setup Wizard is making the changes you chose.</source>
+        <translation>Kurulum sihirbazı seçtiğiniz değişiklikleri yapıyor.</translation>
+    </message>
+    <message>
+        <source>System default</source>
+        <translation>Sistem varsayılanı</translation>
+    </message>
+    <message>
+        <source>The folders and files you cleared will be removed from this computer. They will be kept on the server.</source>
+        <translation>İşaretini kaldırdığınız klasörler ve dosyalar bu bilgisayardan silinecek. Sunucudaki kopyaları korunacak.</translation>
+    </message>
+    <message>
+        <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
+        <translation>Kurulum, seçtiğiniz tüm değişiklikleri yaptı. Kurulum sihirbazından çıkmak için “Bitir” düğmesine tıklayın.</translation>
+    </message>
+    <message>
+        <source>Click Remove to remove [ProductName] from your computer. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
+        <translation>[ProductName] uygulamasını bilgisayarınızdan kaldırmak için “Kaldır” düğmesine tıklayın. Seçimlerinizi gözden geçirmek için “Geri” düğmesine, kurulum sihirbazından çıkmak için “İptal” düğmesine tıklayın.</translation>
+    </message>
+    <message>
+        <source>No space left</source>
+        <translation>Boş alan kalmadı</translation>
+    </message>
+    <message>
+        <source>Inactive</source>
+        <translation>Etkin değil</translation>
+    </message>
+    <message>
+        <source>Your quota on the server is full.</source>
+        <translation>Sunucudaki kotanız dolu.</translation>
+    </message>
+    <message>
+        <source>Unlink this connection?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation>Bu bağlantının eşleştirmesi kaldırılsın mı?\nDosyalarınız bu bilgisayarda ve sunucuda saklanacak, ancak artık eşitlenmeyecek.</translation>
+    </message>
+    <message>
+        <source>The relay service has a problem. Try again later, or connect with the IP address of the server.</source>
+        <translation>Aktarma hizmetinde bir sorun var. Daha sonra yeniden deneyin veya sunucunun IP adresiyle bağlanın.</translation>
+    </message>
+    <message>
+        <source>Server ID</source>
+        <translation>Sunucu kimliği</translation>
+    </message>
+    <message>
+        <source>Blocked file names</source>
+        <translation>Hariç tutulan dosya adları</translation>
+    </message>
+    <message>
+        <source>Server address</source>
+        <translation>Sunucu adresi</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Devam et</translation>
+    </message>
+    <message>
+        <source>Enabled</source>
+        <translation>Etkin</translation>
+    </message>
+    <message>
+        <source>This computer has no free disk space. Free some space to continue syncing.</source>
+        <translation>Bu bilgisayarda boş disk alanı yok. Eşitlemeye devam etmek için yer açın.</translation>
+    </message>
+    <message>
+        <source>Folders to sync</source>
+        <translation>Eşitlenecek klasörler</translation>
+    </message>
+    <message>
+        <source>Choose a sync folder</source>
+        <translation>Eşitleme klasörünü seçin</translation>
+    </message>
+    <message>
+        <source>Connection settings</source>
+        <translation>Bağlantı ayarları</translation>
+    </message>
+    <message>
+        <source>Selective sync</source>
+        <translation>Seçmeli eşitleme</translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation>Bilgisayar</translation>
+    </message>
+    <message>
+        <source>Your quota on the server is full. Delete files you do not need, or ask the server administrator for a larger quota.</source>
+        <translation>Sunucudaki kotanız dolu. Gereksiz dosyaları silin veya sunucu yöneticisinden daha büyük bir kota isteyin.</translation>
+    </message>
+    <message>
+        <source>After you start [ProductName], you can find it in the system tray.</source>
+        <translation>[ProductName] uygulamasını başlattıktan sonra sistem tepsisinde bulabilirsiniz.</translation>
+    </message>
+    <message>
+        <source>&amp;Leave the applications open and restart the computer later</source>
+        <translation>Uygulamaları açık &amp;bırak ve bilgisayarı daha sonra yeniden başlat</translation>
+    </message>
+    <message>
+        <source>Use the following proxy server</source>
+        <translation>Aşağıdaki vekil sunucuyu kullan</translation>
+    </message>
+    <message>
+        <source>This file was changed in two places. Compare both copies, then keep the one you need.</source>
+        <translation>Bu dosya iki ayrı yerde değiştirilmiş. İki kopyayı karşılaştırın, ardından gereken kopyayı saklayın.</translation>
+    </message>
+    <message>
+        <source>One place for your files on every computer, through a server of your own</source>
+        <translation>Kendi sunucunuz aracılığıyla, tüm bilgisayarlardaki dosyalarınız için tek bir yer</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>Show desktop notifications</source>
+        <translation>Masaüstü bildirimlerini göster</translation>
+    </message>
+    <message>
+        <source>The following applications use files that setup needs to update. Close them and click Retry, click Ignore to continue without closing them, or click Exit to leave setup.</source>
+        <translation>Aşağıdaki uygulamalar, kurulumun güncellemesi gereken dosyaları kullanıyor. Uygulamaları kapatıp “Yeniden dene” düğmesine, kapatmadan devam etmek için “Yok say” düğmesine, kurulumdan ayrılmak için “Çıkış” düğmesine tıklayın.</translation>
+    </message>
+    <message>
+        <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
+        <translation>Sunucuya ulaşılamıyor. Ağ bağlantısını ve sunucu adresini denetleyip yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>Local sync folder</source>
+        <translation>Yerel eşitleme klasörü</translation>
+    </message>
+    <message>
+        <source>Files that match an entry in this list are not synced.</source>
+        <translation>Bu listedeki bir ögeyle eşleşen dosyalar eşitlenmez.</translation>
+    </message>
+    <message>
+        <source>Edit connection</source>
+        <translation>Bağlantıyı düzenle</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Seçenekler</translation>
+    </message>
+    <message>
+        <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
+        <translation>Aşağıdaki uygulamalar, kurulumun güncellemesi gereken dosyaları kullanıyor. Kurulumun bu uygulamaları kapatıp kapatmayacağını seçin. Uygulamalar açık kalırsa kurulumu tamamlamak için bilgisayarı yeniden başlatmanız gerekir.</translation>
+    </message>
+    <message>
+        <source>The Setup Wizard is ready to begin the repair.</source>
+        <translation>Kurulum sihirbazı onarıma başlamaya hazır.</translation>
+    </message>
+    <message>
+        <source>Open Quillmere</source>
+        <translation>Quillmere penceresini aç</translation>
+    </message>
+    <message>
+        <source>Please restart %1 to apply the new language settings.</source>
+        <translation>Yeni dil ayarlarını uygulamak için lütfen %1 uygulamasını yeniden başlatın.</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Duraklat</translation>
+    </message>
+    <message>
+        <source>Show icon overlays on filtered files</source>
+        <translation>Süzgecin dışarıda bıraktığı dosyalarda simge kaplamalarını göster</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Ayarlar</translation>
+    </message>
+    <message>
+        <source>Loading...</source>
+        <translation>Yükleniyor…</translation>
+    </message>
+    <message>
+        <source>You can sync at most %1 shared folders. Stop syncing one of them before you add another.</source>
+        <translation>En fazla %1 paylaşılan klasör eşitleyebilirsiniz. Başka bir klasör eklemeden önce bunlardan birinin eşitlemesini durdurun.</translation>
+    </message>
+    <message>
+        <source>Unlink this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation>Bu eşitleme görevinin eşleştirmesi kaldırılsın mı?\nGörevin dosyaları bu bilgisayarda ve sunucuda saklanacak, ancak artık eşitlenmeyecek.</translation>
+    </message>
+    <message>
+        <source>Starting Quillmere...</source>
+        <translation>Quillmere başlatılıyor…</translation>
+    </message>
+    <message>
+        <source>Quillmere could not be upgraded. Restart the computer, then try again.</source>
+        <translation>Quillmere yükseltilemedi. Bilgisayarı yeniden başlatıp tekrar deneyin.</translation>
+    </message>
+    <message>
+        <source>Block names that begin with a dot</source>
+        <translation>Nokta ile başlayan adları hariç tut</translation>
+    </message>
+    <message>
+        <source>The server has no free disk space. Ask the server administrator to free some space.</source>
+        <translation>Sunucuda boş disk alanı yok. Sunucu yöneticisinden yer açmasını isteyin.</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]License agreement</source>
+        <translation>[DlgTitleFont]Lisans sözleşmesi</translation>
+    </message>
+    <message>
+        <source>%1 was downloaded.</source>
+        <translation>“%1” dosyası indirildi.</translation>
+    </message>
+    <message>
+        <source>The versions of this file could not be listed. Check the connection to the server, then try again.</source>
+        <translation>Bu dosyanın sürümleri listelenemedi. Sunucu bağlantısını denetleyip yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>Connected to the server.</source>
+        <translation>Sunucuya bağlanıldı.</translation>
+    </message>
+    <message>
+        <source>{\VerdanaBold13}The [ProductName] Setup Wizard is complete</source>
+        <translation>{\VerdanaBold13}[ProductName] kurulum sihirbazı tamamlandı</translation>
+    </message>
+    <message>
+        <source>Local network</source>
+        <translation>Yerel ağ</translation>
+    </message>
+    <message>
+        <source>Do not use a proxy server</source>
+        <translation>Vekil sunucu kullanma</translation>
+    </message>
+    <message>
+        <source>Shared folder not found</source>
+        <translation>Paylaşılan klasör bulunamadı</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>İ&amp;leri</translation>
+    </message>
+    <message>
+        <source>Parvenor Quillmere</source>
+        <translation>Parvenor Quillmere</translation>
+    </message>
+    <message>
+        <source>%1 could not be downloaded. Check the connection to the server, then try again.</source>
+        <translation>“%1” dosyası indirilemedi. Sunucu bağlantısını denetleyip yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>Watching for file changes...</source>
+        <translation>Dosya değişiklikleri izleniyor…</translation>
+    </message>
+    <message>
+        <source>Shared folder</source>
+        <translation>Paylaşılan klasör</translation>
+    </message>
+    <message>
+        <source>Client options</source>
+        <translation>İstemci seçenekleri</translation>
+    </message>
+    <message>
+        <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
+        <translation>Paylaşım bağlantısı silinemedi. Sunucu bağlantısını denetleyip yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>The SSL certificate of the server could not be verified. Ask the server administrator to check the certificate.</source>
+        <translation>Sunucunun SSL sertifikası doğrulanamadı. Sunucu yöneticisinden sertifikayı denetlemesini isteyin.</translation>
+    </message>
+    <message>
+        <source>This is not the server the connection was linked to. Check the server address, or link again.</source>
+        <translation>Bu, bağlantının eşleştirildiği sunucu değil. Sunucu adresini denetleyin veya yeniden eşleştirin.</translation>
+    </message>
+    <message>
+        <source>[ProductName] has no features that can be changed separately.</source>
+        <translation>[ProductName] uygulamasının ayrı ayrı değiştirilebilecek bileşenleri yok.</translation>
+    </message>
+    <message>
+        <source>The address or port of the proxy server is missing. Enter both, then try again.</source>
+        <translation>Vekil sunucunun adresi veya bağlantı noktası eksik. İkisini de girip yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation>Vekil sunucu</translation>
+    </message>
+    <message>
+        <source>The user name is missing. Enter a user name.</source>
+        <translation>Kullanıcı adı eksik. Bir kullanıcı adı girin.</translation>
+    </message>
+    <message>
+        <source>Delete link</source>
+        <translation>Paylaşım bağlantısını sil</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Hata</translation>
+    </message>
+    <message>
+        <source>I &amp;accept the terms of the license agreement</source>
+        <translation>Lisans sözleşmesinin koşullarını &amp;kabul ediyorum</translation>
+    </message>
+    <message>
+        <source>Updated: %1</source>
+        <translation>Güncellendi: %1</translation>
+    </message>
+    <message>
+        <source>Manage connections</source>
+        <translation>Bağlantıları yönet</translation>
+    </message>
+    <message>
+        <source>Link to another server</source>
+        <translation>Başka bir sunucuyla eşleştir</translation>
+    </message>
+    <message>
+        <source>Show icon overlays</source>
+        <translation>Simge kaplamalarını göster</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]Setting up [ProductName]</source>
+        <translation>[DlgTitleFont][ProductName] yapılandırılıyor</translation>
+    </message>
+    <message>
+        <source>Service turned off</source>
+        <translation>Hizmet kapalı</translation>
+    </message>
+    <message>
+        <source>Sync</source>
+        <translation>Eşitle</translation>
+    </message>
+    <message>
+        <source>Stop syncing this shared folder?\nThe files already on this computer will be kept.</source>
+        <translation>Bu paylaşılan klasörün eşitlemesi durdurulsun mu?\nBu bilgisayarda bulunan dosyalar saklanacak.</translation>
+    </message>
+    <message>
+        <source>&amp;Install</source>
+        <translation>&amp;Kur</translation>
+    </message>
+    <message>
+        <source>File filter</source>
+        <translation>Dosya süzgeci</translation>
+    </message>
+    <message>
+        <source>Status details</source>
+        <translation>Durum ayrıntıları</translation>
+    </message>
+    <message>
+        <source>I &amp;do not accept the terms of the license agreement</source>
+        <translation>Lisans sözleşmesinin koşullarını kabul &amp;etmiyorum</translation>
+    </message>
+    <message>
+        <source>Something went wrong. Try again, and contact the server administrator if the problem continues.</source>
+        <translation>Bir sorun oluştu. Yeniden deneyin; sorun sürerse sunucu yöneticisine başvurun.</translation>
+    </message>
+    <message>
+        <source>Tray icons</source>
+        <translation>Sistem tepsisi simgeleri</translation>
+    </message>
+    <message>
+        <source>The folder is read-only. Choose a folder you can write to.</source>
+        <translation>Klasör salt okunur. Yazabileceğiniz bir klasör seçin.</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>İleri</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Geri</translation>
+    </message>
+    <message>
+        <source>Proxy settings</source>
+        <translation>Vekil sunucu ayarları</translation>
+    </message>
+    <message>
+        <source>You are not signed in as an administrator, so Quillmere might not install completely. Do you want to continue?</source>
+        <translation>Yönetici olarak oturum açmadınız, bu nedenle Quillmere tam olarak kurulamayabilir. Devam etmek istiyor musunuz?</translation>
+    </message>
+    <message>
+        <source>Use the tray icon at any time to see the sync status or change the settings.</source>
+        <translation>Eşitleme durumunu görmek veya ayarları değiştirmek için sistem tepsisi simgesini istediğiniz zaman kullanabilirsiniz.</translation>
+    </message>
+    <message>
+        <source>Share link created</source>
+        <translation>Paylaşım bağlantısı oluşturuldu</translation>
+    </message>
+    <message>
+        <source>The user name or password is not correct. Check both, then try again.</source>
+        <translation>Kullanıcı adı veya parola doğru değil. İkisini de denetleyip yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]Ready to repair [ProductName]</source>
+        <translation>[DlgTitleFont][ProductName] onarılmaya hazır</translation>
+    </message>
+    <message>
+        <source>The shared folder %1 is now available. Click here to sync it.</source>
+        <translation>“%1” paylaşılan klasörü artık kullanılabilir. Eşitlemek için buraya tıklayın.</translation>
+    </message>
+    <message>
+        <source>Status:</source>
+        <translation>Durum:</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Boyut</translation>
+    </message>
+    <message>
+        <source>Connection information</source>
+        <translation>Bağlantı bilgileri</translation>
+    </message>
+    <message>
+        <source>Lets you choose which features are installed.</source>
+        <translation>Hangi bileşenlerin kurulacağını seçmenizi sağlar.</translation>
+    </message>
+    <message>
+        <source>Folder name</source>
+        <translation>Klasör adı</translation>
+    </message>
+    <message>
+        <source>Folder is a mount point</source>
+        <translation>Klasör bir bağlama noktası</translation>
+    </message>
+    <message>
+        <source>Choose another folder</source>
+        <translation>Başka bir klasör seç</translation>
+    </message>
+    <message>
+        <source>Download only</source>
+        <translation>Yalnızca indir</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]&amp;Repair</source>
+        <translation>[DlgTitleFont]&amp;Onar</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>&amp;Kaldır</translation>
+    </message>
+    <message>
+        <source>Maximum file size</source>
+        <translation>En büyük dosya boyutu</translation>
+    </message>
+    <message>
+        <source>Enter the server address and the account you use on the server.</source>
+        <translation>Sunucu adresini ve sunucuda kullandığınız hesabı girin.</translation>
+    </message>
+    <message>
+        <source>A different server was found at the server address.</source>
+        <translation>Sunucu adresinde farklı bir sunucu bulundu.</translation>
+    </message>
+    <message>
+        <source>Linking to the server...</source>
+        <translation>Sunucuyla eşleştiriliyor…</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Bağlantı noktası</translation>
+    </message>
+    <message>
+        <source>Share link</source>
+        <translation>Bağlantıyla paylaş</translation>
+    </message>
+    <message>
+        <source>The user name or password was not accepted by the server. Edit the connection and enter them again.</source>
+        <translation>Sunucu, kullanıcı adını veya parolayı kabul etmedi. Bağlantıyı düzenleyip bunları yeniden girin.</translation>
+    </message>
+    <message>
+        <source>Recently updated files</source>
+        <translation>Son güncellenen dosyalar</translation>
+    </message>
+    <message>
+        <source>Use the system proxy settings</source>
+        <translation>Sistemin vekil sunucu ayarlarını kullan</translation>
+    </message>
+    <message>
+        <source>Change folder</source>
+        <translation>Klasörü değiştir</translation>
+    </message>
+    <message>
+        <source>Finish</source>
+        <translation>Bitir</translation>
+    </message>
+    <message>
+        <source>Folder path</source>
+        <translation>Klasör yolu</translation>
+    </message>
+    <message>
+        <source>Downloading...</source>
+        <translation>İndiriliyor…</translation>
+    </message>
+    <message>
+        <source>The file is locked</source>
+        <translation>Dosya kilitli</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Preparing...</source>
+        <translation>Hazırlanıyor…</translation>
+    </message>
+    <message>
+        <source>Updating files...</source>
+        <translation>Dosyalar güncelleniyor…</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]Ready to install [ProductName]</source>
+        <translation>[DlgTitleFont][ProductName] kurulmaya hazır</translation>
+    </message>
+    <message>
+        <source>Checking the user name and password...</source>
+        <translation>Kullanıcı adı ve parola denetleniyor…</translation>
+    </message>
+    <message>
+        <source>Wait while the Setup Wizard sets up [ProductName]. This can take several minutes.</source>
+        <translation>Kurulum sihirbazı [ProductName] uygulamasını yapılandırırken bekleyin. Bu işlem birkaç dakika sürebilir.</translation>
+    </message>
+    <message>
+        <source>Manage</source>
+        <translation>Yönet</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Durum</translation>
+    </message>
+    <message>
+        <source>The server ID is not valid. Check the server ID, then try again.</source>
+        <translation>Sunucu kimliği geçerli değil. Sunucu kimliğini denetleyip yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>Open sync folder</source>
+        <translation>Eşitleme klasörünü aç</translation>
+    </message>
+    <message>
+        <source>When the tray icon is double-clicked</source>
+        <translation>Sistem tepsisi simgesine çift tıklandığında</translation>
+    </message>
+    <message>
+        <source>Syncing could not be turned on for this shared folder. Check your permissions on the server, then try again.</source>
+        <translation>Bu paylaşılan klasör için eşitleme açılamadı. Sunucudaki izinlerinizi denetleyip yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>File sharing over the relay is turned off on the server. Ask the server administrator to turn it on.</source>
+        <translation>Aktarma hizmeti üzerinden dosya paylaşımı sunucuda kapalı. Sunucu yöneticisinden bunu açmasını isteyin.</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Ekle</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Değer</translation>
+    </message>
+    <message>
+        <source>Resume syncing</source>
+        <translation>Eşitlemeyi sürdür</translation>
+    </message>
+    <message>
+        <source>E&amp;xit</source>
+        <translation>Çı&amp;kış</translation>
+    </message>
+    <message>
+        <source>The share link was copied to the clipboard.</source>
+        <translation>Paylaşım bağlantısı panoya kopyalandı.</translation>
+    </message>
+    <message>
+        <source>The local sync folder was not found. Restore the folder or choose a different one.</source>
+        <translation>Yerel eşitleme klasörü bulunamadı. Klasörü geri yükleyin veya farklı bir klasör seçin.</translation>
+    </message>
+    <message>
+        <source>Upgrade Quillmere</source>
+        <translation>Quillmere yükseltmesi</translation>
+    </message>
+    <message>
+        <source>Add sync task</source>
+        <translation>Eşitleme görevi ekle</translation>
+    </message>
+    <message>
+        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it.</source>
+        <translation>Paylaşılan klasör sunucuda bağlı değil. Sunucu yöneticisinden klasörü bağlamasını isteyin.</translation>
+    </message>
+    <message>
+        <source>The server sent an unexpected response. Upgrade the client and the server, then try again.</source>
+        <translation>Sunucu beklenmeyen bir yanıt gönderdi. İstemciyi ve sunucuyu yükseltip yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>Server overview</source>
+        <translation>Sunucuya genel bakış</translation>
+    </message>
+    <message>
+        <source>Syncing stopped because of a problem. Click here for details.</source>
+        <translation>Eşitleme bir sorun nedeniyle durdu. Ayrıntılar için buraya tıklayın.</translation>
+    </message>
+    <message>
+        <source>Enter a size of at most %1 MB.</source>
+        <translation>En fazla %1&#xa0;MB olan bir boyut girin.</translation>
+    </message>
+    <message>
+        <source>Checking the data...</source>
+        <translation>Veriler denetleniyor…</translation>
+    </message>
+    <message>
+        <source>Trying to sync...</source>
+        <translation>Eşitleme deneniyor…</translation>
+    </message>
+    <message>
+        <source>Click Install to begin the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
+        <translation>[ProductName] kurulumuna başlamak için “Kur” düğmesine tıklayın. Seçimlerinizi gözden geçirmek için “Geri” düğmesine, kurulum sihirbazından çıkmak için “İptal” düğmesine tıklayın.</translation>
+    </message>
+    <message>
+        <source>{\VerdanaBold13}[ProductName] setup was interrupted</source>
+        <translation>{\VerdanaBold13}[ProductName] kurulumu yarıda kesildi</translation>
+    </message>
+    <message>
+        <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
+        <translation>Klasör boş değil. Klasördeki dosyaları sunucudakilerle birleştirin veya başka bir klasör seçin.</translation>
+    </message>
+    <message>
+        <source>This folder is being indexed. Its files will appear when indexing is complete.</source>
+        <translation>Bu klasör dizinleniyor. Klasördeki dosyalar, dizinleme tamamlandığında görünecek.</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>Kullanıcı adı</translation>
+    </message>
+    <message>
+        <source>Merge</source>
+        <translation>Birleştir</translation>
+    </message>
+    <message>
+        <source>You can open the files in this shared folder, but changes you make are not uploaded.</source>
+        <translation>Bu paylaşılan klasördeki dosyaları açabilirsiniz, ancak yaptığınız değişiklikler sunucuya yüklenmez.</translation>
+    </message>
+    <message>
+        <source>Network settings</source>
+        <translation>Ağ ayarları</translation>
+    </message>
+    <message>
+        <source>This folder is already synced with another shared folder. Choose a different folder.</source>
+        <translation>Bu klasör zaten başka bir paylaşılan klasörle eşitleniyor. Farklı bir klasör seçin.</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Sürdür</translation>
+    </message>
+    <message>
+        <source>The server has no free disk space.</source>
+        <translation>Sunucuda boş disk alanı yok.</translation>
+    </message>
+    <message>
+        <source>Relay by server ID</source>
+        <translation>Sunucu kimliği ile aktarma</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Hayır</translation>
+    </message>
+    <message>
+        <source>Choose what you want to do.</source>
+        <translation>Ne yapmak istediğinizi seçin.</translation>
+    </message>
+    <message>
+        <source>{\VerdanaBold13}[ProductName] setup did not finish</source>
+        <translation>{\VerdanaBold13}[ProductName] kurulumu tamamlanmadı</translation>
+    </message>
+    <message>
+        <source>Quillmere is already running.</source>
+        <translation>Quillmere zaten çalışıyor.</translation>
+    </message>
+    <message>
+        <source>Welcome</source>
+        <translation>Hoş geldiniz</translation>
+    </message>
+    <message>
+        <source>Start Quillmere when I sign in to this computer</source>
+        <translation>Bu bilgisayarda oturum açtığımda Quillmere uygulamasını başlat</translation>
+    </message>
+    <message>
+        <source>All files from both folders are kept. If two versions of a file differ, you get both.</source>
+        <translation>İki klasördeki tüm dosyalar saklanır. Bir dosyanın iki sürümü farklıysa her ikisi de elinizde olur.</translation>
+    </message>
+    <message>
+        <source>Repair the installation</source>
+        <translation>Kurulumu onar</translation>
+    </message>
+    <message>
+        <source>Sync enabled</source>
+        <translation>Eşitleme açık</translation>
+    </message>
+    <message>
+        <source>Quillmere could not start. Restart the computer, then start Quillmere again.</source>
+        <translation>Quillmere başlatılamadı. Bilgisayarı yeniden başlatın, ardından Quillmere uygulamasını tekrar başlatın.</translation>
+    </message>
+    <message>
+        <source>Do you want to cancel the setup of [ProductName]?</source>
+        <translation>[ProductName] kurulumunu iptal etmek istiyor musunuz?</translation>
+    </message>
+    <message>
+        <source>Continue anyway</source>
+        <translation>Yine de devam et</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]Change, repair, or remove [ProductName]</source>
+        <translation>[DlgTitleFont][ProductName] uygulamasını değiştirin, onarın veya kaldırın</translation>
+    </message>
+    <message>
+        <source>Quillmere is set up</source>
+        <translation>Quillmere kullanıma hazır</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Dil</translation>
+    </message>
+    <message>
+        <source>Advanced settings</source>
+        <translation>Gelişmiş ayarlar</translation>
+    </message>
+    <message>
+        <source>Browse versions</source>
+        <translation>Sürümlere göz at</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]&amp;Change</source>
+        <translation>[DlgTitleFont]&amp;Değiştir</translation>
+    </message>
+    <message>
+        <source>This connection is inactive. Link it again to continue syncing.</source>
+        <translation>Bu bağlantı etkin değil. Eşitlemeye devam etmek için bağlantıyı yeniden eşleştirin.</translation>
+    </message>
+    <message>
+        <source>Detecting...</source>
+        <translation>Algılanıyor…</translation>
+    </message>
+    <message>
+        <source>SSL warning</source>
+        <translation>SSL uyarısı</translation>
+    </message>
+    <message>
+        <source>The relay service cannot be reached. Check your Internet connection, then try again.</source>
+        <translation>Aktarma hizmetine ulaşılamıyor. İnternet bağlantınızı denetleyip yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>Removes [ProductName] from your computer.</source>
+        <translation>[ProductName] uygulamasını bilgisayarınızdan kaldırır.</translation>
+    </message>
+    <message>
+        <source>Downloading %1...</source>
+        <translation>“%1” dosyası indiriliyor…</translation>
+    </message>
+    <message>
+        <source>&amp;Finish</source>
+        <translation>&amp;Bitir</translation>
+    </message>
+    <message>
+        <source>Read-only folder</source>
+        <translation>Salt okunur klasör</translation>
+    </message>
+    <message>
+        <source>[DlgTitleFont]You canceled setup, and your computer was not changed.</source>
+        <translation>[DlgTitleFont]Kurulumu iptal ettiniz ve bilgisayarınızda değişiklik yapılmadı.</translation>
+    </message>
+    <message>
+        <source>The port number is not valid. Enter a number from 1 to 65535.</source>
+        <translation>Bağlantı noktası numarası geçerli değil. 1 ile 65535 arasında bir sayı girin.</translation>
+    </message>
+    <message>
+        <source>Quillmere cannot watch for changes on a network drive. Choose a folder on a local drive.</source>
+        <translation>Quillmere, ağ sürücüsündeki değişiklikleri izleyemez. Yerel bir sürücüde bir klasör seçin.</translation>
+    </message>
+    <message>
+        <source>Remove the installation</source>
+        <translation>Kurulumu kaldır</translation>
+    </message>
+    <message>
+        <source>Direct connection</source>
+        <translation>Doğrudan bağlantı</translation>
+    </message>
+    <message>
+        <source>The server volume that holds this folder is not mounted. Ask the server administrator to mount it.</source>
+        <translation>Bu klasörün bulunduğu sunucu birimi bağlı değil. Sunucu yöneticisinden birimi bağlamasını isteyin.</translation>
+    </message>
+    <message>
+        <source>This version of Quillmere is already installed. Do you want to install it again?</source>
+        <translation>Bu Quillmere sürümü zaten kurulu. Yeniden kurmak istiyor musunuz?</translation>
+    </message>
+    <message>
+        <source>This client is too old for the server. Upgrade the client, then try again.</source>
+        <translation>Bu istemci, sunucu için çok eski. İstemciyi yükseltip yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>The server is too old for this client.</source>
+        <translation>Sunucu bu istemci için çok eski.</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Devre dışı</translation>
+    </message>
+</context>
+</TS>
