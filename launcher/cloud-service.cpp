@@ -16,9 +16,7 @@ const ustring kComponent("service_debug");
 
 constexpr int kMaxBackups = 100;  // names tried for a backup, numbers 0 to 99
 
-ustring to_ustring(const QString& text) {
-  return text.toUtf8().constData();
-}
+ustring to_ustring(const QString& text) { return text.toUtf8().constData(); }
 
 // The name of backup number `index` of the directory `path`.
 ustring GetAppBackupDir(const ustring& path, int index) {
@@ -62,21 +60,13 @@ void discard_copy(const ustring& app) {
 
 }  // namespace
 
-void Service::SetTimeout(int limit) {
-  timeout = limit;
-}
+void Service::SetTimeout(int limit) { timeout = limit; }
 
-ustring Service::GetUserInstallPath() {
-  return to_ustring(QDir::homePath());
-}
+ustring Service::GetUserInstallPath() { return to_ustring(QDir::homePath()); }
 
-ustring Service::GetUserQuillmereInstallPath() {
-  return GetUserInstallPath() + "/.Quillmere";
-}
+ustring Service::GetUserQuillmereInstallPath() { return GetUserInstallPath() + "/.Quillmere"; }
 
-ustring Service::GetUserQuillmereAppInstallPath() {
-  return GetUserQuillmereInstallPath() + "/app";
-}
+ustring Service::GetUserQuillmereAppInstallPath() { return GetUserQuillmereInstallPath() + "/app"; }
 
 ustring Service::GetUserQuillmereDataInstallPath() {
   return GetUserQuillmereInstallPath() + "/data";
@@ -86,9 +76,7 @@ ustring Service::GetRootQuillmereInstallPath() {
   return to_ustring(QDir::cleanPath(QCoreApplication::applicationDirPath() + "/.."));
 }
 
-ustring Service::GetRootQuillmereResourceInstallPath() {
-  return GetRootQuillmereInstallPath();
-}
+ustring Service::GetRootQuillmereResourceInstallPath() { return GetRootQuillmereInstallPath(); }
 
 void Service::LoadSourceVersion() {
   const ustring path = GetUserQuillmereAppInstallPath() + "/INFO";
@@ -101,8 +89,7 @@ void Service::LoadSourceVersion() {
   Logger::LogMsg(Logger::L_INFO, kComponent,
                  "[INFO] cloud-service(%d): source_version = (%s, %s, %s, %s)\n", __LINE__,
                  source_version.major_version.c_str(), source_version.minor_version.c_str(),
-                 source_version.build_version.c_str(),
-                 source_version.icon_overlay_version.c_str());
+                 source_version.build_version.c_str(), source_version.icon_overlay_version.c_str());
 }
 
 void Service::LoadTargetVersion() {
@@ -112,8 +99,7 @@ void Service::LoadTargetVersion() {
   Logger::LogMsg(Logger::L_INFO, kComponent,
                  "[INFO] cloud-service(%d): target_version = (%s, %s, %s, %s)\n", __LINE__,
                  target_version.major_version.c_str(), target_version.minor_version.c_str(),
-                 target_version.build_version.c_str(),
-                 target_version.icon_overlay_version.c_str());
+                 target_version.build_version.c_str(), target_version.icon_overlay_version.c_str());
 }
 
 int Service::ExtractPackage() {
@@ -191,9 +177,8 @@ void Service::RollBack(const ustring& app, const ustring& backup) {
 }
 
 int Service::FSCopyPath(const ustring& src, const ustring& dst) {
-  Logger::LogMsg(Logger::L_DEBUG, kComponent,
-                 "[DEBUG] cloud-service(%d): copy from '%s' to '%s'\n", __LINE__, src.c_str(),
-                 dst.c_str());
+  Logger::LogMsg(Logger::L_DEBUG, kComponent, "[DEBUG] cloud-service(%d): copy from '%s' to '%s'\n",
+                 __LINE__, src.c_str(), dst.c_str());
   FILE_INFO info;
   if (FSStat(src, info, false) < 0) {
     Logger::LogMsg(Logger::L_ERR, kComponent,

@@ -20,9 +20,8 @@ constexpr int kDialogWidth = 400;  // device-independent pixels
 
 ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr) {
   const QFont font("Arial");
-  const QString icon =
-      QString::fromUtf8(Service::GetRootQuillmereResourceInstallPath().c_str()) +
-      "/images/ico_72_quill_mere.png";
+  const QString icon = QString::fromUtf8(Service::GetRootQuillmereResourceInstallPath().c_str()) +
+                       "/images/ico_72_quill_mere.png";
   setWindowTitle(StrTable::LoadStr(StrTable::app_name));
   setWindowIcon(QIcon(icon));
   setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint);
@@ -39,9 +38,7 @@ ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr) 
 
 void ProcessingProgressDialog::reject() {}
 
-void ProcessingProgressDialog::closeEvent(QCloseEvent* event) {
-  event->ignore();
-}
+void ProcessingProgressDialog::closeEvent(QCloseEvent* event) { event->ignore(); }
 
 void HandlerThread::run() {
   (void)exec();  // ends by quit() alone, with 0
@@ -62,13 +59,9 @@ Worker::~Worker() {
   delete m_service;
 }
 
-void Worker::StartThread() {
-  m_handler_thread->start(QThread::InheritPriority);
-}
+void Worker::StartThread() { m_handler_thread->start(QThread::InheritPriority); }
 
-void Worker::QuitThread() {
-  m_handler_thread->quit();
-}
+void Worker::QuitThread() { m_handler_thread->quit(); }
 
 void Worker::JoinThread() {
   (void)m_handler_thread->wait();  // without a time limit there is nothing to report
@@ -82,8 +75,8 @@ void Worker::HandleServicce() {
   } else {
     emit sigShowMsg();
     if (m_service->HandlePackageUpgrade() != 0) {
-      Logger::LogMsg(Logger::L_ERR, kComponent,
-                     "[ERROR] launcher(%d): Failed to upgrade packge\n", 100);
+      Logger::LogMsg(Logger::L_ERR, kComponent, "[ERROR] launcher(%d): Failed to upgrade packge\n",
+                     100);
     } else {
       emit sigUpdateProgress(100, 100);
       emit sigSetLabelText(StrTable::LoadStr(StrTable::desc_qlmr_env_preparation_done));
@@ -121,13 +114,9 @@ Launcher::~Launcher() {
   delete m_progress;
 }
 
-void Launcher::Run() {
-  m_worker->StartThread();
-}
+void Launcher::Run() { m_worker->StartThread(); }
 
-void Launcher::Start() {
-  emit sigStart();
-}
+void Launcher::Start() { emit sigStart(); }
 
 void Launcher::UpdateProgress(int total, int steps) {
   const int percent = steps * 100 / total;
@@ -135,13 +124,9 @@ void Launcher::UpdateProgress(int total, int steps) {
   if (percent != m_progress->value()) m_progress->setValue(percent);
 }
 
-void Launcher::SetLabelText(QString text) {
-  m_progress->setLabelText(text);
-}
+void Launcher::SetLabelText(QString text) { m_progress->setLabelText(text); }
 
-void Launcher::ShowMsgBox() {
-  m_progress->show();
-}
+void Launcher::ShowMsgBox() { m_progress->show(); }
 
 void Launcher::LaunchDone() {
   m_progress->setValue(100);

@@ -53,9 +53,9 @@ class Worker : public QObject {
 
  signals:
   // Emitted on the worker thread, received by the Launcher on the GUI thread.
-  void sigServiceDone();                  // the job is over, whatever its outcome
-  void sigShowMsg();                      // an upgrade begins
-  void sigUpdateProgress(int, int);       // (total, steps)
+  void sigServiceDone();             // the job is over, whatever its outcome
+  void sigShowMsg();                 // an upgrade begins
+  void sigUpdateProgress(int, int);  // (total, steps)
   void sigSetLabelText(QString);
 
  public slots:

@@ -40,18 +40,14 @@ bool append_line(const ustring& key, const ustring& value, std::string& out) {
 
 }  // namespace
 
-bool Config::is_space(unsigned char c) {
-  return (c >= 9 && c <= 13) || c == ' ';
-}
+bool Config::is_space(unsigned char c) { return (c >= 9 && c <= 13) || c == ' '; }
 
 bool Config::is_key_char(unsigned char c) {
-  return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') ||
-         c == '-' || c == '_' || c == '.';
+  return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '-' ||
+         c == '_' || c == '.';
 }
 
-bool Config::is_value_char(unsigned char c) {
-  return c >= 32 && c != 127;
-}
+bool Config::is_value_char(unsigned char c) { return c >= 32 && c != 127; }
 
 int Config::parse(char* buf, int /*n*/, ustring& key, ustring& value) {
   char* p = buf;
@@ -144,6 +140,5 @@ int Config::get_int(const ustring& key) const {
 
 bool Config::get_bool(const ustring& key) const {
   const auto it = store.find(key);
-  return it != store.end() &&
-         (it->second == "1" || it->second == "yes" || it->second == "true");
+  return it != store.end() && (it->second == "1" || it->second == "yes" || it->second == "true");
 }

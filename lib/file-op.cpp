@@ -31,7 +31,7 @@ constexpr mode_t kDefaultMode = static_cast<mode_t>(-1);
 uid_t g_uid = kUnsetUid;
 gid_t g_gid = kUnsetGid;
 
-constexpr int kCopyBuffer = 33554432;     // bytes; one buffer of 32 MiB for each copy
+constexpr int kCopyBuffer = 33554432;      // bytes; one buffer of 32 MiB for each copy
 constexpr size_t kCopySlice = 256 * 1024;  // bytes moved at once: what stays in the cache
 constexpr size_t kTemplateSize = 4096;     // bytes of a mkstemp template
 constexpr size_t kRealPathSize = 8192;     // bytes of a resolved path
@@ -93,9 +93,7 @@ class UmaskGuard {
   const mode_t m_old;
 };
 
-bool is_dot(const char* name) {
-  return strcmp(name, ".") == 0 || strcmp(name, "..") == 0;
-}
+bool is_dot(const char* name) { return strcmp(name, ".") == 0 || strcmp(name, "..") == 0; }
 
 // The next entry but "." and "..", or null at the end (errno 0) and on an error. The
 // reader of one stream by one thread is re-entrant, so plain readdir serves.
@@ -123,9 +121,7 @@ FILE_TYPE type_of_mode(mode_t mode) {
 }
 
 // A file system need not support syncing (a pipe or a device does not): that is no loss.
-bool sync_descriptor(int fd) {
-  return fsync(fd) == 0 || errno == EINVAL || errno == EROFS;
-}
+bool sync_descriptor(int fd) { return fsync(fd) == 0 || errno == EINVAL || errno == EROFS; }
 
 int write_error() {
   const int error = errno;
@@ -156,9 +152,8 @@ int copy_content(int in, int out, char* buffer) {
 Descriptor open_for_copy(const ustring& path, int flags) {
   const int fd = TEMP_FAILURE_RETRY(open(path.c_str(), flags | O_CLOEXEC | O_LARGEFILE, 0666));
   if (fd < 0) {
-    Logger::LogMsg(Logger::L_ERR, kComponent,
-                   "[ERROR] file-op(%d): CopyFile: open(%s): %s (%d)\n", __LINE__, path.c_str(),
-                   strerror(errno), errno);
+    Logger::LogMsg(Logger::L_ERR, kComponent, "[ERROR] file-op(%d): CopyFile: open(%s): %s (%d)\n",
+                   __LINE__, path.c_str(), strerror(errno), errno);
   }
   return Descriptor(fd);
 }
@@ -236,13 +231,9 @@ bool operator==(const FILE_INFO& a, const FILE_INFO& b) {
          a.path == b.path && a.name == b.name;
 }
 
-bool operator!=(const FILE_INFO& a, const FILE_INFO& b) {
-  return !(a == b);
-}
+bool operator!=(const FILE_INFO& a, const FILE_INFO& b) { return !(a == b); }
 
-_DIR_HANDLE_tag::~_DIR_HANDLE_tag() {
-  FSCloseDir(*this);
-}
+_DIR_HANDLE_tag::~_DIR_HANDLE_tag() { FSCloseDir(*this); }
 
 void FSInitialize(uid_t u, gid_t g) {
   g_uid = u;
@@ -253,9 +244,7 @@ void FSChown(const ustring& path) {
   (void)!chown(path.c_str(), g_uid, g_gid);  // only root may give files away
 }
 
-int FSInit(const ustring& /*path*/) {
-  return 0;
-}
+int FSInit(const ustring& /*path*/) { return 0; }
 
 bool IsFileExist(const ustring& path, bool /*do_case_check*/) {
   return !path.empty() && access(path.c_str(), F_OK) == 0;
@@ -300,9 +289,8 @@ int FSCopy(const ustring& src, const ustring& dst, bool isDelOrigin) {
   if (buffer) {
     result = copy_content(in.get(), out.get(), buffer.get());
   } else {
-    Logger::LogMsg(Logger::L_ERR, kComponent,
-                   "[ERROR] file-op(%d): FSCopy: malloc(%d): %s (%d)\n", __LINE__, kCopyBuffer,
-                   strerror(errno), errno);
+    Logger::LogMsg(Logger::L_ERR, kComponent, "[ERROR] file-op(%d): FSCopy: malloc(%d): %s (%d)\n",
+                   __LINE__, kCopyBuffer, strerror(errno), errno);
   }
   // Before the source goes: the disk may turn out to be full or broken only now.
   const int error = errno;
@@ -327,13 +315,14 @@ int FSMKDir(const ustring& path, bool isCreateParent) {
   }
   if (info.isExist) {
     if (info.type == FT_DIR) return 0;
-    Logger::LogMsg(Logger::L_ERR, kComponent,
-                   "[ERROR] file-op(%d): FSMKDir: Create a folder but local file system is not directory '%s' (%d)\n",
-                   __LINE__, path.c_str(), static_cast<int>(info.type));
+    Logger::LogMsg(
+        Logger::L_ERR, kComponent,
+        "[ERROR] file-op(%d): FSMKDir: Create a folder but local file system is not directory '%s' (%d)\n",
+        __LINE__, path.c_str(), static_cast<int>(info.type));
     return -1;
   }
-  const int made = isCreateParent ? FSMKDirP(path, nullptr, false, kDefaultMode)
-                                  : mkdir(path.c_str(), 0777);
+  const int made =
+      isCreateParent ? FSMKDirP(path, nullptr, false, kDefaultMode) : mkdir(path.c_str(), 0777);
   if (made != 0) return -2;
   FSChown(path);
   return 0;
@@ -421,8 +410,7 @@ int TraverseDir(const ustring& dir, FN_ACT_TRAVERSE_DIR fn, void* pPriv) {
   while (const dirent* const entry = next_entry(stream.get())) {
     const ustring child = dir + "/" + entry->d_name;
     // The stream's word alone: an entry of unknown type is handed over, not entered.
-    const int result =
-        entry->d_type == DT_DIR ? TraverseDir(child, fn, pPriv) : fn(child, pPriv);
+    const int result = entry->d_type == DT_DIR ? TraverseDir(child, fn, pPriv) : fn(child, pPriv);
     if (result != 0) return -2;
   }
   return errno == 0 ? 0 : -2;
@@ -489,9 +477,7 @@ void FSCloseDir(DIR_HANDLE& dh) {
   dh.path.clear();
 }
 
-bool FSTimeEqual(time_t a, time_t b) {
-  return a == b;
-}
+bool FSTimeEqual(time_t a, time_t b) { return a == b; }
 
 bool isFileLocked(const ustring& path, int flag) {
   return access(path.c_str(), flag) != 0 && (errno == EPERM || errno == EACCES);

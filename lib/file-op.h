@@ -64,7 +64,7 @@ typedef struct _DIR_HANDLE_tag {
 } DIR_HANDLE;
 
 typedef struct _DIR_ENTRY_tag {
-  ustring name;  // without the directory
+  ustring name;             // without the directory
   FILE_TYPE type = FT_ERR;  // FT_ERR also where the file system does not tell
   uint32_t mtime = 0;       // seconds since the epoch; 0 unless asked for
   uint64_t size = 0;        // bytes; 0 unless asked for

@@ -63,8 +63,8 @@ class Logger {
   // rotation files, are for FILE_LOGGER only.
   // Returns 0, or -1 when a file sink's path is empty or cannot be opened; the earlier
   // stream then stays in use, under the new type.
-  [[nodiscard]] static int Initialize(Type type, const ustring& path,
-                                      const ustring& level_path, int count);
+  [[nodiscard]] static int Initialize(Type type, const ustring& path, const ustring& level_path,
+                                      int count);
 
   // Writes one message; errno stays as it was. Before Initialize() messages of levels
   // 0 to 4 go to standard error without a time stamp.
@@ -93,7 +93,7 @@ class Logger {
   // All of these are guarded by log_lock once Initialize() has returned.
   static std::map<ustring, int> log_level;  // thresholds by component
   static Type log_type;
-  static FILE* log_fp;  // owned when log_type is FILE_LOGGER and log_path is not empty
+  static FILE* log_fp;      // owned when log_type is FILE_LOGGER and log_path is not empty
   static int32_t log_size;  // bytes since opening or rotation; -1: never rotated
   static int32_t rotate_cnt;
   static ustring log_path;

@@ -41,8 +41,8 @@ void TmpNameGen::get_key(unsigned char* key, size_t n) {
   // Cannot fail with a valid pointer; a zero time would still be a key.
   (void)gettimeofday(&now, nullptr);
   // Two numbers fit; a failed format leaves an empty key, which rc4_init replaces.
-  (void)snprintf(reinterpret_cast<char*>(key), n, "%lu-%lu",
-                 static_cast<unsigned long>(now.tv_sec), static_cast<unsigned long>(now.tv_usec));
+  (void)snprintf(reinterpret_cast<char*>(key), n, "%lu-%lu", static_cast<unsigned long>(now.tv_sec),
+                 static_cast<unsigned long>(now.tv_usec));
 }
 
 void TmpNameGen::rc4_init(unsigned char* s_box, unsigned char* key) {
@@ -84,6 +84,4 @@ ustring TmpNameGen::getTmpName() {
   return name;
 }
 
-ustring TmpNameGen::getTmpPath(const ustring& prefix) {
-  return prefix + "/" + getTmpName();
-}
+ustring TmpNameGen::getTmpPath(const ustring& prefix) { return prefix + "/" + getTmpName(); }

@@ -40,7 +40,7 @@ class TmpNameGen {
   // Writes `length` bytes of key stream to `out` and moves the state on.
   static void rc4_randomize(unsigned char* s_box, unsigned char* out, size_t length);
 
-  static pthread_mutex_t m_lock;   // guards m_s_box and m_buffer
+  static pthread_mutex_t m_lock;    // guards m_s_box and m_buffer
   unsigned char m_s_box[256] = {};  // the permutation; lives as long as the process
   unsigned char m_key[256] = {};    // the seed text and the zero bytes behind it
   unsigned char m_buffer[6] = {};   // the random bytes of the latest name

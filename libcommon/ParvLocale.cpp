@@ -9,7 +9,7 @@ namespace {
 
 // In the order of the language numbers, closed by a null pointer.
 const char* const grgszLanguages[] = {
-    "enu", "cht", "chs", "jpn", "deu", "krn", "fra", "ita", "esn", "ptb", "rus",
+    "enu", "cht", "chs", "jpn", "deu", "krn", "fra", "ita", "esn", "ptb",   "rus",
     "dan", "nor", "sve", "nld", "plk", "hun", "ptg", "trk", "csy", nullptr,
 };
 constexpr unsigned kEndMarker = sizeof grgszLanguages / sizeof *grgszLanguages - 1;
@@ -73,9 +73,7 @@ bool ParvLocale::isLanguageInstalled(const QString& lang) {
   return true;
 }
 
-QString ParvLocale::getStrLanguageFallSafe() {
-  return qstrLanguageFallSafe;
-}
+QString ParvLocale::getStrLanguageFallSafe() { return qstrLanguageFallSafe; }
 
 QString ParvLocale::getLanguageAbbrByID(int id) {
   // A negative number is a huge one here; the end marker is null and gives an empty string.

@@ -26,8 +26,7 @@ QString lockFileName() {
   const QString runtimeDir = qEnvironmentVariable("XDG_RUNTIME_DIR");
   return QStringLiteral("%1/qtsingleapp-%2-%3-%4-lockfile")
       .arg(isPrivateDirectory(runtimeDir) ? runtimeDir : QDir::tempPath(),
-           QFileInfo(executable).fileName(), QString::fromLatin1(key),
-           QString::number(geteuid()));
+           QFileInfo(executable).fileName(), QString::fromLatin1(key), QString::number(geteuid()));
 }
 
 // Opens the lock file, -1 when it cannot be had. In a directory that anybody may write to,

@@ -35,9 +35,7 @@ pid_t parse_pid(const ustring& text) {
 }
 
 // The number as atoi reads it; 0 for an empty text.
-int build_number(const ustring& text) {
-  return text.empty() ? 0 : atoi(text.c_str());
-}
+int build_number(const ustring& text) { return text.empty() ? 0 : atoi(text.c_str()); }
 
 // `program` as the toolkit's command lines hold it: as it is, or in double quotes with each
 // quote of its own tripled, when a blank or a quote would split it.
@@ -58,33 +56,27 @@ LinuxService& LinuxService::GetInstace() {
   return instance;
 }
 
-void LinuxService::LoadSourceVerInfo() {
-  LoadSourceVersion();
-}
+void LinuxService::LoadSourceVerInfo() { LoadSourceVersion(); }
 
-void LinuxService::LoadTargetVerInfo() {
-  LoadTargetVersion();
-}
+void LinuxService::LoadTargetVerInfo() { LoadTargetVersion(); }
 
 void LinuxService::PreUpgrade() {
   LoadTargetVerInfo();
   LoadSourceVerInfo();
   Logger::LogMsg(Logger::L_DEBUG, kComponent,
                  "[DEBUG] linux/linux-service(%d): Source version: ('%s', '%s')\n", 62,
-                 source_version.build_version.c_str(),
-                 source_version.icon_overlay_version.c_str());
+                 source_version.build_version.c_str(), source_version.icon_overlay_version.c_str());
   Logger::LogMsg(Logger::L_DEBUG, kComponent,
                  "[DEBUG] linux/linux-service(%d): Target version: ('%s', '%s')\n", 63,
-                 target_version.build_version.c_str(),
-                 target_version.icon_overlay_version.c_str());
+                 target_version.build_version.c_str(), target_version.icon_overlay_version.c_str());
 }
 
 bool LinuxService::IsNeedUpgrade() {
   const int source = build_number(source_version.build_version);
   const int target = build_number(target_version.build_version);
   Logger::LogMsg(Logger::L_DEBUG, kComponent,
-                 "[DEBUG] linux/linux-service(%d): source version = %d, target version = %d\n",
-                 126, source, target);
+                 "[DEBUG] linux/linux-service(%d): source version = %d, target version = %d\n", 126,
+                 source, target);
   return target > source || !PerUserBinPathExist();
 }
 
@@ -115,8 +107,8 @@ void LinuxService::StopService() {
   if (pid == 0) {
     Logger::LogMsg(
         Logger::L_DEBUG, kComponent,
-        "[DEBUG] linux/linux-service(%d): pid file '%s' does not exist, no need to terminate\n",
-        76, path.c_str());
+        "[DEBUG] linux/linux-service(%d): pid file '%s' does not exist, no need to terminate\n", 76,
+        path.c_str());
     return;
   }
 
