@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]Ready to remove [ProductName]</source>
-        <translation>[DlgTitleFont]准备卸载 [ProductName]</translation>
+        <translation>[DlgTitleFont]已准备好卸载 [ProductName]</translation>
     </message>
     <message>
         <source>The server has been replaced. Click here to link again.</source>
@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>The SSL certificate of the server is not trusted, so others may be able to read the data you send. Do you want to continue?</source>
-        <translation>服务器的 SSL 证书不受信任，其他人可能会读取您发送的数据。要继续吗？</translation>
+        <translation>服务器的 SSL 证书不受信任，因此您发送的数据可能会被他人读取。要继续吗？</translation>
     </message>
     <message>
         <source>New shared folder</source>
@@ -845,7 +845,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]Ready to repair [ProductName]</source>
-        <translation>[DlgTitleFont]准备修复 [ProductName]</translation>
+        <translation>[DlgTitleFont]已准备好修复 [ProductName]</translation>
     </message>
     <message>
         <source>The shared folder %1 is now available. Click here to sync it.</source>
@@ -961,7 +961,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
-        <translation>[DlgTitleFont]准备安装 [ProductName]</translation>
+        <translation>[DlgTitleFont]已准备好安装 [ProductName]</translation>
     </message>
     <message>
         <source>Checking the user name and password...</source>

@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]Ready to remove [ProductName]</source>
-        <translation>[DlgTitleFont]準備移除 [ProductName]</translation>
+        <translation>[DlgTitleFont]已準備好移除 [ProductName]</translation>
     </message>
     <message>
         <source>The server has been replaced. Click here to link again.</source>
@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>The SSL certificate of the server is not trusted, so others may be able to read the data you send. Do you want to continue?</source>
-        <translation>伺服器的 SSL 憑證不受信任，其他人可能得以讀取您傳送的資料。要繼續嗎？</translation>
+        <translation>伺服器的 SSL 憑證不受信任，因此其他人可能得以讀取您傳送的資料。要繼續嗎？</translation>
     </message>
     <message>
         <source>New shared folder</source>
@@ -625,7 +625,7 @@
     </message>
     <message>
         <source>Show icon overlays on filtered files</source>
-        <translation>在已篩選的檔案上顯示覆疊圖示</translation>
+        <translation>在已濾除的檔案上顯示覆疊圖示</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -845,7 +845,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]Ready to repair [ProductName]</source>
-        <translation>[DlgTitleFont]準備修復 [ProductName]</translation>
+        <translation>[DlgTitleFont]已準備好修復 [ProductName]</translation>
     </message>
     <message>
         <source>The shared folder %1 is now available. Click here to sync it.</source>
@@ -961,7 +961,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
-        <translation>[DlgTitleFont]準備安裝 [ProductName]</translation>
+        <translation>[DlgTitleFont]已準備好安裝 [ProductName]</translation>
     </message>
     <message>
         <source>Checking the user name and password...</source>

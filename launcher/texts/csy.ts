@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>The local database is damaged. Unlink the connection, then link it again to rebuild the database.</source>
-        <translation>Místní databáze je poškozená. Odpojte připojení a poté ho znovu propojte, aby se databáze vytvořila znovu.</translation>
+        <translation>Místní databáze je poškozená. Zrušte propojení se serverem a poté připojení znovu propojte, aby se databáze vytvořila znovu.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
@@ -161,7 +161,7 @@
     </message>
     <message>
         <source>The server is too old for this client. Ask the server administrator to upgrade it.</source>
-        <translation>Verze serveru je pro tohoto klienta příliš stará. Požádejte správce o upgrade serveru.</translation>
+        <translation>Verze serveru je pro tohoto klienta příliš stará. Požádejte správce serveru o jeho upgrade.</translation>
     </message>
     <message>
         <source>To try again, run setup again later. Click Finish to exit the Setup Wizard.</source>
@@ -277,7 +277,7 @@
     </message>
     <message>
         <source>Unlink</source>
-        <translation>Odpojit</translation>
+        <translation>Zrušit propojení</translation>
     </message>
     <message>
         <source>Back</source>
@@ -405,7 +405,7 @@
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
-        <translation>Program Quillmere synchronizuje vaše soubory mezi vašimi počítači a vaším serverem.</translation>
+        <translation>Program Quillmere synchronizuje vaše soubory mezi počítači a vaším serverem.</translation>
     </message>
     <message>
         <source>Change the installed features</source>
@@ -497,7 +497,7 @@
     </message>
     <message>
         <source>Unlink this connection?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>Odpojit toto připojení?\nVaše soubory zůstanou v tomto počítači i na serveru, ale už se nebudou synchronizovat.</translation>
+        <translation>Zrušit propojení s tímto serverem?\nVaše soubory zůstanou v tomto počítači i na serveru, ale už se nebudou synchronizovat.</translation>
     </message>
     <message>
         <source>The relay service has a problem. Try again later, or connect with the IP address of the server.</source>
@@ -641,7 +641,7 @@
     </message>
     <message>
         <source>Unlink this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>Odpojit tuto úlohu synchronizace?\nJejí soubory zůstanou v tomto počítači i na serveru, ale už se nebudou synchronizovat.</translation>
+        <translation>Zrušit propojení této úlohy synchronizace?\nJejí soubory zůstanou v tomto počítači i na serveru, ale už se nebudou synchronizovat.</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>

@@ -57,11 +57,11 @@
     </message>
     <message>
         <source>The server has been replaced. Click here to link again.</source>
-        <translation>Serveren er blevet udskiftet. Klik her for at tilknytte igen.</translation>
+        <translation>Serveren er blevet udskiftet. Klik her for at oprette tilknytningen igen.</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
-        <translation>Der synkroniseres filer i øjeblikket (antal: %1).</translation>
+        <translation>Antal filer der synkroniseres i øjeblikket: %1.</translation>
     </message>
     <message>
         <source>The Setup Wizard lets you change, repair, or remove [ProductName]. Click Next to continue, or click Cancel to exit the Setup Wizard.</source>
@@ -345,7 +345,7 @@
     </message>
     <message>
         <source>To use selective sync, ask the server administrator to upgrade Quillmere on the server.</source>
-        <translation>Bed serveradministratoren om at opgradere Quillmere på serveren for at bruge selektiv synkronisering.</translation>
+        <translation>Hvis du vil bruge selektiv synkronisering, skal du bede serveradministratoren om at opgradere Quillmere på serveren.</translation>
     </message>
     <message>
         <source>No settings have been changed.</source>
@@ -457,7 +457,7 @@
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
-        <translation>Dine filer, synkroniseret overalt</translation>
+        <translation>Dine filer, synkroniserede overalt</translation>
     </message>
     <message>
         <source>Destination</source>
@@ -501,7 +501,7 @@
     </message>
     <message>
         <source>The relay service has a problem. Try again later, or connect with the IP address of the server.</source>
-        <translation>Der er et problem med relætjenesten. Prøv igen senere, eller opret forbindelse med serverens IP-adresse.</translation>
+        <translation>Der er et problem med relætjenesten. Prøv igen senere, eller opret forbindelse via serverens IP-adresse.</translation>
     </message>
     <message>
         <source>Server ID</source>
@@ -725,7 +725,7 @@
     </message>
     <message>
         <source>This is not the server the connection was linked to. Check the server address, or link again.</source>
-        <translation>Dette er ikke den server som forbindelsen blev tilknyttet. Kontroller serveradressen, eller tilknyt igen.</translation>
+        <translation>Dette er ikke den server som forbindelsen blev tilknyttet. Kontroller serveradressen, eller opret tilknytningen igen.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -773,7 +773,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]Setting up [ProductName]</source>
-        <translation>[DlgTitleFont]Installationsprogrammet til [ProductName] arbejder</translation>
+        <translation>[DlgTitleFont]Konfigurerer [ProductName]</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -969,7 +969,7 @@
     </message>
     <message>
         <source>Wait while the Setup Wizard sets up [ProductName]. This can take several minutes.</source>
-        <translation>Vent mens installationsguiden arbejder med [ProductName]. Det kan tage flere minutter.</translation>
+        <translation>Vent mens installationsguiden konfigurerer [ProductName]. Det kan tage flere minutter.</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -981,7 +981,7 @@
     </message>
     <message>
         <source>The server ID is not valid. Check the server ID, then try again.</source>
-        <translation>Server-id&apos;et er ikke gyldigt. Kontroller server-id&apos;et, og prøv igen.</translation>
+        <translation>Server-id’et er ikke gyldigt. Kontroller server-id’et, og prøv igen.</translation>
     </message>
     <message>
         <source>Open sync folder</source>

@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]An error stopped setup, and its changes were undone.</source>
-        <translation>[DlgTitleFont]Das Setup wurde aufgrund eines Fehlers beendet. Alle Änderungen wurden rückgängig gemacht.</translation>
+        <translation>[DlgTitleFont]Das Setup wurde aufgrund eines Fehlers abgebrochen. Alle Änderungen wurden rückgängig gemacht.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -1045,7 +1045,7 @@
     </message>
     <message>
         <source>Syncing stopped because of a problem. Click here for details.</source>
-        <translation>Die Synchronisierung wurde wegen eines Problems beendet. Klicken Sie hier, um Details anzuzeigen.</translation>
+        <translation>Die Synchronisierung wurde wegen eines Problems gestoppt. Klicken Sie hier, um Details anzuzeigen.</translation>
     </message>
     <message>
         <source>Enter a size of at most %1 MB.</source>

@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>The server has been replaced. Click here to link again.</source>
-        <translation>Se reemplazó el servidor. Haga clic aquí para repetir la vinculación.</translation>
+        <translation>Se reemplazó el servidor. Haga clic aquí para volver a vincular la conexión.</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -165,7 +165,7 @@
     </message>
     <message>
         <source>To try again, run setup again later. Click Finish to exit the Setup Wizard.</source>
-        <translation>Para volver a intentarlo, ejecute de nuevo la instalación más tarde. Haga clic en «Finalizar» para salir del asistente de instalación.</translation>
+        <translation>Para volver a intentarlo, ejecute de nuevo el programa de instalación más tarde. Haga clic en «Finalizar» para salir del asistente de instalación.</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -357,7 +357,7 @@
     </message>
     <message>
         <source>Repairs errors in the installation of [ProductName] by restoring missing or damaged files and shortcuts.</source>
-        <translation>Corrige los errores de la instalación de [ProductName] y restaura los archivos y accesos directos que faltan o están dañados.</translation>
+        <translation>Corrige los errores de la instalación de [ProductName] restaurando los archivos y accesos directos que faltan o están dañados.</translation>
     </message>
     <message>
         <source>Blocked file extensions</source>
@@ -481,7 +481,7 @@
     </message>
     <message>
         <source>Click Remove to remove [ProductName] from your computer. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
-        <translation>Haga clic en «Desinstalar» para quitar [ProductName] del equipo. Haga clic en «Atrás» para revisar las opciones elegidas o en «Cancelar» para salir del asistente de instalación.</translation>
+        <translation>Haga clic en «Desinstalar» para desinstalar [ProductName] del equipo. Haga clic en «Atrás» para revisar las opciones elegidas o en «Cancelar» para salir del asistente de instalación.</translation>
     </message>
     <message>
         <source>No space left</source>
@@ -901,7 +901,7 @@
     </message>
     <message>
         <source>A different server was found at the server address.</source>
-        <translation>Se encontró otro servidor en la dirección registrada.</translation>
+        <translation>En la dirección del servidor se encontró un servidor distinto.</translation>
     </message>
     <message>
         <source>Linking to the server...</source>
@@ -1197,7 +1197,7 @@
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
-        <translation>Quita [ProductName] del equipo.</translation>
+        <translation>Desinstala [ProductName] del equipo.</translation>
     </message>
     <message>
         <source>Downloading %1...</source>
@@ -1225,7 +1225,7 @@
     </message>
     <message>
         <source>Remove the installation</source>
-        <translation>Quitar la instalación</translation>
+        <translation>Desinstalar el programa</translation>
     </message>
     <message>
         <source>Direct connection</source>

@@ -677,7 +677,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}The [ProductName] Setup Wizard is complete</source>
-        <translation>{\VerdanaBold13}L’assistant d’installation de [ProductName] a terminé</translation>
+        <translation>{\VerdanaBold13}Fin de l’assistant d’installation de [ProductName]</translation>
     </message>
     <message>
         <source>Local network</source>

@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
-        <translation>Az alkalmazások &amp;bezárása és újraindítása a telepítés után</translation>
+        <translation>Az alkalmazások &amp;bezárása, majd újraindításuk a telepítés után</translation>
     </message>
     <message>
         <source>The folder is a mount point. Choose a folder that is not a mount point.</source>
@@ -177,7 +177,7 @@
     </message>
     <message>
         <source>Click Repair to repair the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
-        <translation>A [ProductName] telepítésének javításához kattintson a Javítás gombra. A választások áttekintéséhez kattintson a Vissza, a telepítővarázslóból való kilépéshez a Mégse gombra.</translation>
+        <translation>A [ProductName] telepítésének javításához kattintson a Javítás gombra. A választott beállítások áttekintéséhez kattintson a Vissza, a telepítővarázslóból való kilépéshez a Mégse gombra.</translation>
     </message>
     <message>
         <source>Some settings have not been saved. Do you want to save them?</source>
@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]An error stopped setup, and its changes were undone.</source>
-        <translation>[DlgTitleFont]Hiba miatt a telepítés leállt, a módosítások visszavonása megtörtént.</translation>
+        <translation>[DlgTitleFont]A telepítés egy hiba miatt leállt, a módosításokat a telepítő visszavonta.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -481,7 +481,7 @@
     </message>
     <message>
         <source>Click Remove to remove [ProductName] from your computer. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
-        <translation>A [ProductName] számítógépről való eltávolításához kattintson az Eltávolítás gombra. A választások áttekintéséhez kattintson a Vissza, a telepítővarázslóból való kilépéshez a Mégse gombra.</translation>
+        <translation>A [ProductName] számítógépről való eltávolításához kattintson az Eltávolítás gombra. A választott beállítások áttekintéséhez kattintson a Vissza, a telepítővarázslóból való kilépéshez a Mégse gombra.</translation>
     </message>
     <message>
         <source>No space left</source>
@@ -809,7 +809,7 @@
     </message>
     <message>
         <source>Tray icons</source>
-        <translation>Rendszertálca-ikonok</translation>
+        <translation>A rendszertálca ikonjai</translation>
     </message>
     <message>
         <source>The folder is read-only. Choose a folder you can write to.</source>
@@ -1061,7 +1061,7 @@
     </message>
     <message>
         <source>Click Install to begin the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
-        <translation>A [ProductName] telepítésének megkezdéséhez kattintson a Telepítés gombra. A választások áttekintéséhez kattintson a Vissza, a telepítővarázslóból való kilépéshez a Mégse gombra.</translation>
+        <translation>A [ProductName] telepítésének megkezdéséhez kattintson a Telepítés gombra. A választott beállítások áttekintéséhez kattintson a Vissza, a telepítővarázslóból való kilépéshez a Mégse gombra.</translation>
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup was interrupted</source>
@@ -1133,7 +1133,7 @@
     </message>
     <message>
         <source>All files from both folders are kept. If two versions of a file differ, you get both.</source>
-        <translation>Mindkét mappa minden fájlja megmarad. Ha egy fájl két verziója eltér egymástól, mindkettőt megkapja.</translation>
+        <translation>Mindkét mappa minden fájlja megmarad. Ha egy fájl két verziója eltér egymástól, mindkettő megmarad.</translation>
     </message>
     <message>
         <source>Repair the installation</source>

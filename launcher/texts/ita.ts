@@ -481,7 +481,7 @@
     </message>
     <message>
         <source>Click Remove to remove [ProductName] from your computer. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
-        <translation>Fare clic su «Disinstalla» per rimuovere [ProductName] dal computer. Fare clic su «Indietro» per rivedere le scelte o su «Annulla» per uscire dalla procedura guidata.</translation>
+        <translation>Fare clic su «Disinstalla» per disinstallare [ProductName] dal computer. Fare clic su «Indietro» per rivedere le scelte o su «Annulla» per uscire dalla procedura guidata.</translation>
     </message>
     <message>
         <source>No space left</source>
@@ -501,7 +501,7 @@
     </message>
     <message>
         <source>The relay service has a problem. Try again later, or connect with the IP address of the server.</source>
-        <translation>Il servizio di relay ha riscontrato un problema. Riprovare più tardi o connettersi con l&apos;indirizzo IP del server.</translation>
+        <translation>Il servizio di relay ha riscontrato un problema. Riprovare più tardi o connettersi usando l&apos;indirizzo IP del server.</translation>
     </message>
     <message>
         <source>Server ID</source>
@@ -625,7 +625,7 @@
     </message>
     <message>
         <source>Show icon overlays on filtered files</source>
-        <translation>Mostra icone sovrapposte ai file filtrati</translation>
+        <translation>Mostra icone sovrapposte ai file esclusi dal filtro</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -901,7 +901,7 @@
     </message>
     <message>
         <source>A different server was found at the server address.</source>
-        <translation>All&apos;indirizzo registrato è stato trovato un altro server.</translation>
+        <translation>All&apos;indirizzo del server è stato trovato un server diverso.</translation>
     </message>
     <message>
         <source>Linking to the server...</source>
@@ -1197,7 +1197,7 @@
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
-        <translation>Rimuove [ProductName] dal computer.</translation>
+        <translation>Disinstalla [ProductName] dal computer.</translation>
     </message>
     <message>
         <source>Downloading %1...</source>
@@ -1225,7 +1225,7 @@
     </message>
     <message>
         <source>Remove the installation</source>
-        <translation>Rimuovi l&apos;installazione</translation>
+        <translation>Disinstalla il programma</translation>
     </message>
     <message>
         <source>Direct connection</source>

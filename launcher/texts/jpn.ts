@@ -73,7 +73,7 @@
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
-        <translation>この共有リンクを削除しますか？\nリンクを知っているユーザーはファイルを開けなくなります。</translation>
+        <translation>この共有リンクを削除しますか？\nリンクを知っている人はファイルを開けなくなります。</translation>
     </message>
     <message>
         <source>This client is too old for the server.</source>
@@ -597,7 +597,7 @@
     </message>
     <message>
         <source>Edit connection</source>
-        <translation>接続の編集</translation>
+        <translation>接続を編集</translation>
     </message>
     <message>
         <source>Options</source>
@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>Manage connections</source>
-        <translation>接続の管理</translation>
+        <translation>接続を管理</translation>
     </message>
     <message>
         <source>Link to another server</source>

@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>The local database is damaged. Unlink the connection, then link it again to rebuild the database.</source>
-        <translation>로컬 데이터베이스가 손상되었습니다. 연결을 해제한 다음 다시 연결하여 데이터베이스를 다시 만드십시오.</translation>
+        <translation>로컬 데이터베이스가 손상되었습니다. 서버와의 연동을 해제한 다음 다시 연동하여 데이터베이스를 다시 만드십시오.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>The server has been replaced. Click here to link again.</source>
-        <translation>서버가 교체되었습니다. 다시 연결하려면 여기를 클릭하십시오.</translation>
+        <translation>서버가 교체되었습니다. 다시 연동하려면 여기를 클릭하십시오.</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>This computer is already linked to this server. Edit the existing connection or enter a different server.</source>
-        <translation>이 컴퓨터는 이미 이 서버에 연결되어 있습니다. 기존 연결을 편집하거나 다른 서버를 입력하십시오.</translation>
+        <translation>이 컴퓨터는 이미 이 서버와 연동되어 있습니다. 기존 연결을 편집하거나 다른 서버를 입력하십시오.</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -277,7 +277,7 @@
     </message>
     <message>
         <source>Unlink</source>
-        <translation>연결 해제</translation>
+        <translation>연동 해제</translation>
     </message>
     <message>
         <source>Back</source>
@@ -453,7 +453,7 @@
     </message>
     <message>
         <source>Link again</source>
-        <translation>다시 연결</translation>
+        <translation>다시 연동</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -497,7 +497,7 @@
     </message>
     <message>
         <source>Unlink this connection?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>이 연결을 해제하시겠습니까?\n파일은 이 컴퓨터와 서버에 유지되지만 더 이상 동기화되지 않습니다.</translation>
+        <translation>이 연결의 연동을 해제하시겠습니까?\n파일은 이 컴퓨터와 서버에 유지되지만 더 이상 동기화되지 않습니다.</translation>
     </message>
     <message>
         <source>The relay service has a problem. Try again later, or connect with the IP address of the server.</source>
@@ -553,7 +553,7 @@
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
-        <translation>시작한 [ProductName] 프로그램은 시스템 트레이에서 찾을 수 있습니다.</translation>
+        <translation>[ProductName] 프로그램을 시작한 후에는 시스템 트레이에서 찾을 수 있습니다.</translation>
     </message>
     <message>
         <source>&amp;Leave the applications open and restart the computer later</source>
@@ -641,7 +641,7 @@
     </message>
     <message>
         <source>Unlink this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>이 동기화 작업의 연결을 해제하시겠습니까?\n파일은 이 컴퓨터와 서버에 유지되지만 더 이상 동기화되지 않습니다.</translation>
+        <translation>이 동기화 작업의 연동을 해제하시겠습니까?\n파일은 이 컴퓨터와 서버에 유지되지만 더 이상 동기화되지 않습니다.</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
@@ -725,7 +725,7 @@
     </message>
     <message>
         <source>This is not the server the connection was linked to. Check the server address, or link again.</source>
-        <translation>이 서버는 원래 연결했던 서버가 아닙니다. 서버 주소를 확인하거나 다시 연결하십시오.</translation>
+        <translation>이 서버는 원래 연동했던 서버가 아닙니다. 서버 주소를 확인하거나 다시 연동하십시오.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -765,7 +765,7 @@
     </message>
     <message>
         <source>Link to another server</source>
-        <translation>다른 서버에 연결</translation>
+        <translation>다른 서버와 연동</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
@@ -773,7 +773,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]Setting up [ProductName]</source>
-        <translation>[DlgTitleFont][ProductName] 설치 진행 중</translation>
+        <translation>[DlgTitleFont][ProductName] 구성 중</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -905,7 +905,7 @@
     </message>
     <message>
         <source>Linking to the server...</source>
-        <translation>서버에 연결하는 중...</translation>
+        <translation>서버와 연동하는 중...</translation>
     </message>
     <message>
         <source>Port</source>
@@ -969,7 +969,7 @@
     </message>
     <message>
         <source>Wait while the Setup Wizard sets up [ProductName]. This can take several minutes.</source>
-        <translation>설치 마법사가 [ProductName] 설치 작업을 진행하는 동안 기다려 주십시오. 몇 분 정도 걸릴 수 있습니다.</translation>
+        <translation>설치 마법사가 [ProductName] 프로그램을 구성하는 동안 기다려 주십시오. 몇 분 정도 걸릴 수 있습니다.</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1181,7 +1181,7 @@
     </message>
     <message>
         <source>This connection is inactive. Link it again to continue syncing.</source>
-        <translation>이 연결은 비활성 상태입니다. 동기화를 계속하려면 다시 연결하십시오.</translation>
+        <translation>이 연결은 비활성 상태입니다. 동기화를 계속하려면 다시 연동하십시오.</translation>
     </message>
     <message>
         <source>Detecting...</source>

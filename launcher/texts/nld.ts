@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>All files are up to date.</source>
-        <translation>Alle bestanden zijn bijgewerkt.</translation>
+        <translation>Alle bestanden zijn up-to-date.</translation>
     </message>
     <message>
         <source>Processing...</source>
@@ -61,7 +61,7 @@
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
-        <translation>Er worden nu bestanden gesynchroniseerd (aantal: %1).</translation>
+        <translation>Aantal bestanden dat nu wordt gesynchroniseerd: %1.</translation>
     </message>
     <message>
         <source>The Setup Wizard lets you change, repair, or remove [ProductName]. Click Next to continue, or click Cancel to exit the Setup Wizard.</source>
@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>Choose a sync folder</source>
-        <translation>Een synchronisatiemap kiezen</translation>
+        <translation>Kies een synchronisatiemap</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -969,7 +969,7 @@
     </message>
     <message>
         <source>Wait while the Setup Wizard sets up [ProductName]. This can take several minutes.</source>
-        <translation>Wacht tot de installatiewizard klaar is met [ProductName]. Dit kan enkele minuten duren.</translation>
+        <translation>Wacht tot de installatiewizard van [ProductName] klaar is. Dit kan enkele minuten duren.</translation>
     </message>
     <message>
         <source>Manage</source>

@@ -73,7 +73,7 @@
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
-        <translation>Vil du slette denne delingslenken?\nPersoner som har lenken, kan ikke lenger åpne filen.</translation>
+        <translation>Vil du slette denne delingslenken?\nPersoner som har lenken, vil ikke lenger kunne åpne filen.</translation>
     </message>
     <message>
         <source>This client is too old for the server.</source>
@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>A newer version of Quillmere is already installed. To install this version, remove the newer one first.</source>
-        <translation>En nyere versjon av Quillmere er allerede installert. Fjern den nyere versjonen først for å installere denne.</translation>
+        <translation>En nyere versjon av Quillmere er allerede installert. Du må fjerne den nyere versjonen før du kan installere denne versjonen.</translation>
     </message>
     <message>
         <source>Click Repair to repair the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
@@ -273,7 +273,7 @@
     </message>
     <message>
         <source>This file has no earlier versions yet. Change the file and let it sync to create one.</source>
-        <translation>Denne filen har ingen tidligere versjoner ennå. Endre filen og la den bli synkronisert for å opprette en.</translation>
+        <translation>Denne filen har ingen tidligere versjoner ennå. Endre filen, og la den bli synkronisert for å opprette en.</translation>
     </message>
     <message>
         <source>Unlink</source>
@@ -345,7 +345,7 @@
     </message>
     <message>
         <source>To use selective sync, ask the server administrator to upgrade Quillmere on the server.</source>
-        <translation>Be serveradministratoren om å oppgradere Quillmere på serveren for å bruke selektiv synkronisering.</translation>
+        <translation>Hvis du vil bruke selektiv synkronisering, må du be serveradministratoren om å oppgradere Quillmere på serveren.</translation>
     </message>
     <message>
         <source>No settings have been changed.</source>
@@ -453,7 +453,7 @@
     </message>
     <message>
         <source>Link again</source>
-        <translation>Knytt til på nytt</translation>
+        <translation>Opprett tilknytningen på nytt</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -625,7 +625,7 @@
     </message>
     <message>
         <source>Show icon overlays on filtered files</source>
-        <translation>Vis ikonoverlegg på filtrerte filer</translation>
+        <translation>Vis ikonoverlegg på bortfiltrerte filer</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -725,7 +725,7 @@
     </message>
     <message>
         <source>This is not the server the connection was linked to. Check the server address, or link again.</source>
-        <translation>Dette er ikke serveren som tilkoblingen ble knyttet til. Kontroller serveradressen, eller knytt til på nytt.</translation>
+        <translation>Dette er ikke serveren som tilkoblingen ble knyttet til. Kontroller serveradressen, eller opprett tilknytningen på nytt.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -1181,7 +1181,7 @@
     </message>
     <message>
         <source>This connection is inactive. Link it again to continue syncing.</source>
-        <translation>Denne tilkoblingen er inaktiv. Knytt den til på nytt for å fortsette synkroniseringen.</translation>
+        <translation>Denne tilkoblingen er inaktiv. Opprett tilknytningen på nytt for å fortsette synkroniseringen.</translation>
     </message>
     <message>
         <source>Detecting...</source>

@@ -569,7 +569,7 @@
     </message>
     <message>
         <source>One place for your files on every computer, through a server of your own</source>
-        <translation>Jedno miejsce na pliki ze wszystkich komputerów – Twój własny serwer</translation>
+        <translation>Jedno miejsce na Twoje pliki na każdym komputerze – dzięki własnemu serwerowi</translation>
     </message>
     <message>
         <source>OK</source>
@@ -813,7 +813,7 @@
     </message>
     <message>
         <source>The folder is read-only. Choose a folder you can write to.</source>
-        <translation>Ten folder jest tylko do odczytu. Wybierz folder, w którym możesz zapisywać.</translation>
+        <translation>Ten folder jest tylko do odczytu. Wybierz folder, w którym możesz zapisywać pliki.</translation>
     </message>
     <message>
         <source>Next</source>
@@ -905,7 +905,7 @@
     </message>
     <message>
         <source>Linking to the server...</source>
-        <translation>Powiązywanie z serwerem…</translation>
+        <translation>Tworzenie powiązania z serwerem…</translation>
     </message>
     <message>
         <source>Port</source>
@@ -913,11 +913,11 @@
     </message>
     <message>
         <source>Share link</source>
-        <translation>Udostępnij za pomocą linku</translation>
+        <translation>Utwórz link udostępniania</translation>
     </message>
     <message>
         <source>The user name or password was not accepted by the server. Edit the connection and enter them again.</source>
-        <translation>Serwer nie zaakceptował nazwy użytkownika lub hasła. Edytuj połączenie i wpisz je ponownie.</translation>
+        <translation>Serwer nie zaakceptował nazwy użytkownika lub hasła. Edytuj połączenie i wpisz te dane ponownie.</translation>
     </message>
     <message>
         <source>Recently updated files</source>

@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]An error stopped setup, and its changes were undone.</source>
-        <translation>[DlgTitleFont]Um erro interrompeu a instalação e as alterações foram desfeitas.</translation>
+        <translation>[DlgTitleFont]Um erro interrompeu a instalação, e as alterações foram desfeitas.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Quillmere is initializing...</source>
-        <translation>O Quillmere está inicializando...</translation>
+        <translation>Inicializando o Quillmere...</translation>
     </message>
     <message>
         <source>Start now</source>
@@ -405,7 +405,7 @@
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
-        <translation>O Quillmere mantém seus arquivos sincronizados entre seus computadores e o servidor.</translation>
+        <translation>O Quillmere mantém seus arquivos sincronizados entre seus computadores e seu servidor.</translation>
     </message>
     <message>
         <source>Change the installed features</source>
@@ -429,7 +429,7 @@
     </message>
     <message>
         <source>Enter a domain name, an IP address, or a server ID.</source>
-        <translation>Insira um nome de domínio, um endereço IP ou um ID do servidor.</translation>
+        <translation>Insira um nome de domínio, um endereço IP ou um ID de servidor.</translation>
     </message>
     <message>
         <source>A share link could not be created for this file. Check the connection to the server, then try again.</source>
@@ -725,7 +725,7 @@
     </message>
     <message>
         <source>This is not the server the connection was linked to. Check the server address, or link again.</source>
-        <translation>Este não é o servidor ao qual a conexão foi vinculada. Verifique o endereço do servidor ou vincule novamente.</translation>
+        <translation>Este não é o servidor ao qual a conexão foi vinculada. Verifique o endereço do servidor ou vincule-a novamente.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -881,7 +881,7 @@
     </message>
     <message>
         <source>Download only</source>
-        <translation>Somente baixar</translation>
+        <translation>Somente download</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Repair</source>
@@ -1213,7 +1213,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]You canceled setup, and your computer was not changed.</source>
-        <translation>[DlgTitleFont]Você cancelou a instalação e seu computador não foi alterado.</translation>
+        <translation>[DlgTitleFont]Você cancelou a instalação, e seu computador não foi alterado.</translation>
     </message>
     <message>
         <source>The port number is not valid. Enter a number from 1 to 65535.</source>

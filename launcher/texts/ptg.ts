@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]An error stopped setup, and its changes were undone.</source>
-        <translation>[DlgTitleFont]Um erro interrompeu a instalação e as alterações foram anuladas.</translation>
+        <translation>[DlgTitleFont]Um erro interrompeu a instalação, e as alterações foram anuladas.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Quillmere is initializing...</source>
-        <translation>O Quillmere está a inicializar...</translation>
+        <translation>A inicializar o Quillmere...</translation>
     </message>
     <message>
         <source>Start now</source>
@@ -725,7 +725,7 @@
     </message>
     <message>
         <source>This is not the server the connection was linked to. Check the server address, or link again.</source>
-        <translation>Este não é o servidor ao qual a ligação foi associada. Verifique o endereço do servidor ou volte a associar.</translation>
+        <translation>Este não é o servidor ao qual a ligação foi associada. Verifique o endereço do servidor ou volte a associá-la.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -881,7 +881,7 @@
     </message>
     <message>
         <source>Download only</source>
-        <translation>Apenas transferir</translation>
+        <translation>Apenas transferir do servidor</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Repair</source>
@@ -1213,7 +1213,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]You canceled setup, and your computer was not changed.</source>
-        <translation>[DlgTitleFont]Cancelou a instalação e o computador não foi alterado.</translation>
+        <translation>[DlgTitleFont]Cancelou a instalação, e o computador não foi alterado.</translation>
     </message>
     <message>
         <source>The port number is not valid. Enter a number from 1 to 65535.</source>

@@ -161,7 +161,7 @@
     </message>
     <message>
         <source>The server is too old for this client. Ask the server administrator to upgrade it.</source>
-        <translation>Версия сервера слишком старая для этого клиента. Попросите администратора сервера обновить её.</translation>
+        <translation>Версия сервера слишком старая для этого клиента. Попросите администратора обновить сервер.</translation>
     </message>
     <message>
         <source>To try again, run setup again later. Click Finish to exit the Setup Wizard.</source>
@@ -205,11 +205,11 @@
     </message>
     <message>
         <source>Change the sync folder</source>
-        <translation>Изменение папки синхронизации</translation>
+        <translation>Смена папки синхронизации</translation>
     </message>
     <message>
         <source>Enter a complete file name without a folder path.</source>
-        <translation>Введите полное имя файла без пути к папке.</translation>
+        <translation>Введите имя файла целиком, без пути к папке.</translation>
     </message>
     <message>
         <source>[DlgTitleFont]An error stopped setup, and its changes were undone.</source>
@@ -405,7 +405,7 @@
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
-        <translation>Quillmere синхронизирует ваши файлы между вашими компьютерами и сервером.</translation>
+        <translation>Quillmere синхронизирует ваши файлы между компьютерами и сервером.</translation>
     </message>
     <message>
         <source>Change the installed features</source>
@@ -569,7 +569,7 @@
     </message>
     <message>
         <source>One place for your files on every computer, through a server of your own</source>
-        <translation>Единое место для файлов на всех ваших компьютерах — через ваш собственный сервер</translation>
+        <translation>Единое место для файлов на всех ваших компьютерах&#xa0;— через собственный сервер</translation>
     </message>
     <message>
         <source>OK</source>
@@ -581,7 +581,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Close them and click Retry, click Ignore to continue without closing them, or click Exit to leave setup.</source>
-        <translation>Следующие приложения используют файлы, которые требуется обновить. Закройте их и нажмите кнопку «Повторить», нажмите кнопку «Пропустить», чтобы продолжить, не закрывая их, или кнопку «Выход», чтобы прервать установку.</translation>
+        <translation>Следующие приложения используют файлы, которые требуется обновить. Закройте их и нажмите кнопку «Повторить». Чтобы продолжить, не закрывая приложения, нажмите кнопку «Пропустить», а чтобы прервать установку&#xa0;— кнопку «Выход».</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
-        <translation>Следующие приложения используют файлы, которые требуется обновить. Выберите, нужно ли их закрыть. Если оставить их открытыми, для завершения установки потребуется перезагрузить компьютер.</translation>
+        <translation>Следующие приложения используют файлы, которые требуется обновить. Выберите, нужно ли закрыть их автоматически. Если оставить их открытыми, для завершения установки потребуется перезагрузить компьютер.</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the repair.</source>
@@ -913,7 +913,7 @@
     </message>
     <message>
         <source>Share link</source>
-        <translation>Поделиться ссылкой</translation>
+        <translation>Создать ссылку общего доступа</translation>
     </message>
     <message>
         <source>The user name or password was not accepted by the server. Edit the connection and enter them again.</source>
@@ -929,7 +929,7 @@
     </message>
     <message>
         <source>Change folder</source>
-        <translation>Изменить папку</translation>
+        <translation>Сменить папку</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -989,7 +989,7 @@
     </message>
     <message>
         <source>When the tray icon is double-clicked</source>
-        <translation>При двойном щелчке значка в области уведомлений</translation>
+        <translation>При двойном щелчке по значку в области уведомлений</translation>
     </message>
     <message>
         <source>Syncing could not be turned on for this shared folder. Check your permissions on the server, then try again.</source>
@@ -1041,7 +1041,7 @@
     </message>
     <message>
         <source>Server overview</source>
-        <translation>Обзор сервера</translation>
+        <translation>Сведения о сервере</translation>
     </message>
     <message>
         <source>Syncing stopped because of a problem. Click here for details.</source>
@@ -1213,7 +1213,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]You canceled setup, and your computer was not changed.</source>
-        <translation>[DlgTitleFont]Установка отменена. Изменения на компьютере не выполнялись.</translation>
+        <translation>[DlgTitleFont]Установка отменена, на компьютере ничего не изменено.</translation>
     </message>
     <message>
         <source>The port number is not valid. Enter a number from 1 to 65535.</source>

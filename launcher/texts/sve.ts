@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]An error stopped setup, and its changes were undone.</source>
-        <translation>[DlgTitleFont]Ett fel stoppade installationen och ändringarna ångrades.</translation>
+        <translation>[DlgTitleFont]Ett fel stoppade installationen, och ändringarna har ångrats.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -1213,7 +1213,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]You canceled setup, and your computer was not changed.</source>
-        <translation>[DlgTitleFont]Du avbröt installationen och datorn har inte ändrats.</translation>
+        <translation>[DlgTitleFont]Du avbröt installationen, och datorn har inte ändrats.</translation>
     </message>
     <message>
         <source>The port number is not valid. Enter a number from 1 to 65535.</source>

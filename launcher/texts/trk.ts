@@ -321,7 +321,7 @@
     </message>
     <message>
         <source>Created</source>
-        <translation>Oluşturulma zamanı</translation>
+        <translation>Oluşturulma</translation>
     </message>
     <message>
         <source>The Quillmere service is turned off on the server. Ask the server administrator to turn it on.</source>
@@ -913,7 +913,7 @@
     </message>
     <message>
         <source>Share link</source>
-        <translation>Bağlantıyla paylaş</translation>
+        <translation>Paylaşım bağlantısı oluştur</translation>
     </message>
     <message>
         <source>The user name or password was not accepted by the server. Edit the connection and enter them again.</source>
