@@ -117,8 +117,9 @@ int Extractor::ExtractEntries(archive* reader, archive* writer, int total) {
     }
 
     // Without the barrier a loss of power could leave the last entry on the disk and an
-    // earlier one not, and the copy would pass for complete.
-    if (done + 1 == total && FSSync(target) != 0) return -1;
+    // earlier one not, and the copy would pass for complete. A package that was replaced
+    // since the count may have more entries than were counted: then any may be the last.
+    if (done + 1 >= total && FSSync(target) != 0) return -1;
 
     // Only the name is put below the target: a hard link's target stays as stored.
     const char* const name = archive_entry_pathname(entry);
