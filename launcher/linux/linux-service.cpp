@@ -7,6 +7,7 @@
 #include <signal.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
@@ -38,9 +39,11 @@ pid_t parse_pid(const ustring& text) {
 int build_number(const ustring& text) { return text.empty() ? 0 : atoi(text.c_str()); }
 
 // `program` as the toolkit's command lines hold it: as it is, or in double quotes with each
-// quote of its own tripled, when a blank or a quote would split it.
+// quote of its own tripled, when a quote or a blank would split it. Blanks are the toolkit's:
+// every kind of space that there is.
 QString quoted(const QString& program) {
-  if (!program.contains(' ') && !program.contains('"')) return program;
+  const auto splits = [](QChar c) { return c.isSpace() || c == '"'; };
+  if (std::none_of(program.begin(), program.end(), splits)) return program;
   return '"' + QString(program).replace("\"", "\"\"\"") + '"';
 }
 
