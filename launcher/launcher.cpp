@@ -119,9 +119,8 @@ void Launcher::Run() { m_worker->StartThread(); }
 void Launcher::Start() { emit sigStart(); }
 
 void Launcher::UpdateProgress(int total, int steps) {
-  const int percent = steps * 100 / total;
-  // There is a call for each entry of a package; only a new percentage is worth a repaint.
-  if (percent != m_progress->value()) m_progress->setValue(percent);
+  // There is a call for each entry of a package; the dialog repaints for a new percentage only.
+  m_progress->setValue(steps * 100 / total);
 }
 
 void Launcher::SetLabelText(QString text) { m_progress->setLabelText(text); }

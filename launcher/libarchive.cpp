@@ -1,0 +1,70 @@
+// libarchive, loaded when the first archive is opened.
+//
+// With its compressions and its cryptography it costs a tenth of a start, and most starts
+// have nothing to extract. The functions below have the names and types of its own and pass
+// each call on, so that the extractor is written against the library as everybody knows it.
+// Where it cannot be loaded no handle can be made, and nothing else is called without one.
+
+#include <archive.h>
+#include <archive_entry.h>
+#include <dlfcn.h>
+
+namespace {
+
+// The function `name` of the library, null when there is no such library. It stays loaded:
+// its handles are used until the process ends.
+void* find(const char* name) {
+  static void* const library = dlopen(LIBARCHIVE_SONAME, RTLD_NOW | RTLD_LOCAL);
+  return library ? dlsym(library, name) : nullptr;
+}
+
+template <typename Function>
+Function* find(const char* name, Function* /*type*/) {
+  return reinterpret_cast<Function*>(find(name));
+}
+
+}  // namespace
+
+// Defines `name` with its own type as a call of the library's function. FORWARD_NEW is for
+// the functions that make a handle: they return null where there is no library.
+#define FORWARD(result, name, parameters, arguments) \
+  result name parameters {                           \
+    static const auto function = find(#name, &name); \
+    return function arguments;                       \
+  }
+#define FORWARD_NEW(name)                            \
+  archive* name() {                                  \
+    static const auto function = find(#name, &name); \
+    return function ? function() : nullptr;          \
+  }
+
+extern "C" {
+
+FORWARD_NEW(archive_read_new)
+FORWARD_NEW(archive_write_disk_new)
+
+FORWARD(int, archive_read_support_filter_all, (archive * a), (a))
+FORWARD(int, archive_read_support_format_all, (archive * a), (a))
+FORWARD(int, archive_read_open_filename, (archive * a, const char* name, size_t block),
+        (a, name, block))
+FORWARD(int, archive_read_next_header, (archive * a, archive_entry** entry), (a, entry))
+FORWARD(int, archive_read_data_skip, (archive * a), (a))
+FORWARD(int, archive_read_data_block,
+        (archive * a, const void** buffer, size_t* size, la_int64_t* offset),
+        (a, buffer, size, offset))
+FORWARD(int, archive_read_extract2, (archive * a, archive_entry* entry, archive* to),
+        (a, entry, to))
+FORWARD(int, archive_read_close, (archive * a), (a))
+FORWARD(int, archive_read_free, (archive * a), (a))
+
+FORWARD(int, archive_write_disk_set_options, (archive * a, int flags), (a, flags))
+FORWARD(la_ssize_t, archive_write_data_block,
+        (archive * a, const void* buffer, size_t size, la_int64_t offset),
+        (a, buffer, size, offset))
+FORWARD(int, archive_write_finish_entry, (archive * a), (a))
+FORWARD(int, archive_write_free, (archive * a), (a))
+
+FORWARD(const char*, archive_error_string, (archive * a), (a))
+FORWARD(const char*, archive_entry_pathname, (archive_entry * entry), (entry))
+FORWARD(void, archive_entry_set_pathname, (archive_entry * entry, const char* name), (entry, name))
+}
