@@ -4,9 +4,9 @@
 #include <QString>
 
 // The way by which code without a GUI reports progress and texts to the dialog. Both
-// methods may be called from any thread; the signals reach receivers on the GUI thread
-// queued. The single instance is built on first use, which is on the GUI thread, and lives
-// until the process exits.
+// methods may be called from any thread; the signals reach receivers on the GUI thread,
+// queued when they come from another. The single instance is built on first use, which is on the
+// GUI thread, and lives until the process exits.
 class Notify_Adapter : public QObject {
   Q_OBJECT
 

@@ -13,7 +13,8 @@
 // The source version is that of the user's copy, the target version that of the package
 // to which the copy is to be brought.
 //
-// Built on the GUI thread, used on the worker thread only. Failures are logged under
+// Built on the GUI thread, used on the worker thread only, but for the static paths, which
+// any thread may ask for. Failures are logged under
 // "service_debug".
 class Service {
  public:
@@ -30,7 +31,7 @@ class Service {
   Service(const Service&) = delete;
   Service& operator=(const Service&) = delete;
 
-  // Stops the user's running client and waits for it.
+  // Asks the user's running client to end, and ends it by force when it does not.
   virtual void StopService() = 0;
 
   // Stores a time limit, in milliseconds. Nothing reads it.
@@ -62,8 +63,9 @@ class Service {
   // Replaces the user's copy by the package: moves it aside under a free backup name,
   // unpacks, and removes the backups. Returns 0 when the new copy is in place and on the
   // disk. Returns -1 with the old copy in place when it could not be moved aside, or was
-  // moved back because unpacking failed; a partly unpacked copy stays where there was no
-  // old one.
+  // moved back because unpacking or bringing the disk up to date failed; an old copy that
+  // cannot be moved back is whole under its backup name. Where there was no old copy, what
+  // was unpacked stays.
   [[nodiscard]] virtual int PrepareUserEnv();
 
   // The places of both trees, as UTF-8 paths without a trailing slash. None looks at the

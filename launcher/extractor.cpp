@@ -42,12 +42,11 @@ const char* error_text(archive* handle, archive* other = nullptr) {
   return text ? text : "";
 }
 
-// A reader for every format and compression, null when there is no memory.
+// A reader for every format and compression, null when there is no memory or no library.
 Reader make_reader() {
   Reader reader(archive_read_new());
   if (reader) {
-    // Both warn where a compression needs a helper program; an archive that it is needed
-    // for then fails to open.
+    // Both enable what the library was built with and have nothing to report.
     (void)archive_read_support_filter_all(reader.get());
     (void)archive_read_support_format_all(reader.get());
   }
@@ -92,7 +91,7 @@ int Extractor::Extract() {
                    __LINE__);
     return -1;
   }
-  // Fails for a handle that is in use only.
+  // Stores the flags and has nothing to report.
   (void)archive_write_disk_set_options(writer.get(), kWriteOptions);
 
   if (open_source(reader.get(), source) != ARCHIVE_OK) {
@@ -116,14 +115,20 @@ int Extractor::ExtractEntries(archive* reader, archive* writer, int total) {
       return -1;
     }
 
+    const char* const name = archive_entry_pathname(entry);
+    if (!name || !*name) {
+      // The target itself would be taken for the entry's place, and be replaced.
+      Logger::LogMsg(Logger::L_ERR, kComponent, "[ERROR] extractor(%d): entry without a name\n",
+                     __LINE__);
+      return -1;
+    }
     // Without the barrier a loss of power could leave the last entry on the disk and an
     // earlier one not, and the copy would pass for complete. A package that was replaced
     // since the count may have more entries than were counted: then any may be the last.
-    if (done + 1 >= total && FSSync(target) != 0) return -1;
+    if (done > 0 && done + 1 >= total && FSSync(target) != 0) return -1;
 
     // Only the name is put below the target: a hard link's target stays as stored.
-    const char* const name = archive_entry_pathname(entry);
-    const ustring path = target + "/" + (name ? name : "");
+    const ustring path = target + "/" + name;
     archive_entry_set_pathname(entry, path.c_str());
     if (archive_read_extract2(reader, entry, writer) != ARCHIVE_OK) {
       Logger::LogMsg(Logger::L_ERR, kComponent,
@@ -194,7 +199,7 @@ int Extractor::List() {
   archive_entry* entry = nullptr;
   while (archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK) {
     const char* const name = archive_entry_pathname(entry);
-    printf("%s\n", name ? name : "");
+    (void)printf("%s\n", name ? name : "");      // a listing that cannot be printed is no failure
     (void)archive_read_data_skip(reader.get());  // shows in the next header
   }
   (void)archive_read_close(reader.get());  // as ReaderCloser

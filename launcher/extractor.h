@@ -11,7 +11,7 @@ struct archive;
 // Worker thread. Failures are logged under "extractor_debug".
 class Extractor {
  public:
-  // The directory that entries are written to; it must exist.
+  // The directory that entries are written to; made when it is missing.
   void SetTarget(const ustring& path) { target = path; }
 
   // The archive file.
@@ -22,16 +22,18 @@ class Extractor {
   // ".." fails. Reports (total, done) once an entry. The last entry is taken for the
   // archive's mark of completeness: everything before it is on the disk when it is written.
   // Returns 0, or -1 for an empty source or target, an archive that holds no entry or
-  // cannot be read to its end without a warning, or an entry that cannot be written. What
-  // was written until then stays on disk; removing it is the caller's part.
+  // cannot be read to its end without a warning, an entry that cannot be written, a disk
+  // that cannot be brought up to date before the last one, and where libarchive is not to be
+  // had. What was written until then stays on disk; removing it is the caller's part.
   [[nodiscard]] int Extract();
 
   // The number of entries up to the end of the archive or the first that cannot be read;
-  // -1 when the file cannot be opened, or when source or target is empty.
+  // -1 when the file cannot be opened, when source or target is empty, and without
+  // libarchive.
   [[nodiscard]] int Count();
 
   // Prints the name of every entry on standard output, one a line. 0, or -1 when the file
-  // cannot be opened.
+  // cannot be opened, and without libarchive. An empty source means standard input.
   [[nodiscard]] int List();
 
   // Copies the data of the reader's current entry to the writer's. 0 at the end of the

@@ -75,6 +75,7 @@ void Worker::HandleServicce() {
   } else {
     emit sigShowMsg();
     if (m_service->HandlePackageUpgrade() != 0) {
+      // Meant: the misspelling is part of the message.
       Logger::LogMsg(Logger::L_ERR, kComponent, "[ERROR] launcher(%d): Failed to upgrade packge\n",
                      100);
     } else {
@@ -93,7 +94,8 @@ Launcher::Launcher() {
   m_progress->setCancelButton(nullptr);
   m_progress->setAutoReset(false);
 
-  // The sender's signals come from the worker thread but for the first: all are queued.
+  // Each crosses between the two threads, the first to the worker, the others from it: all
+  // are queued.
   connect(this, &Launcher::sigStart, m_worker, &Worker::HandleServicce);
   connect(m_worker, &Worker::sigShowMsg, this, &Launcher::ShowMsgBox);
   connect(m_worker, &Worker::sigServiceDone, this, &Launcher::LaunchDone);
@@ -103,8 +105,8 @@ Launcher::Launcher() {
   connect(&adapter, &Notify_Adapter::sigUpdateProgress, this, &Launcher::UpdateProgress);
   connect(&adapter, &Notify_Adapter::sigUpdateDialogText, this, &Launcher::SetLabelText);
 
-  // Nothing but LaunchDone() may end the event loop: not a closed window, and not a session
-  // that ends, which would also be held up by a dialog that refuses to close.
+  // A closed window must not end the event loop, and a dialog that refuses to close must not
+  // hold up a session that ends. Should that end the loop, ~Worker() waits for the job.
   QGuiApplication::setQuitOnLastWindowClosed(false);
   QGuiApplication::setFallbackSessionManagementEnabled(false);
 }

@@ -59,7 +59,8 @@ class Worker : public QObject {
   void sigSetLabelText(QString);
 
  public slots:
-  // Runs the job, once, on the worker thread. The name has a "c" too many; it stays so.
+  // Runs the job on the worker thread; the Launcher asks for it once. The name has a "c" too many;
+  // it stays so.
   void HandleServicce();
 
  private:

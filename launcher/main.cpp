@@ -39,7 +39,8 @@ static void initialize_resources(const char* bin) {
   const QString path = QDir::cleanPath(bin_path + "/../../lib/plugins");
   const QStringList paths(path);
   QCoreApplication::setLibraryPaths(paths);
-  printf("lib path = '%s'\n", path.toStdString().c_str());
+  // Nobody need be listening.
+  (void)printf("lib path = '%s'\n", path.toStdString().c_str());
 }
 
 // The names inside archives are converted by the C library's locale, which the application
@@ -94,7 +95,8 @@ int main(int argc, char** argv) {
   const QString none("");  // empty, not null: null would mean the toolkit's own defaults
   // A translation that does not load leaves the translator empty, and the texts in English.
   (void)trans.load(strLan, none, none, none);
-  if (!trans.isEmpty()) QCoreApplication::installTranslator(&trans);
+  // Fails for an empty translator only.
+  if (!trans.isEmpty()) (void)QCoreApplication::installTranslator(&trans);
   StrTable::InitStrTable();
 
   Launcher* launcher = new Launcher;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <memory>
 #include <string>
 
@@ -105,7 +106,7 @@ int Config::read(const ustring& path) {
   while (fgets(line, kLineBuffer, file.get())) {
     ustring key;
     ustring value;
-    const int result = parse(line, kLineBuffer, key, value);
+    const int result = parse(line, static_cast<int>(strlen(line)), key, value);
     if (result == INVALID) {
       store.clear();
       return -1;

@@ -48,7 +48,8 @@ class Config {
   // look-up never fails. The reference lives until the store is cleared.
   ustring& operator[](const ustring& key) { return store[key]; }
 
-  // The leading decimal number of `key`'s value, 0 without one; inserts nothing.
+  // The leading decimal number of `key`'s value, which must fit an int; 0 without one.
+  // Inserts nothing.
   int get_int(const ustring& key) const;
 
   // Whether `key`'s value is "1", "yes" or "true"; inserts nothing.

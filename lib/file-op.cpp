@@ -124,11 +124,9 @@ FILE_TYPE type_of_mode(mode_t mode) {
 bool sync_descriptor(int fd) { return fsync(fd) == 0 || errno == EINVAL || errno == EROFS; }
 
 int write_error() {
-  const int error = errno;
   Logger::LogMsg(Logger::L_ERR, kComponent, "[ERROR] file-op(%d): CopyFile: write: %s (%d)\n",
-                 __LINE__, strerror(error), error);
-  errno = error;
-  return error == ENOSPC ? -2 : -1;
+                 __LINE__, strerror(errno), errno);
+  return errno == ENOSPC ? -2 : -1;
 }
 
 // Copies what is left of `in` to `out` through `buffer`, kCopySlice bytes long or more.
@@ -150,7 +148,7 @@ int copy_content(int in, int out, char* buffer) {
 }
 
 Descriptor open_for_copy(const ustring& path, int flags) {
-  const int fd = TEMP_FAILURE_RETRY(open(path.c_str(), flags | O_CLOEXEC | O_LARGEFILE, 0666));
+  const int fd = TEMP_FAILURE_RETRY(open(path.c_str(), flags | O_CLOEXEC, 0666));
   if (fd < 0) {
     Logger::LogMsg(Logger::L_ERR, kComponent, "[ERROR] file-op(%d): CopyFile: open(%s): %s (%d)\n",
                    __LINE__, path.c_str(), strerror(errno), errno);
@@ -374,7 +372,7 @@ int FSRemove(const ustring& path, bool /*allowundo*/) {
 }
 
 int FSSync(const ustring& path) {
-  const Descriptor fd(open(path.c_str(), O_RDONLY | O_CLOEXEC));
+  const Descriptor fd(TEMP_FAILURE_RETRY(open(path.c_str(), O_RDONLY | O_CLOEXEC)));
   if (fd.is_open() && syncfs(fd.get()) == 0) return 0;
   Logger::LogMsg(Logger::L_ERR, kComponent,
                  "[ERROR] file-op(%d): FSSync: Failed to sync the file system of '%s'. %s\n",
@@ -389,7 +387,7 @@ int FSMktemp(const ustring& prefix, ustring& path) {
   const Descriptor fd(mkostemp(name, O_CLOEXEC));
   if (!fd.is_open()) {
     Logger::LogMsg(Logger::L_ERR, kComponent, "[ERROR] file-op(%d): mkstemp(%s): %s\n", __LINE__,
-                   name, strerror(errno));
+                   (prefix + "/XXXXXX").c_str(), strerror(errno));
     return -1;
   }
   // An empty file: neither its durability nor its mode is worth failing for.
@@ -427,7 +425,6 @@ int FSCreateTempPath(const ustring& prefix, ustring& path) {
 }
 
 int FSOpenDir(const ustring& path, int flag, DIR_HANDLE& dh) {
-  FSCloseDir(dh);
   DIR* const dp = opendir(path.c_str());
   if (!dp) {
     Logger::LogMsg(Logger::L_ERR, kComponent,

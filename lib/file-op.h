@@ -97,8 +97,8 @@ bool IsFileExist(const ustring& path, bool do_case_check);
 
 // Copies the content of one file into `dst`, created or truncated, and has it on the
 // disk before returning; neither times nor permissions follow. With `isDelOrigin`
-// removes `src` once the copy is complete. -1 on failure, -2 when the disk is full;
-// `dst` is then left partly written and `src` in place.
+// removes `src` once the copy is complete. -1 on failure, -2 when the disk is full; `src`
+// is then in place, and `dst`, once it could be opened, as far as it was written.
 [[nodiscard]] int FSCopy(const ustring& src, const ustring& dst, bool isDelOrigin);
 
 // Creates a directory, with all missing parents when asked; an existing one is a
@@ -119,7 +119,7 @@ bool IsFileExist(const ustring& path, bool do_case_check);
 // Moves a file or a tree. Across file systems files are copied, then removed, one by
 // one; a failure on the way (-3) leaves every file on one side or the other. Links,
 // devices, FIFOs and sockets are not moved across file systems, and that counts as
-// success. -2 when `from` does not exist.
+// success; a directory that holds one stays with it (-3). -2 when `from` does not exist.
 [[nodiscard]] int FSRename(const ustring& from, const ustring& to, bool do_case_check);
 
 // Removes a file or a whole tree, links not followed. A missing object is a success,
@@ -147,10 +147,11 @@ bool IsFileExist(const ustring& path, bool do_case_check);
 // Sets `path` to a fresh name in the directory `prefix`; creates nothing.
 [[nodiscard]] int FSCreateTempPath(const ustring& prefix, ustring& path);
 
-// Opens the directory at `path` into `dh`, which must be closed.
+// Opens the directory at `path` into `dh`, which must not be open.
 [[nodiscard]] int FSOpenDir(const ustring& path, int flag, DIR_HANDLE& dh);
 
-// Reads the next entry, "." and ".." included: 1 an entry, 0 the end, -1 an error.
+// Reads the next entry of the open `dh`, "." and ".." included: 1 an entry, 0 the end, -1 an
+// error.
 [[nodiscard]] int FSReadDir(DIR_HANDLE& dh, DIR_ENTRY& entry);
 
 // Closes `dh`; nothing happens when it is closed already.

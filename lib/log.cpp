@@ -73,6 +73,11 @@ ustring numbered(const ustring& path, int number) {
   return length < 0 ? ustring() : ustring(name);
 }
 
+// Every line was flushed when it was written; closing has nothing left to fail at.
+void close_flushed(FILE* fp) {
+  if (fp) (void)fclose(fp);
+}
+
 }  // namespace
 
 std::map<ustring, int> Logger::log_level;
@@ -97,10 +102,12 @@ int Logger::Initialize(Type type, const ustring& path, const ustring& level_path
   }
 
   log_type = type;
+  FILE* const earlier = log_path.empty() ? nullptr : log_fp;  // a file of an earlier call
   if (type == SYSLOG_LOGGER || type == STDOUT_LOGGER || type == STDERR_LOGGER) {
     log_fp = type == SYSLOG_LOGGER ? nullptr : type == STDOUT_LOGGER ? stdout : stderr;
     log_path.clear();
     log_size = -1;
+    close_flushed(earlier);
     return 0;
   }
 
@@ -111,12 +118,12 @@ int Logger::Initialize(Type type, const ustring& path, const ustring& level_path
   log_size = 0;  // what the file holds already does not count towards its rotation
   log_path = path;
   rotate_cnt = count;
+  close_flushed(earlier);
   return 0;
 }
 
 void Logger::Destroy() {
-  // The last line was flushed when it was written; nothing is left to fail.
-  if (log_fp && !log_path.empty()) (void)fclose(log_fp);
+  if (!log_path.empty()) close_flushed(log_fp);
   log_level.clear();
   log_type = ANDROID_LOGGER;
   log_fp = stderr;
@@ -167,7 +174,7 @@ int Logger::Emit(const xchar* fmt, va_list args) {
   if (!log_fp) return 0;
   const int stamp = fprintf(log_fp, "%s", time_stamp());
   const int text = vfprintf(log_fp, fmt, args);
-  // What a full disk keeps back stays in the stream's buffer for the next flush.
+  // What a full disk refuses is lost; the log must not stop the launcher.
   (void)fflush(log_fp);
   return stamp < 0 || text < 0 ? -1 : stamp + text;
 }
@@ -181,7 +188,7 @@ int Logger::Rotate() {
   }
   (void)remove(numbered(log_path, rotate_cnt - 1).c_str());
 
-  (void)fclose(log_fp);  // every line was flushed when it was written
+  close_flushed(log_fp);
   log_fp = nullptr;
   if (rename(log_path.c_str(), numbered(log_path, 0).c_str()) != 0) return -1;
   log_fp = fopen(log_path.c_str(), "ae");

@@ -27,7 +27,8 @@
 //                  "[DEBUG] cloud-service(%d): copy from '%s' to '%s'\n", __LINE__, ...);
 //
 // The tag matches the level ([DEBUG], [INFO], [NOTE], [WARNING], [ERROR]); the source
-// line is the first argument. The logger adds a time stamp and nothing else, and
+// line is the first argument. Messages that support looks for by their number carry a fixed
+// one instead. The logger adds a time stamp and nothing else, and
 // flushes every line, so a crash loses nothing already logged. Write errors are not
 // reported: a full disk must not stop the launcher.
 //
@@ -93,7 +94,7 @@ class Logger {
   // All of these are guarded by log_lock once Initialize() has returned.
   static std::map<ustring, int> log_level;  // thresholds by component
   static Type log_type;
-  static FILE* log_fp;      // owned when log_type is FILE_LOGGER and log_path is not empty
+  static FILE* log_fp;      // owned when log_path is not empty
   static int32_t log_size;  // bytes since opening or rotation; -1: never rotated
   static int32_t rotate_cnt;
   static ustring log_path;

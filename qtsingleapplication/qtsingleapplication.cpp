@@ -15,7 +15,7 @@ constexpr int kAttempts = 100;  // holders that come and go between two looks at
 
 bool isPrivateDirectory(const QString& path) {
   struct stat st;
-  return !path.isEmpty() && lstat(QFile::encodeName(path).constData(), &st) == 0 &&
+  return QDir::isAbsolutePath(path) && lstat(QFile::encodeName(path).constData(), &st) == 0 &&
          S_ISDIR(st.st_mode) && st.st_uid == geteuid() && (st.st_mode & 077) == 0;
 }
 

@@ -9,7 +9,8 @@
 // of the next one. The file stays behind, empty. Its name is
 // "qtsingleapp-<program>-<hash of the executable's path>-<user id>-lockfile", in
 // XDG_RUNTIME_DIR where that is a directory of the user's own and nobody else's, in the
-// temporary directory otherwise. Instances exchange no messages.
+// temporary directory otherwise. Instances whose environments name different directories do not see
+// each other. They exchange no messages.
 //
 // Main thread only, like every application object.
 class QtSingleApplication : public QApplication {

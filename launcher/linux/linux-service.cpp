@@ -108,6 +108,7 @@ void LinuxService::StopService() {
   }
   const pid_t pid = exists ? parse_pid(file["pid"]) : 0;
   if (pid == 0) {
+    // Meant: a file that names no process counts as missing, message included.
     Logger::LogMsg(
         Logger::L_DEBUG, kComponent,
         "[DEBUG] linux/linux-service(%d): pid file '%s' does not exist, no need to terminate\n", 76,
@@ -116,9 +117,10 @@ void LinuxService::StopService() {
   }
 
   if (kill(pid, SIGTERM) != 0) {
-    if (errno == ESRCH) return;
+    const int error = errno;
+    if (error == ESRCH) return;
     Logger::LogMsg(Logger::L_ERR, kComponent, "[ERROR] linux/linux-service(%d): kill: %s (%d)\n",
-                   96, strerror(errno), errno);
+                   96, strerror(error), error);
   }
   for (int probe = 0; probe < kProbes; ++probe) {
     if (kill(pid, 0) != 0 && errno == ESRCH) return;

@@ -14,7 +14,8 @@ class LinuxService : public Service {
   static LinuxService& GetInstace();
 
   // Sends SIGTERM to the process named in the pid file, waits up to 5 seconds for its end
-  // and then sends SIGKILL, without waiting any further. Without a pid file, or with one
+  // and sends SIGKILL if it is still there, without waiting any further. A signal that is
+  // refused is logged and changes nothing else. Without a pid file, or with one
   // that names no process this may signal, nothing is sent and nobody waited for.
   void StopService() override;
 
