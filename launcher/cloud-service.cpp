@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QSettings>
 
 #include <cstdio>
@@ -14,7 +16,8 @@ namespace {
 
 const ustring kComponent("service_debug");
 
-constexpr int kMaxBackups = 100;  // names tried for a backup, numbers 0 to 99
+constexpr int kMaxVersionFile = 65536;  // bytes; a version file has about a hundred
+constexpr int kMaxBackups = 100;        // names tried for a backup, numbers 0 to 99
 
 ustring to_ustring(const QString& text) { return text.toUtf8().constData(); }
 
@@ -36,8 +39,20 @@ void read_field(const QSettings& file, const char* key, ustring& field) {
   if (file.contains(key)) field = to_ustring(file.value(key).toString());
 }
 
+// Whether the file at `path` can be given to the settings reader. That builds any object of
+// the toolkit's from a value like "@Variant(...)", directly or behind an escape, and aborts
+// the process over a damaged one; it waits for ever on a pipe. No version needs any of it.
+bool is_plain(const QString& path) {
+  QFile file(path);
+  if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) return false;
+  const QByteArray text = file.read(kMaxVersionFile + 1);
+  return text.size() <= kMaxVersionFile && !text.contains('@') && !text.contains('\\');
+}
+
 void read_version(const ustring& path, Service::VersionInfo& version) {
-  QSettings file(QString::fromUtf8(path.c_str()), QSettings::IniFormat);
+  const QString name = QString::fromUtf8(path.c_str());
+  if (!is_plain(name)) return;
+  QSettings file(name, QSettings::IniFormat);
   file.beginGroup("Version");
   read_field(file, "major_version", version.major_version);
   read_field(file, "minor_version", version.minor_version);
@@ -124,7 +139,15 @@ int Service::PrepareUserEnv() {
   const ustring app = per_user_install_path;
   ustring backup;
   int retry = 0;
-  if (IsFileExist(app, false) && BackUp(app, backup, retry) != 0) return -1;
+  // A copy that cannot be seen may still be there, and unpacking over it would mix the two.
+  FILE_INFO info;
+  if (FSStat(app, info, false) != 0) {
+    Logger::LogMsg(Logger::L_ERR, kComponent,
+                   "[ERROR] cloud-service(%d): failed to examine app '%s'\n", __LINE__,
+                   app.c_str());
+    return -1;
+  }
+  if (info.isExist && BackUp(app, backup, retry) != 0) return -1;
 
   // Once the backups are gone the new copy is all there is: it has to be on the disk.
   if (ExtractPackage() != 0 || FSSync(app) != 0) {

@@ -56,14 +56,14 @@ class Service {
 
   // Reads the version file of the user's copy into source_version, and that of the package
   // into target_version. A key that is absent leaves its field alone, and so does a file
-  // that is missing or no version file.
+  // that is missing, larger than 64 KiB or no plain version file.
   virtual void LoadSourceVersion();
   virtual void LoadTargetVersion();
 
   // Replaces the user's copy by the package: moves it aside under a free backup name,
   // unpacks, and removes the backups. Returns 0 when the new copy is in place and on the
-  // disk. Returns -1 with the old copy in place when it could not be moved aside, or was
-  // moved back because unpacking or bringing the disk up to date failed; an old copy that
+  // disk. Returns -1 with the old copy in place when it could not be examined or moved aside, or
+  // was moved back because unpacking or bringing the disk up to date failed; an old copy that
   // cannot be moved back is whole under its backup name. Where there was no old copy, what
   // was unpacked stays.
   [[nodiscard]] virtual int PrepareUserEnv();

@@ -57,6 +57,16 @@ int open_source(archive* reader, const ustring& source) {
   return archive_read_open_filename(reader, source.c_str(), kBlockSize);
 }
 
+// Whether `entry` would put something else in the place of the target directory: its name has
+// no component but "." and it is no directory.
+bool takes_target(archive_entry* entry, const char* name) {
+  for (const char* p = name; *p; ++p) {
+    const bool dot = *p == '.' && (p == name || p[-1] == '/') && (p[1] == '/' || p[1] == '\0');
+    if (*p != '/' && !dot) return false;
+  }
+  return archive_entry_filetype(entry) != AE_IFDIR || archive_entry_hardlink(entry);
+}
+
 }  // namespace
 
 int Extractor::Extract() {
@@ -116,10 +126,10 @@ int Extractor::ExtractEntries(archive* reader, archive* writer, int total) {
     }
 
     const char* const name = archive_entry_pathname(entry);
-    if (!name || !*name) {
-      // The target itself would be taken for the entry's place, and be replaced.
-      Logger::LogMsg(Logger::L_ERR, kComponent, "[ERROR] extractor(%d): entry without a name\n",
-                     __LINE__);
+    if (!name || takes_target(entry, name)) {
+      Logger::LogMsg(Logger::L_ERR, kComponent,
+                     "[ERROR] extractor(%d): entry '%s' would replace the target\n", __LINE__,
+                     name ? name : "");
       return -1;
     }
     // Without the barrier a loss of power could leave the last entry on the disk and an

@@ -65,6 +65,8 @@ FORWARD(int, archive_write_finish_entry, (archive * a), (a))
 FORWARD(int, archive_write_free, (archive * a), (a))
 
 FORWARD(const char*, archive_error_string, (archive * a), (a))
+FORWARD(const char*, archive_entry_hardlink, (archive_entry * entry), (entry))
+FORWARD(__LA_MODE_T, archive_entry_filetype, (archive_entry * entry), (entry))
 FORWARD(const char*, archive_entry_pathname, (archive_entry * entry), (entry))
 FORWARD(void, archive_entry_set_pathname, (archive_entry * entry, const char* name), (entry, name))
 }

@@ -31,10 +31,10 @@ constexpr mode_t kDefaultMode = static_cast<mode_t>(-1);
 uid_t g_uid = kUnsetUid;
 gid_t g_gid = kUnsetGid;
 
-constexpr int kCopyBuffer = 33554432;      // bytes; one buffer of 32 MiB for each copy
-constexpr size_t kCopySlice = 256 * 1024;  // bytes moved at once: what stays in the cache
-constexpr size_t kTemplateSize = 4096;     // bytes of a mkstemp template
-constexpr size_t kRealPathSize = 8192;     // bytes of a resolved path
+constexpr int kCopyBuffer = 33554432;   // bytes; one buffer of 32 MiB for each copy
+constexpr size_t kCopySlice = 262144;   // bytes moved at once: what stays in the cache
+constexpr size_t kTemplateSize = 4096;  // bytes of a mkstemp template
+constexpr size_t kRealPathSize = 8192;  // bytes of a resolved path
 
 // File-system types, from the statfs manual page.
 constexpr uint32_t kNfsMagic = 0x6969;
