@@ -57,6 +57,23 @@ int open_source(archive* reader, const ustring& source) {
   return archive_read_open_filename(reader, source.c_str(), kBlockSize);
 }
 
+// A reader on the first entry of `source`; null, and logged, when there is none to be had.
+Reader open_for_listing(const ustring& source) {
+  Reader reader = make_reader();
+  if (!reader) {
+    Logger::LogMsg(Logger::L_ERR, kComponent, "[ERROR] extractor(%d): Allocate archive failed\n",
+                   __LINE__);
+    return nullptr;
+  }
+  if (open_source(reader.get(), source) != ARCHIVE_OK) {
+    Logger::LogMsg(Logger::L_ERR, kComponent,
+                   "[ERROR] extractor(%d): archive_read_open_filename failed: '%s'\n", __LINE__,
+                   error_text(reader.get()));
+    return nullptr;
+  }
+  return reader;
+}
+
 // Whether `entry` would put something else in the place of the target directory: its name has
 // no component but "." and it is no directory.
 bool takes_target(archive_entry* entry, const char* name) {
@@ -164,18 +181,8 @@ int Extractor::Count() {
                    __LINE__);
     return -1;
   }
-  const Reader reader = make_reader();
-  if (!reader) {
-    Logger::LogMsg(Logger::L_ERR, kComponent, "[ERROR] extractor(%d): Allocate archive failed\n",
-                   __LINE__);
-    return -1;
-  }
-  if (open_source(reader.get(), source) != ARCHIVE_OK) {
-    Logger::LogMsg(Logger::L_ERR, kComponent,
-                   "[ERROR] extractor(%d): archive_read_open_filename failed: '%s'\n", __LINE__,
-                   error_text(reader.get()));
-    return -1;
-  }
+  const Reader reader = open_for_listing(source);
+  if (!reader) return -1;
 
   int count = 0;
   archive_entry* entry = nullptr;
@@ -193,18 +200,8 @@ int Extractor::List() {
     Logger::LogMsg(Logger::L_ERR, kComponent, "[ERROR] extractor(%d): Invalid argument\n",
                    __LINE__);
   }
-  const Reader reader = make_reader();
-  if (!reader) {
-    Logger::LogMsg(Logger::L_ERR, kComponent, "[ERROR] extractor(%d): Allocate archive failed\n",
-                   __LINE__);
-    return -1;
-  }
-  if (open_source(reader.get(), source) != ARCHIVE_OK) {
-    Logger::LogMsg(Logger::L_ERR, kComponent,
-                   "[ERROR] extractor(%d): archive_read_open_filename failed: '%s'\n", __LINE__,
-                   error_text(reader.get()));
-    return -1;
-  }
+  const Reader reader = open_for_listing(source);
+  if (!reader) return -1;
 
   archive_entry* entry = nullptr;
   while (archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK) {

@@ -10,9 +10,7 @@
 
 // What the test programs share: files to start from, and what became of them.
 
-inline ustring u(const QString& text) {
-  return text.toUtf8().constData();
-}
+inline ustring u(const QString& text) { return text.toUtf8().constData(); }
 
 inline void put(const QString& path, const QByteArray& content) {
   QFile file(path);
@@ -37,10 +35,14 @@ inline QStringList tree(const QString& dir) {
     const QString path = it.next();
     const QFileInfo info = it.fileInfo();
     const QString name = path.mid(dir.size() + 1);
-    if (info.isSymLink()) found += name + '@';
-    else if (info.isDir()) found += name + '/';
-    else if (info.isFile()) found += name + ':' + QString::fromUtf8(content(path));
-    else found += name + '|';
+    if (info.isSymLink())
+      found += name + '@';
+    else if (info.isDir())
+      found += name + '/';
+    else if (info.isFile())
+      found += name + ':' + QString::fromUtf8(content(path));
+    else
+      found += name + '|';
   }
   found.sort();
   return found;

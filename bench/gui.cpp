@@ -1,0 +1,96 @@
+// The GUI thread's part in an upgrade.
+//
+//   bench_gui slot COUNT             prints the processor time of the GUI thread for one report
+//                                    of progress out of COUNT
+//   bench_gui alone ARCHIVE DIR      unpacks on the worker thread, nobody listens
+//   bench_gui dialog ARCHIVE DIR     the same with the dialog shown and following
+//
+// The two last print the time of the worker thread, after a line with the kilobytes by which
+// the process grew from the first entry on.
+
+#include <QApplication>
+#include <QFile>
+#include <QThread>
+
+#include <memory>
+#include <string>
+
+#include "bench/stopwatch.h"
+#include "launcher/adapter.h"
+#include "launcher/extractor.h"
+#include "launcher/launcher.h"
+#include "launcher/texts/strtab.h"
+
+namespace {
+
+// Resident kilobytes now ("VmRSS:") or at most until now ("VmHWM:").
+long kilobytes(const char* key) {
+  QFile file("/proc/self/status");
+  if (!file.open(QIODevice::ReadOnly)) return 0;
+  for (const QByteArray& line : file.readAll().split('\n')) {
+    if (line.startsWith(key)) return line.simplified().split(' ').at(1).toLong();
+  }
+  return 0;
+}
+
+int bench_slot(QApplication& app, int count) {
+  Launcher launcher;
+  launcher.ShowMsgBox();
+  app.processEvents();
+  // Reports come no faster than files are written; a burst would measure the queue's memory.
+  const std::unique_ptr<QThread> worker(QThread::create([count] {
+    for (int i = 1; i <= count; ++i) Notify_Adapter::GetInstance().UpdateProgress(count, i);
+  }));
+  QObject::connect(worker.get(), &QThread::finished, &app, &QCoreApplication::quit);
+  const double before = thread_nanoseconds();
+  worker->start();
+  (void)app.exec();
+  app.processEvents();
+  (void)worker->wait();
+  print_nanoseconds((thread_nanoseconds() - before) / count);
+  return 0;
+}
+
+int bench_upgrade(QApplication& app, bool shown, const char* archive, const char* folder) {
+  std::unique_ptr<Launcher> launcher;
+  if (shown) {
+    launcher = std::make_unique<Launcher>();
+    launcher->ShowMsgBox();
+  }
+  app.processEvents();
+
+  double time = 0;
+  int status = -1;
+  const std::unique_ptr<QThread> worker(QThread::create([&] {
+    Extractor extractor;
+    extractor.SetSource(archive);
+    extractor.SetTarget(folder);
+    const Clock::time_point start = Clock::now();
+    status = extractor.Extract();
+    time = static_cast<double>(nanoseconds_since(start));
+  }));
+  QObject::connect(worker.get(), &QThread::finished, &app, &QCoreApplication::quit);
+  const long before = kilobytes("VmRSS:");
+  worker->start();
+  (void)app.exec();
+  (void)worker->wait();
+  printf("%ld\n", kilobytes("VmHWM:") - before);
+  print_nanoseconds(time);
+  return status == 0 ? 0 : 1;
+}
+
+}  // namespace
+
+// The barrier against loss of power would measure the disk.
+extern "C" int syncfs(int) noexcept { return 0; }
+
+int main(int argc, char** argv) {
+  QApplication app(argc, argv);
+  StrTable::InitStrTable();
+  const std::string job = argc > 1 ? argv[1] : "";
+  if (job == "slot" && argc == 3) return bench_slot(app, atoi(argv[2]));
+  if ((job == "alone" || job == "dialog") && argc == 4) {
+    return bench_upgrade(app, job == "dialog", argv[2], argv[3]);
+  }
+  return 2;
+}
