@@ -1,6 +1,8 @@
 #include <QProcess>
 #include <QRegularExpression>
+#include <QResource>
 #include <QTranslator>
+#include <QtEndian>
 #include <QtTest>
 
 #include "launcher/texts/strtab.h"
@@ -109,6 +111,25 @@ class TestTexts : public QObject {
     child.start(QCoreApplication::applicationFilePath(), {"--default-language"});
     QVERIFY(child.waitForFinished());
     QTEST(QString(child.readAllStandardOutput()), "code");
+  }
+
+  // Two sections, the messages and their index, and the compression that is agreed on.
+  void collection() {
+    for (const QString& code : ParvLocale::getSupportedLanguages()) {
+      const QResource resource(":/" + code + ".qm");
+      const bool plain = QStringList{"chs", "cht", "jpn", "krn"}.contains(code);
+      QCOMPARE(resource.compressionAlgorithm(),
+               plain ? QResource::NoCompression : QResource::ZlibCompression);
+      const QByteArray file = resource.uncompressedData();
+      QByteArray sections;
+      for (int at = 16; at < file.size(); at += 5 + qFromBigEndian<qint32>(file.data() + at + 1)) {
+        sections += file[at];
+        if (file[at] == 0x42) QCOMPARE(qFromBigEndian<qint32>(file.data() + at + 1), 312 * 8);
+      }
+      QCOMPARE(sections, QByteArray("\x42\x69"));
+      QTranslator damaged;
+      QVERIFY(!damaged.load(reinterpret_cast<const uchar*>(file.data()) + 1, file.size() - 1));
+    }
   }
 
   void language_data() {

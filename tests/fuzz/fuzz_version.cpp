@@ -4,14 +4,14 @@
 #include <QCoreApplication>
 
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <string>
 
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include "launcher/linux/linux-service.h"
 #include "tests/fuzz/expect.h"
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -21,30 +21,22 @@ class Probe : public LinuxService {
   void set_target(const char* build) { target_version.build_version = build; }
 };
 
-// The settings reader keeps the last 30 files in memory and looks at nothing but size and
-// time to tell whether one has changed; more homes than that make it read each input.
-constexpr int kHomes = 48;
-
-std::string homes[kHomes];
+std::string root = fs::temp_directory_path() / "fuzz-version.XXXXXX";
 
 }  // namespace
 
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
   static QCoreApplication application(*argc, *argv);
-  const char* const temporary = getenv("TMPDIR");
-  std::string root = std::string(temporary ? temporary : "/tmp") + "/fuzz-version.XXXXXX";
   EXPECT(mkdtemp(root.data()));
-  for (int i = 0; i < kHomes; ++i) {
-    homes[i] = root + ("/" + std::to_string(i));
-    for (const char* part : {"", "/.Quillmere", "/.Quillmere/app"})
-      EXPECT(mkdir((homes[i] + part).c_str(), 0755) == 0);
-  }
   return 0;
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   static int turn = 0;
-  const std::string& home = homes[++turn % kHomes];
+  // The settings reader looks at nothing but size and time to tell whether a file that it
+  // knows has changed; a home for each input makes it read each.
+  const std::string home = root + "/" + std::to_string(++turn);
+  EXPECT(fs::create_directories(home + "/.Quillmere/app"));
   EXPECT(setenv("HOME", home.c_str(), 1) == 0);
   std::ofstream file(home + "/.Quillmere/app/INFO", std::ios::binary | std::ios::trunc);
   file.write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
@@ -54,10 +46,13 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   Probe service;
   service.LoadSourceVerInfo();
   const Service::VersionInfo& version = service.source();
-  for (const ustring* field : {&version.major_version, &version.minor_version, &version.build_version, &version.icon_overlay_version})
+  for (const ustring* field : {&version.major_version, &version.minor_version,
+                               &version.build_version, &version.icon_overlay_version}) {
     EXPECT(ustring::is_valid(*field) && strlen(field->c_str()) == field->length());
+  }
   // Without a client program every copy is replaced, whatever its version says.
   service.set_target("1");
   EXPECT(service.IsNeedUpgrade());
+  fs::remove_all(home);
   return 0;
 }
