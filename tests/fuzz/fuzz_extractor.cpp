@@ -64,7 +64,7 @@ bool look_at_archive() {
 // Removes everything below the root, directories without rights included.
 void wipe() {
   for (const auto& entry : fs::recursive_directory_iterator(root)) {  // entered after this
-    if (entry.is_directory() && !entry.is_symlink()) fs::permissions(entry, fs::perms::owner_all);
+    if (!entry.is_symlink() && entry.is_directory()) fs::permissions(entry, fs::perms::owner_all);
   }
   for (const auto& entry : fs::directory_iterator(root)) fs::remove_all(entry);
 }
