@@ -1,5 +1,6 @@
 #include "launcher/launcher.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QFont>
@@ -14,12 +15,13 @@ namespace {
 
 const ustring kComponent("launcher_debug");
 
+constexpr char kFontFamily[] = "Arial";
 constexpr int kDialogWidth = 400;  // device-independent pixels
 
 }  // namespace
 
 ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr) {
-  const QFont font("Arial");
+  const QFont font(kFontFamily);
   const QString icon = QString::fromUtf8(Service::GetRootQuillmereResourceInstallPath().c_str()) +
                        "/images/ico_72_quill_mere.png";
   setWindowTitle(StrTable::LoadStr(StrTable::app_name));
@@ -88,7 +90,17 @@ void Worker::HandleServicce() {
   emit sigServiceDone();
 }
 
+// Makes the dialog's font family that of the application. The toolkit measures a new dialog
+// before that has a font of its own: were the two families different, the system's fonts would
+// be searched twice, which takes a tenth of a start.
+static void set_application_font() {
+  QFont font = QApplication::font();
+  font.setFamily(kFontFamily);
+  QApplication::setFont(font);
+}
+
 Launcher::Launcher() {
+  set_application_font();
   m_worker = new Worker;
   m_progress = new ProcessingProgressDialog;
   m_progress->setCancelButton(nullptr);

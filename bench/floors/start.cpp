@@ -39,7 +39,9 @@ int main(int argc, char** argv) {
   QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
   QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
   QApplication app(argc, argv);
-  { QFont f = QApplication::font(); f.setFamily("Arial"); QApplication::setFont(f); }
+  QFont font = QApplication::font();
+  font.setFamily("Arial");
+  QApplication::setFont(font);
   QProgressDialog dialog;
   set_up(dialog, argv[2]);
   const bool shown = argc > 4 && strcmp(argv[4], "--show") == 0;
