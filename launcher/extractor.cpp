@@ -1,10 +1,14 @@
 #include "launcher/extractor.h"
 
+#include <QThread>
+
 #include <archive.h>
 #include <archive_entry.h>
 
 #include <cstdio>
 #include <memory>
+#include <utility>
+#include <vector>
 
 #include "launcher/adapter.h"
 #include "launcher/texts/strtab.h"
@@ -16,6 +20,11 @@ namespace {
 const ustring kComponent("extractor_debug");
 
 constexpr size_t kBlockSize = 10240;  // bytes read from the archive file at once
+
+// Bytes from which on a file is sent to the disk before the barrier, and the bytes that are
+// sent at once. With less the calls cost more than the barrier gains; with more the disk idles.
+constexpr int64_t kEarlySyncSize = 65536;
+constexpr int64_t kEarlySyncBatch = 2097152;
 
 // Neither owner, permissions nor times are asked for: the copy is the user's own.
 constexpr int kWriteOptions =
@@ -74,6 +83,34 @@ Reader open_for_listing(const ustring& source) {
   return reader;
 }
 
+// Sends unpacked files to the disk while the next ones are unpacked, or the barrier would
+// take as long as the unpacking has. On a thread of its own, since the sending takes time, too;
+// where none can be had, everything is left to the barrier.
+class EarlySync {
+ public:
+  ~EarlySync() {
+    if (m_thread) (void)m_thread->wait();  // without a time limit there is nothing to report
+  }
+
+  // Takes note of a file that has been unpacked.
+  void Add(const ustring& path, int64_t size) {
+    if (size < kEarlySyncSize) return;
+    m_paths.push_back(path);
+    m_bytes += size;
+    if (m_bytes < kEarlySyncBatch || (m_thread && m_thread->isRunning())) return;
+    m_thread.reset(QThread::create([paths = std::exchange(m_paths, {})] {
+      for (const ustring& p : paths) FSStartSync(p);
+    }));
+    m_thread->start();
+    m_bytes = 0;
+  }
+
+ private:
+  std::vector<ustring> m_paths;  // not sent yet
+  int64_t m_bytes = 0;           // in them
+  std::unique_ptr<QThread> m_thread;
+};
+
 // Whether `entry` would put something else in the place of the target directory: its name has
 // no component but "." and it is no directory.
 bool takes_target(archive_entry* entry, const char* name) {
@@ -131,6 +168,7 @@ int Extractor::Extract() {
 }
 
 int Extractor::ExtractEntries(archive* reader, archive* writer, int total) {
+  EarlySync early_sync;
   for (int done = 0;;) {
     archive_entry* entry = nullptr;
     const int status = archive_read_next_header(reader, &entry);
@@ -171,6 +209,7 @@ int Extractor::ExtractEntries(archive* reader, archive* writer, int total) {
                      error_text(writer));
       return -1;
     }
+    early_sync.Add(path, archive_entry_size(entry));
   }
 }
 

@@ -68,5 +68,6 @@ FORWARD(const char*, archive_error_string, (archive * a), (a))
 FORWARD(const char*, archive_entry_hardlink, (archive_entry * entry), (entry))
 FORWARD(__LA_MODE_T, archive_entry_filetype, (archive_entry * entry), (entry))
 FORWARD(const char*, archive_entry_pathname, (archive_entry * entry), (entry))
+FORWARD(la_int64_t, archive_entry_size, (archive_entry * entry), (entry))
 FORWARD(void, archive_entry_set_pathname, (archive_entry * entry, const char* name), (entry, name))
 }

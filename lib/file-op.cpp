@@ -380,6 +380,11 @@ int FSSync(const ustring& path) {
   return -1;
 }
 
+void FSStartSync(const ustring& path) {
+  const Descriptor fd(open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+  if (fd.is_open()) (void)sync_file_range(fd.get(), 0, 0, SYNC_FILE_RANGE_WRITE);
+}
+
 int FSMktemp(const ustring& prefix, ustring& path) {
   char name[kTemplateSize];
   // A prefix too long for the buffer ends in a template that mkstemp refuses.

@@ -131,6 +131,11 @@ bool IsFileExist(const ustring& path, bool do_case_check);
 // disk when it returns 0. -1 (logged) when that cannot be said.
 [[nodiscard]] int FSSync(const ustring& path);
 
+// Begins to write the content of the file `path` to the disk, so that the next FSSync finds
+// less to do. Waits at most for the disk to take the orders, not for the writing. Guarantees
+// nothing: a file that is not there any more, or cannot be read, is left to FSSync. Any thread.
+void FSStartSync(const ustring& path);
+
 // Creates an empty file of a fresh name and mode 0644 in the directory `prefix` and
 // sets `path` to it; on failure `path` is untouched.
 [[nodiscard]] int FSMktemp(const ustring& prefix, ustring& path);
