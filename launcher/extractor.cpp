@@ -1,5 +1,7 @@
 #include "launcher/extractor.h"
 
+#include <QMutex>
+#include <QSemaphore>
 #include <QThread>
 
 #include <archive.h>
@@ -86,29 +88,44 @@ Reader open_for_listing(const ustring& source) {
 // Sends unpacked files to the disk while the next ones are unpacked, or the barrier would
 // take as long as the unpacking has. On a thread of its own, since the sending takes time, too;
 // where none can be had, everything is left to the barrier.
-class EarlySync {
+class EarlySync : private QThread {
  public:
-  ~EarlySync() {
-    if (m_thread) (void)m_thread->wait();  // without a time limit there is nothing to report
+  ~EarlySync() override {
+    requestInterruption();
+    m_batches.release();
+    (void)wait();  // without a time limit there is nothing to report
   }
 
   // Takes note of a file that has been unpacked.
   void Add(const ustring& path, int64_t size) {
     if (size < kEarlySyncSize) return;
-    m_paths.push_back(path);
+    {
+      const QMutexLocker lock(&m_mutex);
+      m_paths.push_back(path);
+    }
     m_bytes += size;
-    if (m_bytes < kEarlySyncBatch || (m_thread && m_thread->isRunning())) return;
-    m_thread.reset(QThread::create([paths = std::exchange(m_paths, {})] {
-      for (const ustring& p : paths) FSStartSync(p);
-    }));
-    m_thread->start();
+    if (m_bytes < kEarlySyncBatch) return;
     m_bytes = 0;
+    if (!isRunning()) start();
+    m_batches.release();
   }
 
  private:
+  void run() override {
+    for (m_batches.acquire(); !isInterruptionRequested(); m_batches.acquire()) {
+      for (const ustring& path : TakePaths()) FSStartSync(path);
+    }
+  }
+
+  std::vector<ustring> TakePaths() {
+    const QMutexLocker lock(&m_mutex);
+    return std::exchange(m_paths, {});
+  }
+
+  QMutex m_mutex;                // for m_paths
   std::vector<ustring> m_paths;  // not sent yet
   int64_t m_bytes = 0;           // in them
-  std::unique_ptr<QThread> m_thread;
+  QSemaphore m_batches;          // of paths that are to be sent
 };
 
 // Whether `entry` would put something else in the place of the target directory: its name has

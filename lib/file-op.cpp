@@ -33,6 +33,7 @@ gid_t g_gid = kUnsetGid;
 
 constexpr int kCopyBuffer = 33554432;   // bytes; one buffer of 32 MiB for each copy
 constexpr size_t kCopySlice = 262144;   // bytes moved at once: what stays in the cache
+constexpr size_t kPageSize = 4096;      // bytes; only speed depends on it
 constexpr size_t kTemplateSize = 4096;  // bytes of a mkstemp template
 constexpr size_t kRealPathSize = 8192;  // bytes of a resolved path
 
@@ -281,8 +282,10 @@ int FSCopy(const ustring& src, const ustring& dst, bool isDelOrigin) {
   const Descriptor out = open_for_copy(dst, O_WRONLY | O_CREAT | O_TRUNC);
   if (!out.is_open()) return -1;
 
-  // Only the pages that are touched cost anything, and those are the slice's.
-  const std::unique_ptr<char, Freer> buffer(static_cast<char*>(malloc(kCopyBuffer)));
+  // Only the pages that are touched cost anything, and those are the slice's. On the start of a
+  // page, because the processor moves what is aligned nearly twice as fast.
+  const std::unique_ptr<char, Freer> buffer(
+      static_cast<char*>(aligned_alloc(kPageSize, kCopyBuffer)));
   int result = -1;
   if (buffer) {
     result = copy_content(in.get(), out.get(), buffer.get());

@@ -1,6 +1,6 @@
 // Extractor: nothing of an archive may land outside the target, but through a link that an
-// earlier entry made, and nothing gets a set-id bit. With MAKE_ENTRIES the input describes
-// entries, which a real archive is made of first; without, it is the archive.
+// earlier entry made, and nothing gets a set-id bit. The input describes the entries, which a
+// real archive is made of first.
 //
 // Escapes through links do happen here, so started by root the harness mounts a small disk
 // of its own and becomes an unprivileged user.
@@ -16,7 +16,6 @@
 #include <unistd.h>
 
 #include <filesystem>
-#include <fstream>
 #include <string>
 
 #include "launcher/extractor.h"
@@ -29,38 +28,6 @@ namespace {
 char root[] = "/dev/shm/fuzz-extractor.XXXXXX";
 std::string sentinel, target, package;
 
-// The archive library is not instrumented. What it makes of an input, hashed into these,
-// guides the fuzzer in its place.
-__attribute__((section("__libfuzzer_extra_counters"))) uint8_t counters[1 << 14];
-
-void note(const std::string& kind, int64_t value) {
-  ++counters[std::hash<std::string>()(kind + std::to_string(value)) % sizeof counters];
-}
-
-// Whether an entry is a link. Leaves what the archive is like in the counters.
-bool look_at_archive() {
-  archive* const reader = archive_read_new();
-  (void)archive_read_support_filter_all(reader);  // the same reader as the extractor's:
-  (void)archive_read_support_format_all(reader);  // warnings are for missing programs
-  bool links = false;
-  int result = archive_read_open_filename(reader, package.c_str(), 10240);
-  archive_entry* entry = nullptr;
-  for (int count = 0; result >= ARCHIVE_WARN && result != ARCHIVE_EOF && count < 64; ++count) {
-    result = archive_read_next_header(reader, &entry);
-    note("format", archive_format(reader));
-    note("filter", archive_filter_code(reader, 0));
-    note("entries", count);
-    if (const char* const error = archive_error_string(reader)) {
-      note(std::string(error).substr(0, 12), 0);  // names and numbers come later in it
-    }
-    if (result < ARCHIVE_WARN || result == ARCHIVE_EOF) break;
-    note("type", archive_entry_filetype(entry));
-    links |= archive_entry_symlink(entry) || archive_entry_hardlink(entry);
-  }
-  (void)archive_read_free(reader);
-  return links;
-}
-
 // Removes everything below the root, directories without rights included.
 void wipe() {
   for (const auto& entry : fs::recursive_directory_iterator(root)) {  // entered after this
@@ -72,8 +39,6 @@ void wipe() {
 bool holds_only(const std::string& dir, const std::string& path) {
   return fs::exists(path) && std::next(fs::directory_iterator(dir)) == fs::directory_iterator();
 }
-
-#ifdef MAKE_ENTRIES
 
 constexpr int kFormats[] = {ARCHIVE_FORMAT_TAR_GNUTAR, ARCHIVE_FORMAT_TAR_PAX_INTERCHANGE,
                             ARCHIVE_FORMAT_TAR_USTAR, ARCHIVE_FORMAT_CPIO_POSIX,
@@ -94,12 +59,14 @@ std::string make_name(FuzzedDataProvider& in) {
   return name;
 }
 
-void write_package(const uint8_t* data, size_t size) {
+// Returns whether an entry is a link.
+bool write_package(const uint8_t* data, size_t size) {
   const __lsan::ScopedDisabler writers_leak;  // when the format refuses an entry
   FuzzedDataProvider in(data, size);
   archive* const writer = archive_write_new();
   (void)archive_write_set_format(writer, in.PickValueInArray(kFormats));  // the worst that
   (void)archive_write_open_filename(writer, package.c_str());  // failures leave is no archive
+  bool links = false;
   for (int count = 0; in.remaining_bytes() > 0 && count < 20; ++count) {
     archive_entry* const entry = archive_entry_new();
     archive_entry_set_pathname(entry, make_name(in).c_str());
@@ -113,19 +80,12 @@ void write_package(const uint8_t* data, size_t size) {
     archive_entry_set_size(entry, static_cast<la_int64_t>(content.size()));
     if (archive_write_header(writer, entry) >= ARCHIVE_WARN)
       (void)archive_write_data(writer, content.data(), content.size());
+    links |= archive_entry_symlink(entry) || archive_entry_hardlink(entry);
     archive_entry_free(entry);
   }
   (void)archive_write_free(writer);
+  return links;
 }
-
-#else
-
-void write_package(const uint8_t* data, size_t size) {
-  std::ofstream file(package, std::ios::binary | std::ios::trunc);
-  file.write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
-}
-
-#endif
 
 }  // namespace
 
@@ -151,7 +111,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   EXPECT(fs::create_directories(target));
   // Relative link targets count from the working directory.
   EXPECT(chdir(target.c_str()) == 0);
-  write_package(data, size);
+  const bool links = write_package(data, size);
 
   Extractor extractor;
   extractor.SetSource(package.c_str());
@@ -159,7 +119,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   const int result = extractor.Extract();
   EXPECT(result == 0 || result == -1);
 
-  if (look_at_archive()) return 0;  // it has links
+  if (links) return 0;
   EXPECT(fs::remove(package) && holds_only(root, sentinel) && holds_only(sentinel, target));
   constexpr auto kSetId = fs::perms::set_uid | fs::perms::set_gid;
   constexpr auto kSkip = fs::directory_options::skip_permission_denied;
