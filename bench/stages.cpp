@@ -10,6 +10,9 @@
 #include "launcher/main.cpp"
 #undef main
 
+#include <QFontMetrics>
+#include <QLocale>
+
 #include <cstdlib>
 
 #include "bench/stopwatch.h"
@@ -38,7 +41,36 @@ void run_service() {
   step("start script");
 }
 
+// What the libraries do once, at the first call of its kind, whoever makes it. With these
+// calls made first, the steps below them are the launcher's own.
+
+void warm_up_libraries() {
+  (void)setlocale(LC_ALL, "");
+  step("C library's locale");
+  (void)QTextCodec::codecForName("UTF-8");
+  step("toolkit's text codecs");
+  (void)QCoreApplication::libraryPaths();
+  step("toolkit's paths");
+}
+
+void warm_up_toolkit() {
+  qDebug("toolkit's trace:");
+  step("toolkit's traces");
+  (void)QLocale::system().name();
+  step("toolkit's locale");
+  QTranslator translator;
+  (void)translator.load(":/enu.qm");
+  step("toolkit's first resource");
+  QFont font = QApplication::font();
+  font.setFamily("Arial");
+  (void)QFontMetrics(font).height();
+  step("toolkit's fonts");
+  { const ProcessingProgressDialog dialog; }
+  step("toolkit's first dialog");
+}
+
 int run(int argc, char** argv) {
+  warm_up_libraries();
   initialize_resources(argv[0]);
   step("locale and resources");
   QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
@@ -46,16 +78,17 @@ int run(int argc, char** argv) {
   name_application();
   QtSingleApplication app(argc, argv, true);
   if (app.isRunning()) return 1;
-  step("application and lock");
+  step("lock");
   ensure_utf8_names();
   initialize_logger();
   step("log");
+  warm_up_toolkit();
   QTranslator translator;
   const QString none("");
   (void)translator.load(getCurrentLanguageFileName(), none, none, none);
   if (!translator.isEmpty()) QCoreApplication::installTranslator(&translator);
   StrTable::InitStrTable();
-  step("translator");
+  step("translation");
   Launcher* const launcher = new Launcher;
   step("dialog");
   HandlerThread thread;
@@ -70,6 +103,17 @@ int run(int argc, char** argv) {
 }
 
 }  // namespace
+
+// The linker has every caller of QApplication's constructor, and so the lock's constructor,
+// call the first of these two; the second is the constructor itself.
+extern "C" {
+void __real__ZN12QApplicationC2ERiPPci(QApplication* self, int& argc, char** argv, int flags);
+
+void __wrap__ZN12QApplicationC2ERiPPci(QApplication* self, int& argc, char** argv, int flags) {
+  __real__ZN12QApplicationC2ERiPPci(self, argc, argv, flags);
+  step("toolkit's application");
+}
+}
 
 int main(int argc, char** argv) {
   g_last = now();
