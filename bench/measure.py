@@ -183,6 +183,10 @@ def text_of(nanoseconds):
     return f'{nanoseconds:.0f} ns'
 
 
+def is_missed(row):
+    return row['goal'] and round(row['ratio'], 2) > row['goal']
+
+
 class Table:
     def __init__(self):
         self.rows = []
@@ -198,7 +202,7 @@ class Table:
     @staticmethod
     def line(row):
         goal = f'≤ {row["goal"]:.2f}' if row['goal'] else '–'
-        if row['goal'] and row['ratio'] > row['goal']:
+        if is_missed(row):
             goal += ' **missed**'
         cpu = f'{row["cpu"]:.2f}' if row['cpu'] else '–'
         return (f'| {row["what"]} | {row["floor"]} | {row["ours"]} | {row["ratio"]:.2f} '
@@ -657,9 +661,8 @@ def plot(rows, growth):
     lines.set_ylabel('seconds to unpack, in memory')
     lines.legend()
     for y, row in enumerate(rows):
-        missed = row['goal'] and row['ratio'] > row['goal']
         axes.plot([row['low'], row['high']], [y, y], color='0.7', linewidth=5, solid_capstyle='butt')
-        axes.plot(row['ratio'], y, 'o', color='firebrick' if missed else 'seagreen')
+        axes.plot(row['ratio'], y, 'o', color='firebrick' if is_missed(row) else 'seagreen')
         if row['goal']:
             axes.plot(row['goal'], y, '|', color='black', markersize=11)
     axes.axvline(1, color='0.4', linewidth=0.8)

@@ -3,6 +3,7 @@
 #include <syslog.h>
 
 #include <cerrno>
+#include <cstring>
 #include <ctime>
 #include <sstream>
 
@@ -172,11 +173,12 @@ int Logger::Emit(const xchar* fmt, va_list args) {
     return 0;
   }
   if (!log_fp) return 0;
-  const int stamp = fprintf(log_fp, "%s", time_stamp());
+  const char* const stamp = time_stamp();
+  const bool stamped = fputs(stamp, log_fp) != EOF;
   const int text = vfprintf(log_fp, fmt, args);
   // What a full disk refuses is lost; the log must not stop the launcher.
   (void)fflush(log_fp);
-  return stamp < 0 || text < 0 ? -1 : stamp + text;
+  return stamped && text >= 0 ? static_cast<int>(strlen(stamp)) + text : -1;
 }
 
 int Logger::Rotate() {
