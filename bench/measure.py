@@ -598,9 +598,8 @@ EXPLANATIONS = """
   tar that means skipping from header to header, and costs next to nothing; a compressed
   archive is decompressed twice. That is why `make-package` picks plain tar by default.
 - Each entry is reported to the GUI thread by a queued signal. When that thread sleeps, the
-  first report has to wake it, which costs the worker 6 to 8 µs on this virtual machine: a good
-  part of a small file's time in memory, less on a disk. What the thread does then costs the
-  worker nothing.
+  next report has to wake it, which costs the worker 6 to 18 µs on this virtual machine: a good
+  part of a small file's time. What the thread does then costs the worker nothing.
 - `FSCopy` has each file on the disk before it returns, so `cp` has to be followed by a `sync` of
   each. No upgrade copies files; it is there for copies across file systems.
 - The floors of `ustring`'s conversions ask ICU for the length first and convert then, as it
