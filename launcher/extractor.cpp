@@ -1,6 +1,5 @@
 #include "launcher/extractor.h"
 
-#include <QMutex>
 #include <QSemaphore>
 #include <QThread>
 
@@ -9,6 +8,7 @@
 
 #include <cstdio>
 #include <memory>
+#include <mutex>
 #include <utility>
 #include <vector>
 
@@ -100,7 +100,7 @@ class EarlySync : private QThread {
   void Add(const ustring& path, int64_t size) {
     if (size < kEarlySyncSize) return;
     {
-      const QMutexLocker lock(&m_mutex);
+      const std::lock_guard<std::mutex> lock(m_mutex);
       m_paths.push_back(path);
     }
     m_bytes += size;
@@ -118,13 +118,13 @@ class EarlySync : private QThread {
   }
 
   std::vector<ustring> TakePaths() {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard<std::mutex> lock(m_mutex);
     return std::exchange(m_paths, {});
   }
 
-  QMutex m_mutex;                // for m_paths
+  std::mutex m_mutex;            // for m_paths
   std::vector<ustring> m_paths;  // not sent yet
-  int64_t m_bytes = 0;           // in them
+  int64_t m_bytes = 0;           // since the last batch
   QSemaphore m_batches;          // of paths that are to be sent
 };
 
