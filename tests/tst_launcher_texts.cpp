@@ -184,4 +184,4 @@ int main(int argc, char** argv) {
   return QTest::qExec(&test, argc, argv);
 }
 
-#include "tst_texts.moc"
+#include "tst_launcher_texts.moc"

@@ -1,5 +1,5 @@
 # Debian 12 roots of our own, for what needs another architecture or an empty
-# machine. Sourced by the scripts beside it and by tests/packaging/test-deb.
+# machine. Sourced by check-i386 beside it, packaging/build-deb and tests/packaging/test-deb.
 #
 # A root is made once for each architecture and kept as quillmere-ARCH below
 # $QUILLMERE_ROOTS, or below the user's cache directory; remove it to get a
@@ -12,9 +12,9 @@ roots=${QUILLMERE_ROOTS:-${XDG_CACHE_HOME:-$HOME/.cache}}
 root=    # set by make_root
 reason=  # why make_root failed, as one line
 
-# packages GROUP...: the packages of these groups of the file build-depends.
+# packages GROUP...: the packages of these groups of the file packages.list.
 packages() {
-    awk -v wanted=" $* " 'index(wanted, " " $1 " ") { print $2 }' "$(dirname "${BASH_SOURCE[0]}")/build-depends"
+    awk -v wanted=" $* " 'index(wanted, " " $1 " ") { print $2 }' "$(dirname "${BASH_SOURCE[0]}")/packages.list"
 }
 
 # The machine's own mirrors of the release, as lines for a sources.list. Empty

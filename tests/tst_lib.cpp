@@ -276,4 +276,4 @@ class TestCommon : public QObject {
 };
 
 QTEST_APPLESS_MAIN(TestCommon)
-#include "tst_common.moc"
+#include "tst_lib.moc"
