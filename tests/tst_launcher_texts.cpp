@@ -34,7 +34,7 @@ const std::tuple<const char*, Script, const char*, const char*> kLanguages[] = {
     {"deu", Latin, "de_AT", "Computer|ID|Internet|Name|OK|Port|Proxy|Status|Status:|Version"},
     {"krn", Hangul, "ko_KR", "ID"},
     {"fra", Latin, "fr_CA",
-     "Action|Destination|ID|Inactive|Internet|OK|Options|Port|Proxy|Version"},
+     "Action|Destination|ID|Internet|OK|Port|Proxy|Version"},
     {"ita", Latin, "it_IT", "&No|Computer|ID|Internet|OK|Password|Proxy"},
     {"esn", Latin, "es_MX", "&No|Error|ID|Internet|Proxy"},
     {"ptb", Latin, "pt_BR", "ID|Internet|OK|Proxy|Status|Status:"},

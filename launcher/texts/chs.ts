@@ -40,8 +40,8 @@
         <translation>连接模式</translation>
     </message>
     <message>
-        <source>The local database is damaged. Unlink the connection, then link it again to rebuild the database.</source>
-        <translation>本地数据库已损坏。请取消关联此连接，然后重新关联以重建数据库。</translation>
+        <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">本地数据库已损坏。请取消关联此连接，然后重新关联以重建数据库。</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
@@ -56,8 +56,8 @@
         <translation>[DlgTitleFont]已准备好卸载 [ProductName]</translation>
     </message>
     <message>
-        <source>The server has been replaced. Click here to link again.</source>
-        <translation>服务器已被更换。单击此处重新关联。</translation>
+        <source>The server has been replaced. Click here to reconnect.</source>
+        <translation type="unfinished">服务器已被更换。单击此处重新关联。</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -68,16 +68,16 @@
         <translation>安装向导可用于更改、修复或卸载 [ProductName]。单击“下一步”继续，或单击“取消”退出安装向导。</translation>
     </message>
     <message>
-        <source>Block list</source>
-        <translation>排除列表</translation>
+        <source>Exclusion list</source>
+        <translation type="unfinished">排除列表</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
         <translation>要删除此分享链接吗？\n拥有此链接的人将无法再打开该文件。</translation>
     </message>
     <message>
-        <source>This client is too old for the server.</source>
-        <translation>此客户端版本过旧，与服务器不兼容。</translation>
+        <source>Quillmere on this computer is too old to work with the server.</source>
+        <translation type="unfinished">此客户端版本过旧，与服务器不兼容。</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
@@ -96,16 +96,16 @@
         <translation>正在测试连接…</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server is not trusted, so others may be able to read the data you send. Do you want to continue?</source>
-        <translation>服务器的 SSL 证书不受信任，因此您发送的数据可能会被他人读取。要继续吗？</translation>
+        <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
+        <translation type="unfinished">服务器的 SSL 证书不受信任，因此您发送的数据可能会被他人读取。要继续吗？</translation>
     </message>
     <message>
         <source>New shared folder</source>
         <translation>新的共享文件夹</translation>
     </message>
     <message>
-        <source>About</source>
-        <translation>关于</translation>
+        <source>About Quillmere</source>
+        <translation type="unfinished">关于</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
@@ -120,8 +120,8 @@
         <translation>安装向导已准备好开始卸载。</translation>
     </message>
     <message>
-        <source>This computer is already linked to this server. Edit the existing connection or enter a different server.</source>
-        <translation>此计算机已与此服务器关联。请编辑现有连接，或输入其他服务器。</translation>
+        <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
+        <translation type="unfinished">此计算机已与此服务器关联。请编辑现有连接，或输入其他服务器。</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -132,12 +132,12 @@
         <translation>与服务器的连接已断开。请检查网络连接，然后重试。</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified.</source>
-        <translation>无法验证服务器的 SSL 证书。</translation>
+        <source>The certificate of the server could not be verified.</source>
+        <translation type="unfinished">无法验证服务器的 SSL 证书。</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
-        <translation>使用黑白托盘图标</translation>
+        <source>Use a black-and-white tray icon</source>
+        <translation type="unfinished">使用黑白托盘图标</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -152,20 +152,20 @@
         <translation>同步任务</translation>
     </message>
     <message>
-        <source>Blocked files</source>
-        <translation>排除的文件</translation>
+        <source>Excluded files</source>
+        <translation type="unfinished">排除的文件</translation>
     </message>
     <message>
         <source>No permission</source>
         <translation>没有权限</translation>
     </message>
     <message>
-        <source>The server is too old for this client. Ask the server administrator to upgrade it.</source>
-        <translation>服务器版本过旧，与此客户端不兼容。请联系服务器管理员升级服务器。</translation>
+        <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
+        <translation type="unfinished">服务器版本过旧，与此客户端不兼容。请联系服务器管理员升级服务器。</translation>
     </message>
     <message>
-        <source>To try again, run setup again later. Click Finish to exit the Setup Wizard.</source>
-        <translation>要重试，请稍后再次运行安装程序。单击“完成”退出安装向导。</translation>
+        <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
+        <translation type="unfinished">要重试，请稍后再次运行安装程序。单击“完成”退出安装向导。</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -180,8 +180,8 @@
         <translation>单击“修复”以修复 [ProductName] 的安装。单击“上一步”检查您的选择，或单击“取消”退出安装向导。</translation>
     </message>
     <message>
-        <source>Some settings have not been saved. Do you want to save them?</source>
-        <translation>部分设置尚未保存。要保存吗？</translation>
+        <source>Some settings have not been saved. Save them?</source>
+        <translation type="unfinished">部分设置尚未保存。要保存吗？</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -192,8 +192,8 @@
         <translation>操作</translation>
     </message>
     <message>
-        <source>This folder is already used by another sync program. Choose a different folder to avoid conflicts.</source>
-        <translation>此文件夹已被其他同步程序使用。请选择其他文件夹以避免冲突。</translation>
+        <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
+        <translation type="unfinished">此文件夹已被其他同步程序使用。请选择其他文件夹以避免冲突。</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -204,16 +204,16 @@
         <translation>版本不兼容</translation>
     </message>
     <message>
-        <source>Change the sync folder</source>
-        <translation>更改同步文件夹</translation>
+        <source>Change sync folder</source>
+        <translation type="unfinished">更改同步文件夹</translation>
     </message>
     <message>
-        <source>Enter a complete file name without a folder path.</source>
-        <translation>请输入完整的文件名，不要包含文件夹路径。</translation>
+        <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
+        <translation type="unfinished">请输入完整的文件名，不要包含文件夹路径。</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]An error stopped setup, and its changes were undone.</source>
-        <translation>[DlgTitleFont]安装程序因出错而停止，所做的更改已撤销。</translation>
+        <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
+        <translation type="unfinished">[DlgTitleFont]安装程序因出错而停止，所做的更改已撤销。</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -240,8 +240,8 @@
         <translation>名称</translation>
     </message>
     <message>
-        <source>Encrypt data transfer with SSL</source>
-        <translation>使用 SSL 加密数据传输</translation>
+        <source>Use an encrypted connection (TLS)</source>
+        <translation type="unfinished">使用 SSL 加密数据传输</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -276,8 +276,8 @@
         <translation>此文件尚无历史版本。修改文件并等待同步完成后，即会生成历史版本。</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>取消关联</translation>
+        <source>Disconnect</source>
+        <translation type="unfinished">取消关联</translation>
     </message>
     <message>
         <source>Back</source>
@@ -316,8 +316,8 @@
         <translation>正在应用设置…</translation>
     </message>
     <message>
-        <source>Files that are not synced</source>
-        <translation>不同步的文件</translation>
+        <source>Files excluded from syncing</source>
+        <translation type="unfinished">不同步的文件</translation>
     </message>
     <message>
         <source>Created</source>
@@ -332,8 +332,8 @@
         <translation>互联网</translation>
     </message>
     <message>
-        <source>Choose the shared folders to sync</source>
-        <translation>选择要同步的共享文件夹</translation>
+        <source>Choose shared folders to sync</source>
+        <translation type="unfinished">选择要同步的共享文件夹</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -360,8 +360,8 @@
         <translation>通过恢复缺失或损坏的文件和快捷方式，修复 [ProductName] 安装中的错误。</translation>
     </message>
     <message>
-        <source>Blocked file extensions</source>
-        <translation>排除的文件扩展名</translation>
+        <source>Excluded file extensions</source>
+        <translation type="unfinished">排除的文件扩展名</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -376,16 +376,16 @@
         <translation>密码</translation>
     </message>
     <message>
-        <source>The volume that holds the sync folder is not mounted. Mount the volume, then resume syncing.</source>
-        <translation>同步文件夹所在的卷未挂载。请挂载该卷，然后恢复同步。</translation>
+        <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
+        <translation type="unfinished">同步文件夹所在的卷未挂载。请挂载该卷，然后恢复同步。</translation>
     </message>
     <message>
         <source>Edit</source>
         <translation>编辑</translation>
     </message>
     <message>
-        <source>This computer has no free disk space.</source>
-        <translation>此计算机没有可用磁盘空间。</translation>
+        <source>The drive that holds the sync folder is full.</source>
+        <translation type="unfinished">此计算机没有可用磁盘空间。</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -400,8 +400,8 @@
         <translation>忽略(&amp;I)</translation>
     </message>
     <message>
-        <source>A folder with this name already exists. Do you want to merge its files with those on the server?</source>
-        <translation>已存在同名文件夹。要将其中的文件与服务器上的文件合并吗？</translation>
+        <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
+        <translation type="unfinished">已存在同名文件夹。要将其中的文件与服务器上的文件合并吗？</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
@@ -448,12 +448,12 @@
         <translation>完成</translation>
     </message>
     <message>
-        <source>Syncing %1 files...</source>
-        <translation>正在同步 %1 个文件…</translation>
+        <source>Files being synced: %1</source>
+        <translation type="unfinished">正在同步 %1 个文件…</translation>
     </message>
     <message>
-        <source>Link again</source>
-        <translation>重新关联</translation>
+        <source>Reconnect</source>
+        <translation type="unfinished">重新关联</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -472,8 +472,8 @@
         <translation>系统默认</translation>
     </message>
     <message>
-        <source>The folders and files you cleared will be removed from this computer. They will be kept on the server.</source>
-        <translation>您取消勾选的文件夹和文件将从此计算机中移除，但会保留在服务器上。</translation>
+        <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
+        <translation type="unfinished">您取消勾选的文件夹和文件将从此计算机中移除，但会保留在服务器上。</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
@@ -488,28 +488,28 @@
         <translation>空间不足</translation>
     </message>
     <message>
-        <source>Inactive</source>
-        <translation>非活动</translation>
+        <source>Disconnected</source>
+        <translation type="unfinished">非活动</translation>
     </message>
     <message>
-        <source>Your quota on the server is full.</source>
-        <translation>您在服务器上的配额已用尽。</translation>
+        <source>You have used all of your space on the server.</source>
+        <translation type="unfinished">您在服务器上的配额已用尽。</translation>
     </message>
     <message>
-        <source>Unlink this connection?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>要取消关联此连接吗？\n您的文件将保留在此计算机和服务器上，但不再同步。</translation>
+        <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">要取消关联此连接吗？\n您的文件将保留在此计算机和服务器上，但不再同步。</translation>
     </message>
     <message>
-        <source>The relay service has a problem. Try again later, or connect with the IP address of the server.</source>
-        <translation>中继服务出现问题。请稍后重试，或使用服务器的 IP 地址连接。</translation>
+        <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
+        <translation type="unfinished">中继服务出现问题。请稍后重试，或使用服务器的 IP 地址连接。</translation>
     </message>
     <message>
         <source>Server ID</source>
         <translation>服务器 ID</translation>
     </message>
     <message>
-        <source>Blocked file names</source>
-        <translation>排除的文件名</translation>
+        <source>Excluded file names</source>
+        <translation type="unfinished">排除的文件名</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -520,20 +520,20 @@
         <translation>继续</translation>
     </message>
     <message>
-        <source>Enabled</source>
-        <translation>已启用</translation>
+        <source>Turned on</source>
+        <translation type="unfinished">已启用</translation>
     </message>
     <message>
-        <source>This computer has no free disk space. Free some space to continue syncing.</source>
-        <translation>此计算机没有可用磁盘空间。请释放部分空间以继续同步。</translation>
+        <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
+        <translation type="unfinished">此计算机没有可用磁盘空间。请释放部分空间以继续同步。</translation>
     </message>
     <message>
         <source>Folders to sync</source>
         <translation>要同步的文件夹</translation>
     </message>
     <message>
-        <source>Choose a sync folder</source>
-        <translation>选择同步文件夹</translation>
+        <source>Choose sync folder</source>
+        <translation type="unfinished">选择同步文件夹</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -548,8 +548,8 @@
         <translation>计算机</translation>
     </message>
     <message>
-        <source>Your quota on the server is full. Delete files you do not need, or ask the server administrator for a larger quota.</source>
-        <translation>您在服务器上的配额已用尽。请删除不需要的文件，或联系服务器管理员增加配额。</translation>
+        <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
+        <translation type="unfinished">您在服务器上的配额已用尽。请删除不需要的文件，或联系服务器管理员增加配额。</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
@@ -564,12 +564,12 @@
         <translation>使用以下代理服务器</translation>
     </message>
     <message>
-        <source>This file was changed in two places. Compare both copies, then keep the one you need.</source>
-        <translation>此文件在两处被修改。请比较两个副本，然后保留需要的副本。</translation>
+        <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
+        <translation type="unfinished">此文件在两处被修改。请比较两个副本，然后保留需要的副本。</translation>
     </message>
     <message>
-        <source>One place for your files on every computer, through a server of your own</source>
-        <translation>通过您自己的服务器，让所有计算机上的文件汇集一处</translation>
+        <source>All your files on every computer, kept on your own server</source>
+        <translation type="unfinished">通过您自己的服务器，让所有计算机上的文件汇集一处</translation>
     </message>
     <message>
         <source>OK</source>
@@ -580,8 +580,8 @@
         <translation>显示桌面通知</translation>
     </message>
     <message>
-        <source>The following applications use files that setup needs to update. Close them and click Retry, click Ignore to continue without closing them, or click Exit to leave setup.</source>
-        <translation>以下应用程序正在使用安装程序需要更新的文件。请关闭这些应用程序并单击“重试”；或单击“忽略”，不关闭它们而继续；或单击“退出”以退出安装程序。</translation>
+        <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
+        <translation type="unfinished">以下应用程序正在使用安装程序需要更新的文件。请关闭这些应用程序并单击“重试”；或单击“忽略”，不关闭它们而继续；或单击“退出”以退出安装程序。</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -596,12 +596,12 @@
         <translation>与此列表中任一条目匹配的文件不会同步。</translation>
     </message>
     <message>
-        <source>Edit connection</source>
-        <translation>编辑连接</translation>
+        <source>Edit connection...</source>
+        <translation type="unfinished">编辑连接</translation>
     </message>
     <message>
-        <source>Options</source>
-        <translation>选项</translation>
+        <source>Settings</source>
+        <translation>设置</translation>
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
@@ -624,36 +624,32 @@
         <translation>暂停</translation>
     </message>
     <message>
-        <source>Show icon overlays on filtered files</source>
-        <translation>在已过滤的文件上显示叠加图标</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>设置</translation>
+        <source>Show icon overlays on excluded files</source>
+        <translation type="unfinished">在已过滤的文件上显示叠加图标</translation>
     </message>
     <message>
         <source>Loading...</source>
         <translation>正在加载…</translation>
     </message>
     <message>
-        <source>You can sync at most %1 shared folders. Stop syncing one of them before you add another.</source>
-        <translation>最多可以同步 %1 个共享文件夹。请先停止同步其中一个，然后再添加其他文件夹。</translation>
+        <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
+        <translation type="unfinished">最多可以同步 %1 个共享文件夹。请先停止同步其中一个，然后再添加其他文件夹。</translation>
     </message>
     <message>
-        <source>Unlink this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>要取消关联此同步任务吗？\n其文件将保留在此计算机和服务器上，但不再同步。</translation>
+        <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">要取消关联此同步任务吗？\n其文件将保留在此计算机和服务器上，但不再同步。</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
         <translation>正在启动 Quillmere…</translation>
     </message>
     <message>
-        <source>Quillmere could not be upgraded. Restart the computer, then try again.</source>
-        <translation>无法升级 Quillmere。请重新启动计算机，然后重试。</translation>
+        <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">无法升级 Quillmere。请重新启动计算机，然后重试。</translation>
     </message>
     <message>
-        <source>Block names that begin with a dot</source>
-        <translation>排除以点开头的名称</translation>
+        <source>Exclude names that begin with a dot</source>
+        <translation type="unfinished">排除以点开头的名称</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -676,8 +672,8 @@
         <translation>已连接到服务器。</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}The [ProductName] Setup Wizard is complete</source>
-        <translation>{\VerdanaBold13}[ProductName] 安装向导已完成</translation>
+        <source>{\VerdanaBold13}[ProductName] setup is complete</source>
+        <translation type="unfinished">{\VerdanaBold13}[ProductName] 安装向导已完成</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -712,20 +708,20 @@
         <translation>共享文件夹</translation>
     </message>
     <message>
-        <source>Client options</source>
-        <translation>客户端选项</translation>
+        <source>Quillmere settings</source>
+        <translation type="unfinished">客户端选项</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
         <translation>无法删除此分享链接。请检查与服务器的连接，然后重试。</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified. Ask the server administrator to check the certificate.</source>
-        <translation>无法验证服务器的 SSL 证书。请联系服务器管理员检查证书。</translation>
+        <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
+        <translation type="unfinished">无法验证服务器的 SSL 证书。请联系服务器管理员检查证书。</translation>
     </message>
     <message>
-        <source>This is not the server the connection was linked to. Check the server address, or link again.</source>
-        <translation>此服务器不是该连接所关联的服务器。请检查服务器地址，或重新关联。</translation>
+        <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
+        <translation type="unfinished">此服务器不是该连接所关联的服务器。请检查服务器地址，或重新关联。</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -764,16 +760,16 @@
         <translation>管理连接</translation>
     </message>
     <message>
-        <source>Link to another server</source>
-        <translation>关联其他服务器</translation>
+        <source>Connect to another server...</source>
+        <translation type="unfinished">关联其他服务器</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
         <translation>显示叠加图标</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]Setting up [ProductName]</source>
-        <translation>[DlgTitleFont]正在配置 [ProductName]</translation>
+        <source>[DlgTitleFont]Making changes to [ProductName]</source>
+        <translation type="unfinished">[DlgTitleFont]正在配置 [ProductName]</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -792,8 +788,8 @@
         <translation>安装(&amp;I)</translation>
     </message>
     <message>
-        <source>File filter</source>
-        <translation>文件过滤</translation>
+        <source>Files to exclude</source>
+        <translation type="unfinished">文件过滤</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -804,8 +800,8 @@
         <translation>我不接受许可协议中的条款(&amp;D)</translation>
     </message>
     <message>
-        <source>Something went wrong. Try again, and contact the server administrator if the problem continues.</source>
-        <translation>出现错误。请重试；如果问题仍然存在，请联系服务器管理员。</translation>
+        <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">出现错误。请重试；如果问题仍然存在，请联系服务器管理员。</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -828,8 +824,8 @@
         <translation>代理设置</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator, so Quillmere might not install completely. Do you want to continue?</source>
-        <translation>您未以管理员身份登录，Quillmere 可能无法完整安装。要继续吗？</translation>
+        <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
+        <translation type="unfinished">您未以管理员身份登录，Quillmere 可能无法完整安装。要继续吗？</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
@@ -876,8 +872,8 @@
         <translation>文件夹是挂载点</translation>
     </message>
     <message>
-        <source>Choose another folder</source>
-        <translation>选择其他文件夹</translation>
+        <source>Choose another folder...</source>
+        <translation type="unfinished">选择其他文件夹</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -900,12 +896,16 @@
         <translation>请输入服务器地址和您在服务器上使用的账户。</translation>
     </message>
     <message>
-        <source>A different server was found at the server address.</source>
-        <translation>服务器地址指向了另一台服务器。</translation>
+        <source>Remove</source>
+        <translation type="unfinished">取消关联</translation>
     </message>
     <message>
-        <source>Linking to the server...</source>
-        <translation>正在与服务器关联…</translation>
+        <source>Another server was found at the server address.</source>
+        <translation type="unfinished">服务器地址指向了另一台服务器。</translation>
+    </message>
+    <message>
+        <source>Connecting to the server...</source>
+        <translation type="unfinished">正在与服务器关联…</translation>
     </message>
     <message>
         <source>Port</source>
@@ -928,8 +928,8 @@
         <translation>使用系统代理设置</translation>
     </message>
     <message>
-        <source>Change folder</source>
-        <translation>更改文件夹</translation>
+        <source>Change folder...</source>
+        <translation type="unfinished">更改文件夹</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -944,8 +944,8 @@
         <translation>正在下载…</translation>
     </message>
     <message>
-        <source>The file is locked</source>
-        <translation>文件已锁定</translation>
+        <source>File locked</source>
+        <translation type="unfinished">文件已锁定</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -956,8 +956,8 @@
         <translation>正在准备…</translation>
     </message>
     <message>
-        <source>Updating files...</source>
-        <translation>正在更新文件…</translation>
+        <source>Syncing files...</source>
+        <translation type="unfinished">正在更新文件…</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -968,8 +968,8 @@
         <translation>正在验证用户名和密码…</translation>
     </message>
     <message>
-        <source>Wait while the Setup Wizard sets up [ProductName]. This can take several minutes.</source>
-        <translation>安装向导正在配置 [ProductName]，请稍候。这可能需要几分钟时间。</translation>
+        <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
+        <translation type="unfinished">安装向导正在配置 [ProductName]，请稍候。这可能需要几分钟时间。</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1020,24 +1020,24 @@
         <translation>分享链接已复制到剪贴板。</translation>
     </message>
     <message>
-        <source>The local sync folder was not found. Restore the folder or choose a different one.</source>
-        <translation>找不到本地同步文件夹。请恢复该文件夹，或选择其他文件夹。</translation>
+        <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
+        <translation type="unfinished">找不到本地同步文件夹。请恢复该文件夹，或选择其他文件夹。</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
         <translation>升级 Quillmere</translation>
     </message>
     <message>
-        <source>Add sync task</source>
-        <translation>添加同步任务</translation>
+        <source>Add sync task...</source>
+        <translation type="unfinished">添加同步任务</translation>
     </message>
     <message>
-        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it.</source>
-        <translation>共享文件夹未在服务器上挂载。请联系服务器管理员挂载该文件夹。</translation>
+        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
+        <translation type="unfinished">共享文件夹未在服务器上挂载。请联系服务器管理员挂载该文件夹。</translation>
     </message>
     <message>
-        <source>The server sent an unexpected response. Upgrade the client and the server, then try again.</source>
-        <translation>服务器返回了意外的响应。请升级客户端和服务器，然后重试。</translation>
+        <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">服务器返回了意外的响应。请升级客户端和服务器，然后重试。</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1052,8 +1052,8 @@
         <translation>请输入不超过 %1 MB 的大小。</translation>
     </message>
     <message>
-        <source>Checking the data...</source>
-        <translation>正在检查数据…</translation>
+        <source>Checking files...</source>
+        <translation type="unfinished">正在检查数据…</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
@@ -1064,8 +1064,8 @@
         <translation>单击“安装”开始安装 [ProductName]。单击“上一步”检查您的选择，或单击“取消”退出安装向导。</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}[ProductName] setup was interrupted</source>
-        <translation>{\VerdanaBold13}[ProductName] 安装程序被中断</translation>
+        <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
+        <translation type="unfinished">{\VerdanaBold13}[ProductName] 安装程序被中断</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1092,8 +1092,8 @@
         <translation>网络设置</translation>
     </message>
     <message>
-        <source>This folder is already synced with another shared folder. Choose a different folder.</source>
-        <translation>此文件夹已与另一个共享文件夹同步。请选择其他文件夹。</translation>
+        <source>This folder is already synced with another shared folder. Choose another folder.</source>
+        <translation type="unfinished">此文件夹已与另一个共享文件夹同步。请选择其他文件夹。</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1132,24 +1132,24 @@
         <translation>登录此计算机时启动 Quillmere</translation>
     </message>
     <message>
-        <source>All files from both folders are kept. If two versions of a file differ, you get both.</source>
-        <translation>两个文件夹中的所有文件都会保留。如果同一文件的两个版本不同，则两个版本都会保留。</translation>
+        <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
+        <translation type="unfinished">两个文件夹中的所有文件都会保留。如果同一文件的两个版本不同，则两个版本都会保留。</translation>
     </message>
     <message>
         <source>Repair the installation</source>
         <translation>修复安装</translation>
     </message>
     <message>
-        <source>Sync enabled</source>
-        <translation>已启用同步</translation>
+        <source>Syncing turned on</source>
+        <translation type="unfinished">已启用同步</translation>
     </message>
     <message>
-        <source>Quillmere could not start. Restart the computer, then start Quillmere again.</source>
-        <translation>Quillmere 无法启动。请重新启动计算机，然后再次启动 Quillmere。</translation>
+        <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Quillmere 无法启动。请重新启动计算机，然后再次启动 Quillmere。</translation>
     </message>
     <message>
-        <source>Do you want to cancel the setup of [ProductName]?</source>
-        <translation>要取消并退出 [ProductName] 安装程序吗？</translation>
+        <source>Cancel the setup of [ProductName]?</source>
+        <translation type="unfinished">要取消并退出 [ProductName] 安装程序吗？</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1172,28 +1172,28 @@
         <translation>高级设置</translation>
     </message>
     <message>
-        <source>Browse versions</source>
-        <translation>浏览历史版本</translation>
+        <source>Browse versions...</source>
+        <translation type="unfinished">浏览历史版本</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
         <translation>[DlgTitleFont]更改(&amp;C)</translation>
     </message>
     <message>
-        <source>This connection is inactive. Link it again to continue syncing.</source>
-        <translation>此连接处于非活动状态。请重新关联以继续同步。</translation>
+        <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
+        <translation type="unfinished">此连接处于非活动状态。请重新关联以继续同步。</translation>
     </message>
     <message>
         <source>Detecting...</source>
         <translation>正在检测…</translation>
     </message>
     <message>
-        <source>SSL warning</source>
-        <translation>SSL 警告</translation>
+        <source>Certificate warning</source>
+        <translation type="unfinished">SSL 警告</translation>
     </message>
     <message>
-        <source>The relay service cannot be reached. Check your Internet connection, then try again.</source>
-        <translation>无法连接到中继服务。请检查互联网连接，然后重试。</translation>
+        <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
+        <translation type="unfinished">无法连接到中继服务。请检查互联网连接，然后重试。</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
@@ -1232,24 +1232,24 @@
         <translation>直接连接</translation>
     </message>
     <message>
-        <source>The server volume that holds this folder is not mounted. Ask the server administrator to mount it.</source>
-        <translation>此文件夹所在的服务器卷未挂载。请联系服务器管理员挂载该卷。</translation>
+        <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
+        <translation type="unfinished">此文件夹所在的服务器卷未挂载。请联系服务器管理员挂载该卷。</translation>
     </message>
     <message>
-        <source>This version of Quillmere is already installed. Do you want to install it again?</source>
-        <translation>此版本的 Quillmere 已安装。要重新安装吗？</translation>
+        <source>This version of Quillmere is already installed. Install it again?</source>
+        <translation type="unfinished">此版本的 Quillmere 已安装。要重新安装吗？</translation>
     </message>
     <message>
-        <source>This client is too old for the server. Upgrade the client, then try again.</source>
-        <translation>此客户端版本过旧，与服务器不兼容。请升级客户端，然后重试。</translation>
+        <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
+        <translation type="unfinished">此客户端版本过旧，与服务器不兼容。请升级客户端，然后重试。</translation>
     </message>
     <message>
-        <source>The server is too old for this client.</source>
-        <translation>服务器版本过旧，与此客户端不兼容。</translation>
+        <source>Quillmere on the server is too old to work with this computer.</source>
+        <translation type="unfinished">服务器版本过旧，与此客户端不兼容。</translation>
     </message>
     <message>
-        <source>Disabled</source>
-        <translation>已禁用</translation>
+        <source>Turned off</source>
+        <translation type="unfinished">已禁用</translation>
     </message>
 </context>
 </TS>

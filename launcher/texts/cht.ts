@@ -40,8 +40,8 @@
         <translation>連線模式</translation>
     </message>
     <message>
-        <source>The local database is damaged. Unlink the connection, then link it again to rebuild the database.</source>
-        <translation>本機資料庫已損毀。請取消連結此連線，然後重新連結以重建資料庫。</translation>
+        <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">本機資料庫已損毀。請取消連結此連線，然後重新連結以重建資料庫。</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
@@ -56,8 +56,8 @@
         <translation>[DlgTitleFont]已準備好移除 [ProductName]</translation>
     </message>
     <message>
-        <source>The server has been replaced. Click here to link again.</source>
-        <translation>伺服器已更換。按一下這裡重新連結。</translation>
+        <source>The server has been replaced. Click here to reconnect.</source>
+        <translation type="unfinished">伺服器已更換。按一下這裡重新連結。</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -68,16 +68,16 @@
         <translation>安裝精靈可讓您變更、修復或移除 [ProductName]。按一下「下一步」繼續，或按一下「取消」結束安裝精靈。</translation>
     </message>
     <message>
-        <source>Block list</source>
-        <translation>排除清單</translation>
+        <source>Exclusion list</source>
+        <translation type="unfinished">排除清單</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
         <translation>要刪除此分享連結嗎？\n擁有此連結的人將無法再開啟該檔案。</translation>
     </message>
     <message>
-        <source>This client is too old for the server.</source>
-        <translation>此用戶端版本過舊，無法搭配伺服器使用。</translation>
+        <source>Quillmere on this computer is too old to work with the server.</source>
+        <translation type="unfinished">此用戶端版本過舊，無法搭配伺服器使用。</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
@@ -96,16 +96,16 @@
         <translation>正在測試連線…</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server is not trusted, so others may be able to read the data you send. Do you want to continue?</source>
-        <translation>伺服器的 SSL 憑證不受信任，因此其他人可能得以讀取您傳送的資料。要繼續嗎？</translation>
+        <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
+        <translation type="unfinished">伺服器的 SSL 憑證不受信任，因此其他人可能得以讀取您傳送的資料。要繼續嗎？</translation>
     </message>
     <message>
         <source>New shared folder</source>
         <translation>新的共用資料夾</translation>
     </message>
     <message>
-        <source>About</source>
-        <translation>關於</translation>
+        <source>About Quillmere</source>
+        <translation type="unfinished">關於</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
@@ -120,8 +120,8 @@
         <translation>安裝精靈已準備好開始移除。</translation>
     </message>
     <message>
-        <source>This computer is already linked to this server. Edit the existing connection or enter a different server.</source>
-        <translation>這台電腦已連結到此伺服器。請編輯現有連線，或輸入其他伺服器。</translation>
+        <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
+        <translation type="unfinished">這台電腦已連結到此伺服器。請編輯現有連線，或輸入其他伺服器。</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -132,12 +132,12 @@
         <translation>與伺服器的連線已中斷。請檢查網路連線，然後再試一次。</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified.</source>
-        <translation>無法驗證伺服器的 SSL 憑證。</translation>
+        <source>The certificate of the server could not be verified.</source>
+        <translation type="unfinished">無法驗證伺服器的 SSL 憑證。</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
-        <translation>使用黑白系統匣圖示</translation>
+        <source>Use a black-and-white tray icon</source>
+        <translation type="unfinished">使用黑白系統匣圖示</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -152,20 +152,20 @@
         <translation>同步工作</translation>
     </message>
     <message>
-        <source>Blocked files</source>
-        <translation>排除的檔案</translation>
+        <source>Excluded files</source>
+        <translation type="unfinished">排除的檔案</translation>
     </message>
     <message>
         <source>No permission</source>
         <translation>沒有權限</translation>
     </message>
     <message>
-        <source>The server is too old for this client. Ask the server administrator to upgrade it.</source>
-        <translation>伺服器版本過舊，無法搭配此用戶端使用。請聯絡伺服器管理員升級伺服器。</translation>
+        <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
+        <translation type="unfinished">伺服器版本過舊，無法搭配此用戶端使用。請聯絡伺服器管理員升級伺服器。</translation>
     </message>
     <message>
-        <source>To try again, run setup again later. Click Finish to exit the Setup Wizard.</source>
-        <translation>若要重試，請稍後再次執行安裝程式。按一下「完成」結束安裝精靈。</translation>
+        <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
+        <translation type="unfinished">若要重試，請稍後再次執行安裝程式。按一下「完成」結束安裝精靈。</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -180,8 +180,8 @@
         <translation>按一下「修復」來修復 [ProductName] 的安裝。按一下「上一步」檢視您的選擇，或按一下「取消」結束安裝精靈。</translation>
     </message>
     <message>
-        <source>Some settings have not been saved. Do you want to save them?</source>
-        <translation>部分設定尚未儲存。要儲存嗎？</translation>
+        <source>Some settings have not been saved. Save them?</source>
+        <translation type="unfinished">部分設定尚未儲存。要儲存嗎？</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -192,8 +192,8 @@
         <translation>動作</translation>
     </message>
     <message>
-        <source>This folder is already used by another sync program. Choose a different folder to avoid conflicts.</source>
-        <translation>此資料夾已由其他同步程式使用。請選擇其他資料夾以避免衝突。</translation>
+        <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
+        <translation type="unfinished">此資料夾已由其他同步程式使用。請選擇其他資料夾以避免衝突。</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -204,16 +204,16 @@
         <translation>版本不相容</translation>
     </message>
     <message>
-        <source>Change the sync folder</source>
-        <translation>變更同步資料夾</translation>
+        <source>Change sync folder</source>
+        <translation type="unfinished">變更同步資料夾</translation>
     </message>
     <message>
-        <source>Enter a complete file name without a folder path.</source>
-        <translation>請輸入完整的檔案名稱，不含資料夾路徑。</translation>
+        <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
+        <translation type="unfinished">請輸入完整的檔案名稱，不含資料夾路徑。</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]An error stopped setup, and its changes were undone.</source>
-        <translation>[DlgTitleFont]安裝程式因發生錯誤而停止，所做的變更已復原。</translation>
+        <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
+        <translation type="unfinished">[DlgTitleFont]安裝程式因發生錯誤而停止，所做的變更已復原。</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -240,8 +240,8 @@
         <translation>名稱</translation>
     </message>
     <message>
-        <source>Encrypt data transfer with SSL</source>
-        <translation>使用 SSL 加密資料傳輸</translation>
+        <source>Use an encrypted connection (TLS)</source>
+        <translation type="unfinished">使用 SSL 加密資料傳輸</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -276,8 +276,8 @@
         <translation>此檔案尚無先前版本。修改檔案並完成同步後，就會產生先前版本。</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>取消連結</translation>
+        <source>Disconnect</source>
+        <translation type="unfinished">取消連結</translation>
     </message>
     <message>
         <source>Back</source>
@@ -316,8 +316,8 @@
         <translation>正在套用設定…</translation>
     </message>
     <message>
-        <source>Files that are not synced</source>
-        <translation>不同步的檔案</translation>
+        <source>Files excluded from syncing</source>
+        <translation type="unfinished">不同步的檔案</translation>
     </message>
     <message>
         <source>Created</source>
@@ -332,8 +332,8 @@
         <translation>網際網路</translation>
     </message>
     <message>
-        <source>Choose the shared folders to sync</source>
-        <translation>選擇要同步的共用資料夾</translation>
+        <source>Choose shared folders to sync</source>
+        <translation type="unfinished">選擇要同步的共用資料夾</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -360,8 +360,8 @@
         <translation>還原遺失或損毀的檔案和捷徑，以修復 [ProductName] 安裝中的錯誤。</translation>
     </message>
     <message>
-        <source>Blocked file extensions</source>
-        <translation>排除的副檔名</translation>
+        <source>Excluded file extensions</source>
+        <translation type="unfinished">排除的副檔名</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -376,16 +376,16 @@
         <translation>密碼</translation>
     </message>
     <message>
-        <source>The volume that holds the sync folder is not mounted. Mount the volume, then resume syncing.</source>
-        <translation>同步資料夾所在的磁碟區未掛載。請掛載該磁碟區，然後繼續同步。</translation>
+        <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
+        <translation type="unfinished">同步資料夾所在的磁碟區未掛載。請掛載該磁碟區，然後繼續同步。</translation>
     </message>
     <message>
         <source>Edit</source>
         <translation>編輯</translation>
     </message>
     <message>
-        <source>This computer has no free disk space.</source>
-        <translation>這台電腦已沒有可用的磁碟空間。</translation>
+        <source>The drive that holds the sync folder is full.</source>
+        <translation type="unfinished">這台電腦已沒有可用的磁碟空間。</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -400,8 +400,8 @@
         <translation>略過(&amp;I)</translation>
     </message>
     <message>
-        <source>A folder with this name already exists. Do you want to merge its files with those on the server?</source>
-        <translation>已有同名的資料夾。要將其中的檔案與伺服器上的檔案合併嗎？</translation>
+        <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
+        <translation type="unfinished">已有同名的資料夾。要將其中的檔案與伺服器上的檔案合併嗎？</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
@@ -448,12 +448,12 @@
         <translation>完成</translation>
     </message>
     <message>
-        <source>Syncing %1 files...</source>
-        <translation>正在同步 %1 個檔案…</translation>
+        <source>Files being synced: %1</source>
+        <translation type="unfinished">正在同步 %1 個檔案…</translation>
     </message>
     <message>
-        <source>Link again</source>
-        <translation>重新連結</translation>
+        <source>Reconnect</source>
+        <translation type="unfinished">重新連結</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -472,8 +472,8 @@
         <translation>系統預設</translation>
     </message>
     <message>
-        <source>The folders and files you cleared will be removed from this computer. They will be kept on the server.</source>
-        <translation>您取消勾選的資料夾和檔案將從這台電腦移除，但會保留在伺服器上。</translation>
+        <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
+        <translation type="unfinished">您取消勾選的資料夾和檔案將從這台電腦移除，但會保留在伺服器上。</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
@@ -488,28 +488,28 @@
         <translation>空間不足</translation>
     </message>
     <message>
-        <source>Inactive</source>
-        <translation>非作用中</translation>
+        <source>Disconnected</source>
+        <translation type="unfinished">非作用中</translation>
     </message>
     <message>
-        <source>Your quota on the server is full.</source>
-        <translation>您在伺服器上的配額已用完。</translation>
+        <source>You have used all of your space on the server.</source>
+        <translation type="unfinished">您在伺服器上的配額已用完。</translation>
     </message>
     <message>
-        <source>Unlink this connection?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>要取消連結此連線嗎？\n您的檔案會保留在這台電腦和伺服器上，但不會再同步。</translation>
+        <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">要取消連結此連線嗎？\n您的檔案會保留在這台電腦和伺服器上，但不會再同步。</translation>
     </message>
     <message>
-        <source>The relay service has a problem. Try again later, or connect with the IP address of the server.</source>
-        <translation>中繼服務發生問題。請稍後再試，或改用伺服器的 IP 位址連線。</translation>
+        <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
+        <translation type="unfinished">中繼服務發生問題。請稍後再試，或改用伺服器的 IP 位址連線。</translation>
     </message>
     <message>
         <source>Server ID</source>
         <translation>伺服器 ID</translation>
     </message>
     <message>
-        <source>Blocked file names</source>
-        <translation>排除的檔案名稱</translation>
+        <source>Excluded file names</source>
+        <translation type="unfinished">排除的檔案名稱</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -520,20 +520,20 @@
         <translation>繼續</translation>
     </message>
     <message>
-        <source>Enabled</source>
-        <translation>已啟用</translation>
+        <source>Turned on</source>
+        <translation type="unfinished">已啟用</translation>
     </message>
     <message>
-        <source>This computer has no free disk space. Free some space to continue syncing.</source>
-        <translation>這台電腦已沒有可用的磁碟空間。請釋出一些空間以繼續同步。</translation>
+        <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
+        <translation type="unfinished">這台電腦已沒有可用的磁碟空間。請釋出一些空間以繼續同步。</translation>
     </message>
     <message>
         <source>Folders to sync</source>
         <translation>要同步的資料夾</translation>
     </message>
     <message>
-        <source>Choose a sync folder</source>
-        <translation>選擇同步資料夾</translation>
+        <source>Choose sync folder</source>
+        <translation type="unfinished">選擇同步資料夾</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -548,8 +548,8 @@
         <translation>電腦</translation>
     </message>
     <message>
-        <source>Your quota on the server is full. Delete files you do not need, or ask the server administrator for a larger quota.</source>
-        <translation>您在伺服器上的配額已用完。請刪除不需要的檔案，或請伺服器管理員提高配額。</translation>
+        <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
+        <translation type="unfinished">您在伺服器上的配額已用完。請刪除不需要的檔案，或請伺服器管理員提高配額。</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
@@ -564,12 +564,12 @@
         <translation>使用下列代理伺服器</translation>
     </message>
     <message>
-        <source>This file was changed in two places. Compare both copies, then keep the one you need.</source>
-        <translation>此檔案在兩個地方都有修改。請比較兩份複本，然後保留您需要的那一份。</translation>
+        <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
+        <translation type="unfinished">此檔案在兩個地方都有修改。請比較兩份複本，然後保留您需要的那一份。</translation>
     </message>
     <message>
-        <source>One place for your files on every computer, through a server of your own</source>
-        <translation>透過您自己的伺服器，讓每台電腦上的檔案匯集一處</translation>
+        <source>All your files on every computer, kept on your own server</source>
+        <translation type="unfinished">透過您自己的伺服器，讓每台電腦上的檔案匯集一處</translation>
     </message>
     <message>
         <source>OK</source>
@@ -580,8 +580,8 @@
         <translation>顯示桌面通知</translation>
     </message>
     <message>
-        <source>The following applications use files that setup needs to update. Close them and click Retry, click Ignore to continue without closing them, or click Exit to leave setup.</source>
-        <translation>下列應用程式正在使用安裝程式需要更新的檔案。請關閉這些應用程式並按一下「重試」；或按一下「略過」，不關閉它們並繼續；或按一下「結束」離開安裝程式。</translation>
+        <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
+        <translation type="unfinished">下列應用程式正在使用安裝程式需要更新的檔案。請關閉這些應用程式並按一下「重試」；或按一下「略過」，不關閉它們並繼續；或按一下「結束」離開安裝程式。</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -596,12 +596,12 @@
         <translation>符合此清單中任一項目的檔案不會同步。</translation>
     </message>
     <message>
-        <source>Edit connection</source>
-        <translation>編輯連線</translation>
+        <source>Edit connection...</source>
+        <translation type="unfinished">編輯連線</translation>
     </message>
     <message>
-        <source>Options</source>
-        <translation>選項</translation>
+        <source>Settings</source>
+        <translation>設定</translation>
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
@@ -624,36 +624,32 @@
         <translation>暫停</translation>
     </message>
     <message>
-        <source>Show icon overlays on filtered files</source>
-        <translation>在已濾除的檔案上顯示覆疊圖示</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>設定</translation>
+        <source>Show icon overlays on excluded files</source>
+        <translation type="unfinished">在已濾除的檔案上顯示覆疊圖示</translation>
     </message>
     <message>
         <source>Loading...</source>
         <translation>正在載入…</translation>
     </message>
     <message>
-        <source>You can sync at most %1 shared folders. Stop syncing one of them before you add another.</source>
-        <translation>最多只能同步 %1 個共用資料夾。請先停止同步其中一個，再新增其他資料夾。</translation>
+        <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
+        <translation type="unfinished">最多只能同步 %1 個共用資料夾。請先停止同步其中一個，再新增其他資料夾。</translation>
     </message>
     <message>
-        <source>Unlink this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>要取消連結此同步工作嗎？\n其檔案會保留在這台電腦和伺服器上，但不會再同步。</translation>
+        <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">要取消連結此同步工作嗎？\n其檔案會保留在這台電腦和伺服器上，但不會再同步。</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
         <translation>正在啟動 Quillmere…</translation>
     </message>
     <message>
-        <source>Quillmere could not be upgraded. Restart the computer, then try again.</source>
-        <translation>無法升級 Quillmere。請重新開機，然後再試一次。</translation>
+        <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">無法升級 Quillmere。請重新開機，然後再試一次。</translation>
     </message>
     <message>
-        <source>Block names that begin with a dot</source>
-        <translation>排除以點開頭的名稱</translation>
+        <source>Exclude names that begin with a dot</source>
+        <translation type="unfinished">排除以點開頭的名稱</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -676,8 +672,8 @@
         <translation>已連線到伺服器。</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}The [ProductName] Setup Wizard is complete</source>
-        <translation>{\VerdanaBold13}[ProductName] 安裝精靈已完成</translation>
+        <source>{\VerdanaBold13}[ProductName] setup is complete</source>
+        <translation type="unfinished">{\VerdanaBold13}[ProductName] 安裝精靈已完成</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -712,20 +708,20 @@
         <translation>共用資料夾</translation>
     </message>
     <message>
-        <source>Client options</source>
-        <translation>用戶端選項</translation>
+        <source>Quillmere settings</source>
+        <translation type="unfinished">用戶端選項</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
         <translation>無法刪除此分享連結。請檢查與伺服器的連線，然後再試一次。</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified. Ask the server administrator to check the certificate.</source>
-        <translation>無法驗證伺服器的 SSL 憑證。請聯絡伺服器管理員檢查憑證。</translation>
+        <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
+        <translation type="unfinished">無法驗證伺服器的 SSL 憑證。請聯絡伺服器管理員檢查憑證。</translation>
     </message>
     <message>
-        <source>This is not the server the connection was linked to. Check the server address, or link again.</source>
-        <translation>這不是此連線原本連結的伺服器。請檢查伺服器位址，或重新連結。</translation>
+        <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
+        <translation type="unfinished">這不是此連線原本連結的伺服器。請檢查伺服器位址，或重新連結。</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -764,16 +760,16 @@
         <translation>管理連線</translation>
     </message>
     <message>
-        <source>Link to another server</source>
-        <translation>連結到其他伺服器</translation>
+        <source>Connect to another server...</source>
+        <translation type="unfinished">連結到其他伺服器</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
         <translation>顯示覆疊圖示</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]Setting up [ProductName]</source>
-        <translation>[DlgTitleFont]正在設定 [ProductName]</translation>
+        <source>[DlgTitleFont]Making changes to [ProductName]</source>
+        <translation type="unfinished">[DlgTitleFont]正在設定 [ProductName]</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -792,8 +788,8 @@
         <translation>安裝(&amp;I)</translation>
     </message>
     <message>
-        <source>File filter</source>
-        <translation>檔案篩選</translation>
+        <source>Files to exclude</source>
+        <translation type="unfinished">檔案篩選</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -804,8 +800,8 @@
         <translation>我不接受授權合約中的條款(&amp;D)</translation>
     </message>
     <message>
-        <source>Something went wrong. Try again, and contact the server administrator if the problem continues.</source>
-        <translation>發生錯誤。請再試一次；如果問題持續發生，請聯絡伺服器管理員。</translation>
+        <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">發生錯誤。請再試一次；如果問題持續發生，請聯絡伺服器管理員。</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -828,8 +824,8 @@
         <translation>代理伺服器設定</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator, so Quillmere might not install completely. Do you want to continue?</source>
-        <translation>您並非以系統管理員身分登入，Quillmere 可能無法完整安裝。要繼續嗎？</translation>
+        <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
+        <translation type="unfinished">您並非以系統管理員身分登入，Quillmere 可能無法完整安裝。要繼續嗎？</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
@@ -876,8 +872,8 @@
         <translation>資料夾是掛載點</translation>
     </message>
     <message>
-        <source>Choose another folder</source>
-        <translation>選擇其他資料夾</translation>
+        <source>Choose another folder...</source>
+        <translation type="unfinished">選擇其他資料夾</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -900,12 +896,16 @@
         <translation>請輸入伺服器位址，以及您在伺服器上使用的帳號。</translation>
     </message>
     <message>
-        <source>A different server was found at the server address.</source>
-        <translation>此伺服器位址上的是另一台伺服器。</translation>
+        <source>Remove</source>
+        <translation type="unfinished">取消連結</translation>
     </message>
     <message>
-        <source>Linking to the server...</source>
-        <translation>正在連結到伺服器…</translation>
+        <source>Another server was found at the server address.</source>
+        <translation type="unfinished">此伺服器位址上的是另一台伺服器。</translation>
+    </message>
+    <message>
+        <source>Connecting to the server...</source>
+        <translation type="unfinished">正在連結到伺服器…</translation>
     </message>
     <message>
         <source>Port</source>
@@ -928,8 +928,8 @@
         <translation>使用系統代理伺服器設定</translation>
     </message>
     <message>
-        <source>Change folder</source>
-        <translation>變更資料夾</translation>
+        <source>Change folder...</source>
+        <translation type="unfinished">變更資料夾</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -944,8 +944,8 @@
         <translation>正在下載…</translation>
     </message>
     <message>
-        <source>The file is locked</source>
-        <translation>檔案已鎖定</translation>
+        <source>File locked</source>
+        <translation type="unfinished">檔案已鎖定</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -956,8 +956,8 @@
         <translation>正在準備…</translation>
     </message>
     <message>
-        <source>Updating files...</source>
-        <translation>正在更新檔案…</translation>
+        <source>Syncing files...</source>
+        <translation type="unfinished">正在更新檔案…</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -968,8 +968,8 @@
         <translation>正在檢查使用者名稱和密碼…</translation>
     </message>
     <message>
-        <source>Wait while the Setup Wizard sets up [ProductName]. This can take several minutes.</source>
-        <translation>安裝精靈正在設定 [ProductName]，請稍候。這可能需要幾分鐘的時間。</translation>
+        <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
+        <translation type="unfinished">安裝精靈正在設定 [ProductName]，請稍候。這可能需要幾分鐘的時間。</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1020,24 +1020,24 @@
         <translation>分享連結已複製到剪貼簿。</translation>
     </message>
     <message>
-        <source>The local sync folder was not found. Restore the folder or choose a different one.</source>
-        <translation>找不到本機同步資料夾。請還原該資料夾，或選擇其他資料夾。</translation>
+        <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
+        <translation type="unfinished">找不到本機同步資料夾。請還原該資料夾，或選擇其他資料夾。</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
         <translation>升級 Quillmere</translation>
     </message>
     <message>
-        <source>Add sync task</source>
-        <translation>新增同步工作</translation>
+        <source>Add sync task...</source>
+        <translation type="unfinished">新增同步工作</translation>
     </message>
     <message>
-        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it.</source>
-        <translation>此共用資料夾未在伺服器上掛載。請聯絡伺服器管理員掛載該資料夾。</translation>
+        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
+        <translation type="unfinished">此共用資料夾未在伺服器上掛載。請聯絡伺服器管理員掛載該資料夾。</translation>
     </message>
     <message>
-        <source>The server sent an unexpected response. Upgrade the client and the server, then try again.</source>
-        <translation>伺服器傳回非預期的回應。請升級用戶端和伺服器，然後再試一次。</translation>
+        <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">伺服器傳回非預期的回應。請升級用戶端和伺服器，然後再試一次。</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1052,8 +1052,8 @@
         <translation>請輸入不超過 %1 MB 的大小。</translation>
     </message>
     <message>
-        <source>Checking the data...</source>
-        <translation>正在檢查資料…</translation>
+        <source>Checking files...</source>
+        <translation type="unfinished">正在檢查資料…</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
@@ -1064,8 +1064,8 @@
         <translation>按一下「安裝」開始安裝 [ProductName]。按一下「上一步」檢視您的選擇，或按一下「取消」結束安裝精靈。</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}[ProductName] setup was interrupted</source>
-        <translation>{\VerdanaBold13}[ProductName] 安裝程式已中斷</translation>
+        <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
+        <translation type="unfinished">{\VerdanaBold13}[ProductName] 安裝程式已中斷</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1092,8 +1092,8 @@
         <translation>網路設定</translation>
     </message>
     <message>
-        <source>This folder is already synced with another shared folder. Choose a different folder.</source>
-        <translation>此資料夾已與另一個共用資料夾同步。請選擇其他資料夾。</translation>
+        <source>This folder is already synced with another shared folder. Choose another folder.</source>
+        <translation type="unfinished">此資料夾已與另一個共用資料夾同步。請選擇其他資料夾。</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1132,24 +1132,24 @@
         <translation>登入這台電腦時啟動 Quillmere</translation>
     </message>
     <message>
-        <source>All files from both folders are kept. If two versions of a file differ, you get both.</source>
-        <translation>兩個資料夾中的所有檔案都會保留。如果同一個檔案的兩個版本不同，兩個版本都會保留。</translation>
+        <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
+        <translation type="unfinished">兩個資料夾中的所有檔案都會保留。如果同一個檔案的兩個版本不同，兩個版本都會保留。</translation>
     </message>
     <message>
         <source>Repair the installation</source>
         <translation>修復安裝</translation>
     </message>
     <message>
-        <source>Sync enabled</source>
-        <translation>已啟用同步</translation>
+        <source>Syncing turned on</source>
+        <translation type="unfinished">已啟用同步</translation>
     </message>
     <message>
-        <source>Quillmere could not start. Restart the computer, then start Quillmere again.</source>
-        <translation>Quillmere 無法啟動。請重新開機，然後再次啟動 Quillmere。</translation>
+        <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Quillmere 無法啟動。請重新開機，然後再次啟動 Quillmere。</translation>
     </message>
     <message>
-        <source>Do you want to cancel the setup of [ProductName]?</source>
-        <translation>要取消並結束 [ProductName] 安裝程式嗎？</translation>
+        <source>Cancel the setup of [ProductName]?</source>
+        <translation type="unfinished">要取消並結束 [ProductName] 安裝程式嗎？</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1172,28 +1172,28 @@
         <translation>進階設定</translation>
     </message>
     <message>
-        <source>Browse versions</source>
-        <translation>瀏覽先前版本</translation>
+        <source>Browse versions...</source>
+        <translation type="unfinished">瀏覽先前版本</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
         <translation>[DlgTitleFont]變更(&amp;C)</translation>
     </message>
     <message>
-        <source>This connection is inactive. Link it again to continue syncing.</source>
-        <translation>此連線目前處於非作用中狀態。請重新連結以繼續同步。</translation>
+        <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
+        <translation type="unfinished">此連線目前處於非作用中狀態。請重新連結以繼續同步。</translation>
     </message>
     <message>
         <source>Detecting...</source>
         <translation>正在偵測…</translation>
     </message>
     <message>
-        <source>SSL warning</source>
-        <translation>SSL 警告</translation>
+        <source>Certificate warning</source>
+        <translation type="unfinished">SSL 警告</translation>
     </message>
     <message>
-        <source>The relay service cannot be reached. Check your Internet connection, then try again.</source>
-        <translation>無法連線到中繼服務。請檢查網際網路連線，然後再試一次。</translation>
+        <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
+        <translation type="unfinished">無法連線到中繼服務。請檢查網際網路連線，然後再試一次。</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
@@ -1232,24 +1232,24 @@
         <translation>直接連線</translation>
     </message>
     <message>
-        <source>The server volume that holds this folder is not mounted. Ask the server administrator to mount it.</source>
-        <translation>此資料夾所在的伺服器磁碟區未掛載。請聯絡伺服器管理員掛載該磁碟區。</translation>
+        <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
+        <translation type="unfinished">此資料夾所在的伺服器磁碟區未掛載。請聯絡伺服器管理員掛載該磁碟區。</translation>
     </message>
     <message>
-        <source>This version of Quillmere is already installed. Do you want to install it again?</source>
-        <translation>此版本的 Quillmere 已安裝。要重新安裝嗎？</translation>
+        <source>This version of Quillmere is already installed. Install it again?</source>
+        <translation type="unfinished">此版本的 Quillmere 已安裝。要重新安裝嗎？</translation>
     </message>
     <message>
-        <source>This client is too old for the server. Upgrade the client, then try again.</source>
-        <translation>此用戶端版本過舊，無法搭配伺服器使用。請升級用戶端，然後再試一次。</translation>
+        <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
+        <translation type="unfinished">此用戶端版本過舊，無法搭配伺服器使用。請升級用戶端，然後再試一次。</translation>
     </message>
     <message>
-        <source>The server is too old for this client.</source>
-        <translation>伺服器版本過舊，無法搭配此用戶端使用。</translation>
+        <source>Quillmere on the server is too old to work with this computer.</source>
+        <translation type="unfinished">伺服器版本過舊，無法搭配此用戶端使用。</translation>
     </message>
     <message>
-        <source>Disabled</source>
-        <translation>已停用</translation>
+        <source>Turned off</source>
+        <translation type="unfinished">已停用</translation>
     </message>
 </context>
 </TS>

@@ -40,8 +40,8 @@
         <translation>Režim připojení</translation>
     </message>
     <message>
-        <source>The local database is damaged. Unlink the connection, then link it again to rebuild the database.</source>
-        <translation>Místní databáze je poškozená. Zrušte propojení se serverem a poté připojení znovu propojte, aby se databáze vytvořila znovu.</translation>
+        <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Místní databáze je poškozená. Zrušte propojení se serverem a poté připojení znovu propojte, aby se databáze vytvořila znovu.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
@@ -56,8 +56,8 @@
         <translation>[DlgTitleFont]Připraveno k odebrání programu [ProductName]</translation>
     </message>
     <message>
-        <source>The server has been replaced. Click here to link again.</source>
-        <translation>Server byl vyměněn. Kliknutím sem připojení znovu propojíte.</translation>
+        <source>The server has been replaced. Click here to reconnect.</source>
+        <translation type="unfinished">Server byl vyměněn. Kliknutím sem připojení znovu propojíte.</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -68,16 +68,16 @@
         <translation>Průvodce instalací umožňuje změnit, opravit nebo odebrat program [ProductName]. Pokračujte kliknutím na tlačítko „Další“, nebo průvodce instalací ukončete tlačítkem „Zrušit“.</translation>
     </message>
     <message>
-        <source>Block list</source>
-        <translation>Seznam vyloučení</translation>
+        <source>Exclusion list</source>
+        <translation type="unfinished">Seznam vyloučení</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
         <translation>Odstranit tento odkaz ke sdílení?\nLidé, kteří odkaz mají, už nebudou moci soubor otevřít.</translation>
     </message>
     <message>
-        <source>This client is too old for the server.</source>
-        <translation>Verze tohoto klienta je pro server příliš stará.</translation>
+        <source>Quillmere on this computer is too old to work with the server.</source>
+        <translation type="unfinished">Verze tohoto klienta je pro server příliš stará.</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
@@ -96,16 +96,16 @@
         <translation>Testování připojení…</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server is not trusted, so others may be able to read the data you send. Do you want to continue?</source>
-        <translation>Certifikát SSL serveru není důvěryhodný, takže odesílaná data mohou číst i jiné osoby. Chcete pokračovat?</translation>
+        <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
+        <translation type="unfinished">Certifikát SSL serveru není důvěryhodný, takže odesílaná data mohou číst i jiné osoby. Chcete pokračovat?</translation>
     </message>
     <message>
         <source>New shared folder</source>
         <translation>Nová sdílená složka</translation>
     </message>
     <message>
-        <source>About</source>
-        <translation>O programu</translation>
+        <source>About Quillmere</source>
+        <translation type="unfinished">O programu</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
@@ -120,8 +120,8 @@
         <translation>Průvodce instalací je připraven zahájit odebrání.</translation>
     </message>
     <message>
-        <source>This computer is already linked to this server. Edit the existing connection or enter a different server.</source>
-        <translation>Tento počítač už je s tímto serverem propojen. Upravte stávající připojení nebo zadejte jiný server.</translation>
+        <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
+        <translation type="unfinished">Tento počítač už je s tímto serverem propojen. Upravte stávající připojení nebo zadejte jiný server.</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -132,12 +132,12 @@
         <translation>Spojení se serverem bylo přerušeno. Zkontrolujte síťové připojení a zkuste to znovu.</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified.</source>
-        <translation>Certifikát SSL serveru se nepodařilo ověřit.</translation>
+        <source>The certificate of the server could not be verified.</source>
+        <translation type="unfinished">Certifikát SSL serveru se nepodařilo ověřit.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
-        <translation>Používat černobílou ikonu v oznamovací oblasti</translation>
+        <source>Use a black-and-white tray icon</source>
+        <translation type="unfinished">Používat černobílou ikonu v oznamovací oblasti</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -152,20 +152,20 @@
         <translation>Úlohy synchronizace</translation>
     </message>
     <message>
-        <source>Blocked files</source>
-        <translation>Vyloučené soubory</translation>
+        <source>Excluded files</source>
+        <translation type="unfinished">Vyloučené soubory</translation>
     </message>
     <message>
         <source>No permission</source>
         <translation>Chybí oprávnění</translation>
     </message>
     <message>
-        <source>The server is too old for this client. Ask the server administrator to upgrade it.</source>
-        <translation>Verze serveru je pro tohoto klienta příliš stará. Požádejte správce serveru o jeho upgrade.</translation>
+        <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
+        <translation type="unfinished">Verze serveru je pro tohoto klienta příliš stará. Požádejte správce serveru o jeho upgrade.</translation>
     </message>
     <message>
-        <source>To try again, run setup again later. Click Finish to exit the Setup Wizard.</source>
-        <translation>Chcete-li to zkusit znovu, spusťte instalaci později. Průvodce instalací ukončíte kliknutím na tlačítko „Dokončit“.</translation>
+        <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
+        <translation type="unfinished">Chcete-li to zkusit znovu, spusťte instalaci později. Průvodce instalací ukončíte kliknutím na tlačítko „Dokončit“.</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -180,8 +180,8 @@
         <translation>Kliknutím na tlačítko „Opravit“ opravíte instalaci programu [ProductName]. Tlačítkem „Zpět“ se vrátíte ke svým volbám, tlačítkem „Zrušit“ průvodce instalací ukončíte.</translation>
     </message>
     <message>
-        <source>Some settings have not been saved. Do you want to save them?</source>
-        <translation>Některá nastavení nebyla uložena. Chcete je uložit?</translation>
+        <source>Some settings have not been saved. Save them?</source>
+        <translation type="unfinished">Některá nastavení nebyla uložena. Chcete je uložit?</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -192,8 +192,8 @@
         <translation>Akce</translation>
     </message>
     <message>
-        <source>This folder is already used by another sync program. Choose a different folder to avoid conflicts.</source>
-        <translation>Tuto složku už používá jiný synchronizační program. Vyberte jinou složku, aby nedocházelo ke konfliktům.</translation>
+        <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
+        <translation type="unfinished">Tuto složku už používá jiný synchronizační program. Vyberte jinou složku, aby nedocházelo ke konfliktům.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -204,16 +204,16 @@
         <translation>Nekompatibilní verze</translation>
     </message>
     <message>
-        <source>Change the sync folder</source>
-        <translation>Změna synchronizované složky</translation>
+        <source>Change sync folder</source>
+        <translation type="unfinished">Změna synchronizované složky</translation>
     </message>
     <message>
-        <source>Enter a complete file name without a folder path.</source>
-        <translation>Zadejte úplný název souboru bez cesty ke složce.</translation>
+        <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
+        <translation type="unfinished">Zadejte úplný název souboru bez cesty ke složce.</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]An error stopped setup, and its changes were undone.</source>
-        <translation>[DlgTitleFont]Instalaci přerušila chyba a provedené změny byly vráceny zpět.</translation>
+        <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
+        <translation type="unfinished">[DlgTitleFont]Instalaci přerušila chyba a provedené změny byly vráceny zpět.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -240,8 +240,8 @@
         <translation>Název</translation>
     </message>
     <message>
-        <source>Encrypt data transfer with SSL</source>
-        <translation>Šifrovat přenos dat pomocí SSL</translation>
+        <source>Use an encrypted connection (TLS)</source>
+        <translation type="unfinished">Šifrovat přenos dat pomocí SSL</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -276,8 +276,8 @@
         <translation>Tento soubor zatím nemá žádné starší verze. Verze vznikne, až soubor změníte a necháte ho synchronizovat.</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>Zrušit propojení</translation>
+        <source>Disconnect</source>
+        <translation type="unfinished">Zrušit propojení</translation>
     </message>
     <message>
         <source>Back</source>
@@ -316,8 +316,8 @@
         <translation>Uplatňování nastavení…</translation>
     </message>
     <message>
-        <source>Files that are not synced</source>
-        <translation>Soubory, které se nesynchronizují</translation>
+        <source>Files excluded from syncing</source>
+        <translation type="unfinished">Soubory, které se nesynchronizují</translation>
     </message>
     <message>
         <source>Created</source>
@@ -332,8 +332,8 @@
         <translation>Internet</translation>
     </message>
     <message>
-        <source>Choose the shared folders to sync</source>
-        <translation>Vyberte sdílené složky k synchronizaci</translation>
+        <source>Choose shared folders to sync</source>
+        <translation type="unfinished">Vyberte sdílené složky k synchronizaci</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -360,8 +360,8 @@
         <translation>Opraví chyby v instalaci programu [ProductName] obnovením chybějících nebo poškozených souborů a zástupců.</translation>
     </message>
     <message>
-        <source>Blocked file extensions</source>
-        <translation>Vyloučené přípony souborů</translation>
+        <source>Excluded file extensions</source>
+        <translation type="unfinished">Vyloučené přípony souborů</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -376,16 +376,16 @@
         <translation>Heslo</translation>
     </message>
     <message>
-        <source>The volume that holds the sync folder is not mounted. Mount the volume, then resume syncing.</source>
-        <translation>Svazek se synchronizovanou složkou není připojen. Připojte svazek a poté pokračujte v synchronizaci.</translation>
+        <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
+        <translation type="unfinished">Svazek se synchronizovanou složkou není připojen. Připojte svazek a poté pokračujte v synchronizaci.</translation>
     </message>
     <message>
         <source>Edit</source>
         <translation>Upravit</translation>
     </message>
     <message>
-        <source>This computer has no free disk space.</source>
-        <translation>V tomto počítači není volné místo na disku.</translation>
+        <source>The drive that holds the sync folder is full.</source>
+        <translation type="unfinished">V tomto počítači není volné místo na disku.</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -400,8 +400,8 @@
         <translation>&amp;Ignorovat</translation>
     </message>
     <message>
-        <source>A folder with this name already exists. Do you want to merge its files with those on the server?</source>
-        <translation>Složka s tímto názvem už existuje. Chcete její soubory sloučit se soubory na serveru?</translation>
+        <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
+        <translation type="unfinished">Složka s tímto názvem už existuje. Chcete její soubory sloučit se soubory na serveru?</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
@@ -448,12 +448,12 @@
         <translation>Hotovo</translation>
     </message>
     <message>
-        <source>Syncing %1 files...</source>
-        <translation>Synchronizace souborů (%1)…</translation>
+        <source>Files being synced: %1</source>
+        <translation type="unfinished">Synchronizace souborů (%1)…</translation>
     </message>
     <message>
-        <source>Link again</source>
-        <translation>Propojit znovu</translation>
+        <source>Reconnect</source>
+        <translation type="unfinished">Propojit znovu</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -472,8 +472,8 @@
         <translation>Výchozí jazyk systému</translation>
     </message>
     <message>
-        <source>The folders and files you cleared will be removed from this computer. They will be kept on the server.</source>
-        <translation>Složky a soubory, u kterých jste zrušili zaškrtnutí, budou odebrány z tohoto počítače. Na serveru zůstanou zachovány.</translation>
+        <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
+        <translation type="unfinished">Složky a soubory, u kterých jste zrušili zaškrtnutí, budou odebrány z tohoto počítače. Na serveru zůstanou zachovány.</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
@@ -488,28 +488,28 @@
         <translation>Nedostatek místa</translation>
     </message>
     <message>
-        <source>Inactive</source>
-        <translation>Neaktivní</translation>
+        <source>Disconnected</source>
+        <translation type="unfinished">Neaktivní</translation>
     </message>
     <message>
-        <source>Your quota on the server is full.</source>
-        <translation>Vaše kvóta na serveru je vyčerpána.</translation>
+        <source>You have used all of your space on the server.</source>
+        <translation type="unfinished">Vaše kvóta na serveru je vyčerpána.</translation>
     </message>
     <message>
-        <source>Unlink this connection?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>Zrušit propojení s tímto serverem?\nVaše soubory zůstanou v tomto počítači i na serveru, ale už se nebudou synchronizovat.</translation>
+        <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">Zrušit propojení s tímto serverem?\nVaše soubory zůstanou v tomto počítači i na serveru, ale už se nebudou synchronizovat.</translation>
     </message>
     <message>
-        <source>The relay service has a problem. Try again later, or connect with the IP address of the server.</source>
-        <translation>U předávací služby došlo k problému. Zkuste to znovu později nebo se připojte pomocí IP adresy serveru.</translation>
+        <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
+        <translation type="unfinished">U předávací služby došlo k problému. Zkuste to znovu později nebo se připojte pomocí IP adresy serveru.</translation>
     </message>
     <message>
         <source>Server ID</source>
         <translation>ID serveru</translation>
     </message>
     <message>
-        <source>Blocked file names</source>
-        <translation>Vyloučené názvy souborů</translation>
+        <source>Excluded file names</source>
+        <translation type="unfinished">Vyloučené názvy souborů</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -520,20 +520,20 @@
         <translation>Pokračovat</translation>
     </message>
     <message>
-        <source>Enabled</source>
-        <translation>Zapnuto</translation>
+        <source>Turned on</source>
+        <translation type="unfinished">Zapnuto</translation>
     </message>
     <message>
-        <source>This computer has no free disk space. Free some space to continue syncing.</source>
-        <translation>V tomto počítači není volné místo na disku. Uvolněte místo, aby synchronizace mohla pokračovat.</translation>
+        <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
+        <translation type="unfinished">V tomto počítači není volné místo na disku. Uvolněte místo, aby synchronizace mohla pokračovat.</translation>
     </message>
     <message>
         <source>Folders to sync</source>
         <translation>Složky k synchronizaci</translation>
     </message>
     <message>
-        <source>Choose a sync folder</source>
-        <translation>Vyberte složku k synchronizaci</translation>
+        <source>Choose sync folder</source>
+        <translation type="unfinished">Vyberte složku k synchronizaci</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -548,8 +548,8 @@
         <translation>Počítač</translation>
     </message>
     <message>
-        <source>Your quota on the server is full. Delete files you do not need, or ask the server administrator for a larger quota.</source>
-        <translation>Vaše kvóta na serveru je vyčerpána. Odstraňte nepotřebné soubory nebo požádejte správce serveru o větší kvótu.</translation>
+        <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
+        <translation type="unfinished">Vaše kvóta na serveru je vyčerpána. Odstraňte nepotřebné soubory nebo požádejte správce serveru o větší kvótu.</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
@@ -564,12 +564,12 @@
         <translation>Používat následující proxy server</translation>
     </message>
     <message>
-        <source>This file was changed in two places. Compare both copies, then keep the one you need.</source>
-        <translation>Tento soubor byl změněn na dvou místech. Porovnejte obě kopie a poté si ponechte tu, kterou potřebujete.</translation>
+        <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
+        <translation type="unfinished">Tento soubor byl změněn na dvou místech. Porovnejte obě kopie a poté si ponechte tu, kterou potřebujete.</translation>
     </message>
     <message>
-        <source>One place for your files on every computer, through a server of your own</source>
-        <translation>Jedno místo pro soubory ze všech počítačů – váš vlastní server</translation>
+        <source>All your files on every computer, kept on your own server</source>
+        <translation type="unfinished">Jedno místo pro soubory ze všech počítačů – váš vlastní server</translation>
     </message>
     <message>
         <source>OK</source>
@@ -580,8 +580,8 @@
         <translation>Zobrazovat oznámení na ploše</translation>
     </message>
     <message>
-        <source>The following applications use files that setup needs to update. Close them and click Retry, click Ignore to continue without closing them, or click Exit to leave setup.</source>
-        <translation>Následující aplikace používají soubory, které je třeba aktualizovat. Zavřete je a klikněte na tlačítko „Opakovat“, pokračujte bez jejich zavření tlačítkem „Ignorovat“, nebo instalaci opusťte tlačítkem „Ukončit“.</translation>
+        <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
+        <translation type="unfinished">Následující aplikace používají soubory, které je třeba aktualizovat. Zavřete je a klikněte na tlačítko „Opakovat“, pokračujte bez jejich zavření tlačítkem „Ignorovat“, nebo instalaci opusťte tlačítkem „Ukončit“.</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -596,12 +596,12 @@
         <translation>Soubory odpovídající položkám v tomto seznamu se nesynchronizují.</translation>
     </message>
     <message>
-        <source>Edit connection</source>
-        <translation>Upravit připojení</translation>
+        <source>Edit connection...</source>
+        <translation type="unfinished">Upravit připojení</translation>
     </message>
     <message>
-        <source>Options</source>
-        <translation>Možnosti</translation>
+        <source>Settings</source>
+        <translation>Nastavení</translation>
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
@@ -624,36 +624,32 @@
         <translation>Pozastavit</translation>
     </message>
     <message>
-        <source>Show icon overlays on filtered files</source>
-        <translation>Zobrazovat překryvné ikony na souborech vynechaných filtrem</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Nastavení</translation>
+        <source>Show icon overlays on excluded files</source>
+        <translation type="unfinished">Zobrazovat překryvné ikony na souborech vynechaných filtrem</translation>
     </message>
     <message>
         <source>Loading...</source>
         <translation>Načítání…</translation>
     </message>
     <message>
-        <source>You can sync at most %1 shared folders. Stop syncing one of them before you add another.</source>
-        <translation>Maximální počet synchronizovaných sdílených složek: %1. Než přidáte další, ukončete synchronizaci některé z nich.</translation>
+        <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
+        <translation type="unfinished">Maximální počet synchronizovaných sdílených složek: %1. Než přidáte další, ukončete synchronizaci některé z nich.</translation>
     </message>
     <message>
-        <source>Unlink this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>Zrušit propojení této úlohy synchronizace?\nJejí soubory zůstanou v tomto počítači i na serveru, ale už se nebudou synchronizovat.</translation>
+        <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">Zrušit propojení této úlohy synchronizace?\nJejí soubory zůstanou v tomto počítači i na serveru, ale už se nebudou synchronizovat.</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
         <translation>Spouštění programu Quillmere…</translation>
     </message>
     <message>
-        <source>Quillmere could not be upgraded. Restart the computer, then try again.</source>
-        <translation>Upgrade programu Quillmere se nezdařil. Restartujte počítač a zkuste to znovu.</translation>
+        <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Upgrade programu Quillmere se nezdařil. Restartujte počítač a zkuste to znovu.</translation>
     </message>
     <message>
-        <source>Block names that begin with a dot</source>
-        <translation>Vyloučit názvy začínající tečkou</translation>
+        <source>Exclude names that begin with a dot</source>
+        <translation type="unfinished">Vyloučit názvy začínající tečkou</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -676,8 +672,8 @@
         <translation>Připojeno k serveru.</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}The [ProductName] Setup Wizard is complete</source>
-        <translation>{\VerdanaBold13}Průvodce instalací programu [ProductName] dokončil práci</translation>
+        <source>{\VerdanaBold13}[ProductName] setup is complete</source>
+        <translation type="unfinished">{\VerdanaBold13}Průvodce instalací programu [ProductName] dokončil práci</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -712,20 +708,20 @@
         <translation>Sdílená složka</translation>
     </message>
     <message>
-        <source>Client options</source>
-        <translation>Možnosti klienta</translation>
+        <source>Quillmere settings</source>
+        <translation type="unfinished">Možnosti klienta</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
         <translation>Odkaz ke sdílení se nepodařilo odstranit. Zkontrolujte spojení se serverem a zkuste to znovu.</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified. Ask the server administrator to check the certificate.</source>
-        <translation>Certifikát SSL serveru se nepodařilo ověřit. Požádejte správce serveru o kontrolu certifikátu.</translation>
+        <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
+        <translation type="unfinished">Certifikát SSL serveru se nepodařilo ověřit. Požádejte správce serveru o kontrolu certifikátu.</translation>
     </message>
     <message>
-        <source>This is not the server the connection was linked to. Check the server address, or link again.</source>
-        <translation>Toto není server, se kterým bylo připojení propojeno. Zkontrolujte adresu serveru nebo připojení znovu propojte.</translation>
+        <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
+        <translation type="unfinished">Toto není server, se kterým bylo připojení propojeno. Zkontrolujte adresu serveru nebo připojení znovu propojte.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -764,16 +760,16 @@
         <translation>Spravovat připojení</translation>
     </message>
     <message>
-        <source>Link to another server</source>
-        <translation>Propojit s dalším serverem</translation>
+        <source>Connect to another server...</source>
+        <translation type="unfinished">Propojit s dalším serverem</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
         <translation>Zobrazovat překryvné ikony</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]Setting up [ProductName]</source>
-        <translation>[DlgTitleFont]Nastavování programu [ProductName]</translation>
+        <source>[DlgTitleFont]Making changes to [ProductName]</source>
+        <translation type="unfinished">[DlgTitleFont]Nastavování programu [ProductName]</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -792,8 +788,8 @@
         <translation>&amp;Instalovat</translation>
     </message>
     <message>
-        <source>File filter</source>
-        <translation>Filtr souborů</translation>
+        <source>Files to exclude</source>
+        <translation type="unfinished">Filtr souborů</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -804,8 +800,8 @@
         <translation>&amp;Nesouhlasím s podmínkami licenční smlouvy</translation>
     </message>
     <message>
-        <source>Something went wrong. Try again, and contact the server administrator if the problem continues.</source>
-        <translation>Něco se pokazilo. Zkuste to znovu, a pokud problém přetrvá, obraťte se na správce serveru.</translation>
+        <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Něco se pokazilo. Zkuste to znovu, a pokud problém přetrvá, obraťte se na správce serveru.</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -828,8 +824,8 @@
         <translation>Nastavení proxy serveru</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator, so Quillmere might not install completely. Do you want to continue?</source>
-        <translation>Nejste přihlášeni jako správce, takže se program Quillmere nemusí nainstalovat úplně. Chcete pokračovat?</translation>
+        <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
+        <translation type="unfinished">Nejste přihlášeni jako správce, takže se program Quillmere nemusí nainstalovat úplně. Chcete pokračovat?</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
@@ -876,8 +872,8 @@
         <translation>Složka je přípojným bodem</translation>
     </message>
     <message>
-        <source>Choose another folder</source>
-        <translation>Vybrat jinou složku</translation>
+        <source>Choose another folder...</source>
+        <translation type="unfinished">Vybrat jinou složku</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -900,12 +896,16 @@
         <translation>Zadejte adresu serveru a účet, který na serveru používáte.</translation>
     </message>
     <message>
-        <source>A different server was found at the server address.</source>
-        <translation>Na adrese serveru byl nalezen jiný server.</translation>
+        <source>Remove</source>
+        <translation type="unfinished">Zrušit propojení</translation>
     </message>
     <message>
-        <source>Linking to the server...</source>
-        <translation>Propojování se serverem…</translation>
+        <source>Another server was found at the server address.</source>
+        <translation type="unfinished">Na adrese serveru byl nalezen jiný server.</translation>
+    </message>
+    <message>
+        <source>Connecting to the server...</source>
+        <translation type="unfinished">Propojování se serverem…</translation>
     </message>
     <message>
         <source>Port</source>
@@ -928,8 +928,8 @@
         <translation>Používat systémové nastavení proxy serveru</translation>
     </message>
     <message>
-        <source>Change folder</source>
-        <translation>Změnit složku</translation>
+        <source>Change folder...</source>
+        <translation type="unfinished">Změnit složku</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -944,8 +944,8 @@
         <translation>Stahování…</translation>
     </message>
     <message>
-        <source>The file is locked</source>
-        <translation>Soubor je uzamčen</translation>
+        <source>File locked</source>
+        <translation type="unfinished">Soubor je uzamčen</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -956,8 +956,8 @@
         <translation>Příprava…</translation>
     </message>
     <message>
-        <source>Updating files...</source>
-        <translation>Aktualizace souborů…</translation>
+        <source>Syncing files...</source>
+        <translation type="unfinished">Aktualizace souborů…</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -968,8 +968,8 @@
         <translation>Ověřování uživatelského jména a hesla…</translation>
     </message>
     <message>
-        <source>Wait while the Setup Wizard sets up [ProductName]. This can take several minutes.</source>
-        <translation>Počkejte, než průvodce instalací nastaví program [ProductName]. Může to trvat několik minut.</translation>
+        <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
+        <translation type="unfinished">Počkejte, než průvodce instalací nastaví program [ProductName]. Může to trvat několik minut.</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1020,24 +1020,24 @@
         <translation>Odkaz ke sdílení byl zkopírován do schránky.</translation>
     </message>
     <message>
-        <source>The local sync folder was not found. Restore the folder or choose a different one.</source>
-        <translation>Místní synchronizovaná složka nebyla nalezena. Obnovte ji nebo vyberte jinou.</translation>
+        <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
+        <translation type="unfinished">Místní synchronizovaná složka nebyla nalezena. Obnovte ji nebo vyberte jinou.</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
         <translation>Upgrade programu Quillmere</translation>
     </message>
     <message>
-        <source>Add sync task</source>
-        <translation>Přidat úlohu synchronizace</translation>
+        <source>Add sync task...</source>
+        <translation type="unfinished">Přidat úlohu synchronizace</translation>
     </message>
     <message>
-        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it.</source>
-        <translation>Sdílená složka není na serveru připojena. Požádejte správce serveru o její připojení.</translation>
+        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
+        <translation type="unfinished">Sdílená složka není na serveru připojena. Požádejte správce serveru o její připojení.</translation>
     </message>
     <message>
-        <source>The server sent an unexpected response. Upgrade the client and the server, then try again.</source>
-        <translation>Server odeslal neočekávanou odpověď. Upgradujte klienta i server a zkuste to znovu.</translation>
+        <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Server odeslal neočekávanou odpověď. Upgradujte klienta i server a zkuste to znovu.</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1052,8 +1052,8 @@
         <translation>Zadejte velikost nejvýše %1&#xa0;MB.</translation>
     </message>
     <message>
-        <source>Checking the data...</source>
-        <translation>Kontrola dat…</translation>
+        <source>Checking files...</source>
+        <translation type="unfinished">Kontrola dat…</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
@@ -1064,8 +1064,8 @@
         <translation>Kliknutím na tlačítko „Instalovat“ zahájíte instalaci programu [ProductName]. Tlačítkem „Zpět“ se vrátíte ke svým volbám, tlačítkem „Zrušit“ průvodce instalací ukončíte.</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}[ProductName] setup was interrupted</source>
-        <translation>{\VerdanaBold13}Instalace programu [ProductName] byla přerušena</translation>
+        <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
+        <translation type="unfinished">{\VerdanaBold13}Instalace programu [ProductName] byla přerušena</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1092,8 +1092,8 @@
         <translation>Nastavení sítě</translation>
     </message>
     <message>
-        <source>This folder is already synced with another shared folder. Choose a different folder.</source>
-        <translation>Tato složka se už synchronizuje s jinou sdílenou složkou. Vyberte jinou složku.</translation>
+        <source>This folder is already synced with another shared folder. Choose another folder.</source>
+        <translation type="unfinished">Tato složka se už synchronizuje s jinou sdílenou složkou. Vyberte jinou složku.</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1132,24 +1132,24 @@
         <translation>Spouštět Quillmere po přihlášení k tomuto počítači</translation>
     </message>
     <message>
-        <source>All files from both folders are kept. If two versions of a file differ, you get both.</source>
-        <translation>Zachovají se všechny soubory z obou složek. Pokud se dvě verze souboru liší, ponechají se obě.</translation>
+        <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
+        <translation type="unfinished">Zachovají se všechny soubory z obou složek. Pokud se dvě verze souboru liší, ponechají se obě.</translation>
     </message>
     <message>
         <source>Repair the installation</source>
         <translation>Opravit instalaci</translation>
     </message>
     <message>
-        <source>Sync enabled</source>
-        <translation>Synchronizace zapnuta</translation>
+        <source>Syncing turned on</source>
+        <translation type="unfinished">Synchronizace zapnuta</translation>
     </message>
     <message>
-        <source>Quillmere could not start. Restart the computer, then start Quillmere again.</source>
-        <translation>Program Quillmere se nepodařilo spustit. Restartujte počítač a poté program Quillmere spusťte znovu.</translation>
+        <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Program Quillmere se nepodařilo spustit. Restartujte počítač a poté program Quillmere spusťte znovu.</translation>
     </message>
     <message>
-        <source>Do you want to cancel the setup of [ProductName]?</source>
-        <translation>Chcete zrušit instalaci programu [ProductName]?</translation>
+        <source>Cancel the setup of [ProductName]?</source>
+        <translation type="unfinished">Chcete zrušit instalaci programu [ProductName]?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1172,28 +1172,28 @@
         <translation>Pokročilá nastavení</translation>
     </message>
     <message>
-        <source>Browse versions</source>
-        <translation>Procházet verze</translation>
+        <source>Browse versions...</source>
+        <translation type="unfinished">Procházet verze</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
         <translation>[DlgTitleFont]Z&amp;měnit</translation>
     </message>
     <message>
-        <source>This connection is inactive. Link it again to continue syncing.</source>
-        <translation>Toto připojení je neaktivní. Chcete-li pokračovat v synchronizaci, znovu ho propojte.</translation>
+        <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
+        <translation type="unfinished">Toto připojení je neaktivní. Chcete-li pokračovat v synchronizaci, znovu ho propojte.</translation>
     </message>
     <message>
         <source>Detecting...</source>
         <translation>Zjišťování…</translation>
     </message>
     <message>
-        <source>SSL warning</source>
-        <translation>Upozornění SSL</translation>
+        <source>Certificate warning</source>
+        <translation type="unfinished">Upozornění SSL</translation>
     </message>
     <message>
-        <source>The relay service cannot be reached. Check your Internet connection, then try again.</source>
-        <translation>Předávací služba není dostupná. Zkontrolujte připojení k internetu a zkuste to znovu.</translation>
+        <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
+        <translation type="unfinished">Předávací služba není dostupná. Zkontrolujte připojení k internetu a zkuste to znovu.</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
@@ -1232,24 +1232,24 @@
         <translation>Přímé připojení</translation>
     </message>
     <message>
-        <source>The server volume that holds this folder is not mounted. Ask the server administrator to mount it.</source>
-        <translation>Svazek serveru, na kterém je tato složka, není připojen. Požádejte správce serveru o jeho připojení.</translation>
+        <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
+        <translation type="unfinished">Svazek serveru, na kterém je tato složka, není připojen. Požádejte správce serveru o jeho připojení.</translation>
     </message>
     <message>
-        <source>This version of Quillmere is already installed. Do you want to install it again?</source>
-        <translation>Tato verze programu Quillmere už je nainstalována. Chcete ji nainstalovat znovu?</translation>
+        <source>This version of Quillmere is already installed. Install it again?</source>
+        <translation type="unfinished">Tato verze programu Quillmere už je nainstalována. Chcete ji nainstalovat znovu?</translation>
     </message>
     <message>
-        <source>This client is too old for the server. Upgrade the client, then try again.</source>
-        <translation>Verze tohoto klienta je pro server příliš stará. Upgradujte klienta a zkuste to znovu.</translation>
+        <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
+        <translation type="unfinished">Verze tohoto klienta je pro server příliš stará. Upgradujte klienta a zkuste to znovu.</translation>
     </message>
     <message>
-        <source>The server is too old for this client.</source>
-        <translation>Verze serveru je pro tohoto klienta příliš stará.</translation>
+        <source>Quillmere on the server is too old to work with this computer.</source>
+        <translation type="unfinished">Verze serveru je pro tohoto klienta příliš stará.</translation>
     </message>
     <message>
-        <source>Disabled</source>
-        <translation>Vypnuto</translation>
+        <source>Turned off</source>
+        <translation type="unfinished">Vypnuto</translation>
     </message>
 </context>
 </TS>

@@ -40,8 +40,8 @@
         <translation>Forbindelsestilstand</translation>
     </message>
     <message>
-        <source>The local database is damaged. Unlink the connection, then link it again to rebuild the database.</source>
-        <translation>Den lokale database er beskadiget. Fjern forbindelsens tilknytning, og tilknyt den derefter igen for at genopbygge databasen.</translation>
+        <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Den lokale database er beskadiget. Fjern forbindelsens tilknytning, og tilknyt den derefter igen for at genopbygge databasen.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
@@ -56,8 +56,8 @@
         <translation>[DlgTitleFont]Klar til at fjerne [ProductName]</translation>
     </message>
     <message>
-        <source>The server has been replaced. Click here to link again.</source>
-        <translation>Serveren er blevet udskiftet. Klik her for at oprette tilknytningen igen.</translation>
+        <source>The server has been replaced. Click here to reconnect.</source>
+        <translation type="unfinished">Serveren er blevet udskiftet. Klik her for at oprette tilknytningen igen.</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -68,16 +68,16 @@
         <translation>Med installationsguiden kan du ændre, reparere eller fjerne [ProductName]. Klik på ”Næste” for at fortsætte, eller klik på ”Annuller” for at afslutte installationsguiden.</translation>
     </message>
     <message>
-        <source>Block list</source>
-        <translation>Undtagelsesliste</translation>
+        <source>Exclusion list</source>
+        <translation type="unfinished">Undtagelsesliste</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
         <translation>Vil du slette dette delingslink?\nPersoner der har linket, kan ikke længere åbne filen.</translation>
     </message>
     <message>
-        <source>This client is too old for the server.</source>
-        <translation>Denne klient er for gammel til serveren.</translation>
+        <source>Quillmere on this computer is too old to work with the server.</source>
+        <translation type="unfinished">Denne klient er for gammel til serveren.</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
@@ -96,16 +96,16 @@
         <translation>Tester forbindelsen…</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server is not trusted, so others may be able to read the data you send. Do you want to continue?</source>
-        <translation>Serverens SSL-certifikat er ikke betroet, så andre kan muligvis læse de data du sender. Vil du fortsætte?</translation>
+        <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
+        <translation type="unfinished">Serverens SSL-certifikat er ikke betroet, så andre kan muligvis læse de data du sender. Vil du fortsætte?</translation>
     </message>
     <message>
         <source>New shared folder</source>
         <translation>Ny delt mappe</translation>
     </message>
     <message>
-        <source>About</source>
-        <translation>Om</translation>
+        <source>About Quillmere</source>
+        <translation type="unfinished">Om</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
@@ -120,8 +120,8 @@
         <translation>Installationsguiden er klar til at begynde fjernelsen.</translation>
     </message>
     <message>
-        <source>This computer is already linked to this server. Edit the existing connection or enter a different server.</source>
-        <translation>Denne computer er allerede tilknyttet denne server. Rediger den eksisterende forbindelse, eller angiv en anden server.</translation>
+        <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
+        <translation type="unfinished">Denne computer er allerede tilknyttet denne server. Rediger den eksisterende forbindelse, eller angiv en anden server.</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -132,12 +132,12 @@
         <translation>Forbindelsen til serveren blev afbrudt. Kontroller netværksforbindelsen, og prøv igen.</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified.</source>
-        <translation>Serverens SSL-certifikat kunne ikke bekræftes.</translation>
+        <source>The certificate of the server could not be verified.</source>
+        <translation type="unfinished">Serverens SSL-certifikat kunne ikke bekræftes.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
-        <translation>Brug et sort-hvidt ikon i meddelelsesområdet</translation>
+        <source>Use a black-and-white tray icon</source>
+        <translation type="unfinished">Brug et sort-hvidt ikon i meddelelsesområdet</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -152,20 +152,20 @@
         <translation>Synkroniseringsopgaver</translation>
     </message>
     <message>
-        <source>Blocked files</source>
-        <translation>Undtagne filer</translation>
+        <source>Excluded files</source>
+        <translation type="unfinished">Undtagne filer</translation>
     </message>
     <message>
         <source>No permission</source>
         <translation>Ingen tilladelse</translation>
     </message>
     <message>
-        <source>The server is too old for this client. Ask the server administrator to upgrade it.</source>
-        <translation>Serveren er for gammel til denne klient. Bed serveradministratoren om at opgradere den.</translation>
+        <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
+        <translation type="unfinished">Serveren er for gammel til denne klient. Bed serveradministratoren om at opgradere den.</translation>
     </message>
     <message>
-        <source>To try again, run setup again later. Click Finish to exit the Setup Wizard.</source>
-        <translation>Kør installationsprogrammet igen senere for at prøve igen. Klik på ”Udfør” for at afslutte installationsguiden.</translation>
+        <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
+        <translation type="unfinished">Kør installationsprogrammet igen senere for at prøve igen. Klik på ”Udfør” for at afslutte installationsguiden.</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -180,8 +180,8 @@
         <translation>Klik på ”Reparer” for at reparere installationen af [ProductName]. Klik på ”Tilbage” for at gennemse dine valg, eller klik på ”Annuller” for at afslutte installationsguiden.</translation>
     </message>
     <message>
-        <source>Some settings have not been saved. Do you want to save them?</source>
-        <translation>Nogle indstillinger er ikke blevet gemt. Vil du gemme dem?</translation>
+        <source>Some settings have not been saved. Save them?</source>
+        <translation type="unfinished">Nogle indstillinger er ikke blevet gemt. Vil du gemme dem?</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -192,8 +192,8 @@
         <translation>Handling</translation>
     </message>
     <message>
-        <source>This folder is already used by another sync program. Choose a different folder to avoid conflicts.</source>
-        <translation>Denne mappe bruges allerede af et andet synkroniseringsprogram. Vælg en anden mappe for at undgå konflikter.</translation>
+        <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
+        <translation type="unfinished">Denne mappe bruges allerede af et andet synkroniseringsprogram. Vælg en anden mappe for at undgå konflikter.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -204,16 +204,16 @@
         <translation>Inkompatibel version</translation>
     </message>
     <message>
-        <source>Change the sync folder</source>
-        <translation>Skift synkroniseringsmappe</translation>
+        <source>Change sync folder</source>
+        <translation type="unfinished">Skift synkroniseringsmappe</translation>
     </message>
     <message>
-        <source>Enter a complete file name without a folder path.</source>
-        <translation>Angiv et fuldstændigt filnavn uden mappesti.</translation>
+        <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
+        <translation type="unfinished">Angiv et fuldstændigt filnavn uden mappesti.</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]An error stopped setup, and its changes were undone.</source>
-        <translation>[DlgTitleFont]En fejl standsede installationsprogrammet, og ændringerne er rullet tilbage.</translation>
+        <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
+        <translation type="unfinished">[DlgTitleFont]En fejl standsede installationsprogrammet, og ændringerne er rullet tilbage.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -240,8 +240,8 @@
         <translation>Navn</translation>
     </message>
     <message>
-        <source>Encrypt data transfer with SSL</source>
-        <translation>Krypter dataoverførsel med SSL</translation>
+        <source>Use an encrypted connection (TLS)</source>
+        <translation type="unfinished">Krypter dataoverførsel med SSL</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -276,8 +276,8 @@
         <translation>Denne fil har ingen tidligere versioner endnu. Rediger filen, og lad den blive synkroniseret for at oprette en.</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>Fjern tilknytning</translation>
+        <source>Disconnect</source>
+        <translation type="unfinished">Fjern tilknytning</translation>
     </message>
     <message>
         <source>Back</source>
@@ -316,8 +316,8 @@
         <translation>Anvender indstillingerne…</translation>
     </message>
     <message>
-        <source>Files that are not synced</source>
-        <translation>Filer der ikke synkroniseres</translation>
+        <source>Files excluded from syncing</source>
+        <translation type="unfinished">Filer der ikke synkroniseres</translation>
     </message>
     <message>
         <source>Created</source>
@@ -332,8 +332,8 @@
         <translation>Internet</translation>
     </message>
     <message>
-        <source>Choose the shared folders to sync</source>
-        <translation>Vælg de delte mapper der skal synkroniseres</translation>
+        <source>Choose shared folders to sync</source>
+        <translation type="unfinished">Vælg de delte mapper der skal synkroniseres</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -360,8 +360,8 @@
         <translation>Reparerer fejl i installationen af [ProductName] ved at gendanne manglende eller beskadigede filer og genveje.</translation>
     </message>
     <message>
-        <source>Blocked file extensions</source>
-        <translation>Undtagne filendelser</translation>
+        <source>Excluded file extensions</source>
+        <translation type="unfinished">Undtagne filendelser</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -376,16 +376,16 @@
         <translation>Adgangskode</translation>
     </message>
     <message>
-        <source>The volume that holds the sync folder is not mounted. Mount the volume, then resume syncing.</source>
-        <translation>Diskenheden med synkroniseringsmappen er ikke monteret. Monter diskenheden, og genoptag derefter synkroniseringen.</translation>
+        <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
+        <translation type="unfinished">Diskenheden med synkroniseringsmappen er ikke monteret. Monter diskenheden, og genoptag derefter synkroniseringen.</translation>
     </message>
     <message>
         <source>Edit</source>
         <translation>Rediger</translation>
     </message>
     <message>
-        <source>This computer has no free disk space.</source>
-        <translation>Denne computer har ingen ledig diskplads.</translation>
+        <source>The drive that holds the sync folder is full.</source>
+        <translation type="unfinished">Denne computer har ingen ledig diskplads.</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -400,8 +400,8 @@
         <translation>&amp;Ignorer</translation>
     </message>
     <message>
-        <source>A folder with this name already exists. Do you want to merge its files with those on the server?</source>
-        <translation>Der findes allerede en mappe med dette navn. Vil du flette dens filer med filerne på serveren?</translation>
+        <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
+        <translation type="unfinished">Der findes allerede en mappe med dette navn. Vil du flette dens filer med filerne på serveren?</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
@@ -448,12 +448,12 @@
         <translation>Færdig</translation>
     </message>
     <message>
-        <source>Syncing %1 files...</source>
-        <translation>Synkroniserer filer (%1)…</translation>
+        <source>Files being synced: %1</source>
+        <translation type="unfinished">Synkroniserer filer (%1)…</translation>
     </message>
     <message>
-        <source>Link again</source>
-        <translation>Tilknyt igen</translation>
+        <source>Reconnect</source>
+        <translation type="unfinished">Tilknyt igen</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -472,8 +472,8 @@
         <translation>Systemstandard</translation>
     </message>
     <message>
-        <source>The folders and files you cleared will be removed from this computer. They will be kept on the server.</source>
-        <translation>De mapper og filer du har fravalgt, bliver fjernet fra denne computer. De bevares på serveren.</translation>
+        <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
+        <translation type="unfinished">De mapper og filer du har fravalgt, bliver fjernet fra denne computer. De bevares på serveren.</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
@@ -488,28 +488,28 @@
         <translation>Ingen plads tilbage</translation>
     </message>
     <message>
-        <source>Inactive</source>
-        <translation>Inaktiv</translation>
+        <source>Disconnected</source>
+        <translation type="unfinished">Inaktiv</translation>
     </message>
     <message>
-        <source>Your quota on the server is full.</source>
-        <translation>Din kvote på serveren er opbrugt.</translation>
+        <source>You have used all of your space on the server.</source>
+        <translation type="unfinished">Din kvote på serveren er opbrugt.</translation>
     </message>
     <message>
-        <source>Unlink this connection?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>Vil du fjerne tilknytningen af denne forbindelse?\nDine filer bevares på denne computer og på serveren, men de bliver ikke længere synkroniseret.</translation>
+        <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">Vil du fjerne tilknytningen af denne forbindelse?\nDine filer bevares på denne computer og på serveren, men de bliver ikke længere synkroniseret.</translation>
     </message>
     <message>
-        <source>The relay service has a problem. Try again later, or connect with the IP address of the server.</source>
-        <translation>Der er et problem med relætjenesten. Prøv igen senere, eller opret forbindelse via serverens IP-adresse.</translation>
+        <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
+        <translation type="unfinished">Der er et problem med relætjenesten. Prøv igen senere, eller opret forbindelse via serverens IP-adresse.</translation>
     </message>
     <message>
         <source>Server ID</source>
         <translation>Server-id</translation>
     </message>
     <message>
-        <source>Blocked file names</source>
-        <translation>Undtagne filnavne</translation>
+        <source>Excluded file names</source>
+        <translation type="unfinished">Undtagne filnavne</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -520,20 +520,20 @@
         <translation>Fortsæt</translation>
     </message>
     <message>
-        <source>Enabled</source>
-        <translation>Aktiveret</translation>
+        <source>Turned on</source>
+        <translation type="unfinished">Aktiveret</translation>
     </message>
     <message>
-        <source>This computer has no free disk space. Free some space to continue syncing.</source>
-        <translation>Denne computer har ingen ledig diskplads. Frigør plads for at fortsætte synkroniseringen.</translation>
+        <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
+        <translation type="unfinished">Denne computer har ingen ledig diskplads. Frigør plads for at fortsætte synkroniseringen.</translation>
     </message>
     <message>
         <source>Folders to sync</source>
         <translation>Mapper der skal synkroniseres</translation>
     </message>
     <message>
-        <source>Choose a sync folder</source>
-        <translation>Vælg en synkroniseringsmappe</translation>
+        <source>Choose sync folder</source>
+        <translation type="unfinished">Vælg en synkroniseringsmappe</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -548,8 +548,8 @@
         <translation>Computer</translation>
     </message>
     <message>
-        <source>Your quota on the server is full. Delete files you do not need, or ask the server administrator for a larger quota.</source>
-        <translation>Din kvote på serveren er opbrugt. Slet filer du ikke har brug for, eller bed serveradministratoren om en større kvote.</translation>
+        <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
+        <translation type="unfinished">Din kvote på serveren er opbrugt. Slet filer du ikke har brug for, eller bed serveradministratoren om en større kvote.</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
@@ -564,12 +564,12 @@
         <translation>Brug følgende proxyserver</translation>
     </message>
     <message>
-        <source>This file was changed in two places. Compare both copies, then keep the one you need.</source>
-        <translation>Denne fil blev ændret to steder. Sammenlign de to kopier, og behold den du har brug for.</translation>
+        <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
+        <translation type="unfinished">Denne fil blev ændret to steder. Sammenlign de to kopier, og behold den du har brug for.</translation>
     </message>
     <message>
-        <source>One place for your files on every computer, through a server of your own</source>
-        <translation>Ét sted til dine filer på alle computere, via din egen server</translation>
+        <source>All your files on every computer, kept on your own server</source>
+        <translation type="unfinished">Ét sted til dine filer på alle computere, via din egen server</translation>
     </message>
     <message>
         <source>OK</source>
@@ -580,8 +580,8 @@
         <translation>Vis skrivebordsbeskeder</translation>
     </message>
     <message>
-        <source>The following applications use files that setup needs to update. Close them and click Retry, click Ignore to continue without closing them, or click Exit to leave setup.</source>
-        <translation>Følgende programmer bruger filer som installationsprogrammet skal opdatere. Luk dem, og klik på ”Prøv igen”. Klik på ”Ignorer” for at fortsætte uden at lukke dem, eller klik på ”Afslut” for at forlade installationsprogrammet.</translation>
+        <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
+        <translation type="unfinished">Følgende programmer bruger filer som installationsprogrammet skal opdatere. Luk dem, og klik på ”Prøv igen”. Klik på ”Ignorer” for at fortsætte uden at lukke dem, eller klik på ”Afslut” for at forlade installationsprogrammet.</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -596,12 +596,12 @@
         <translation>Filer der svarer til et punkt på denne liste, synkroniseres ikke.</translation>
     </message>
     <message>
-        <source>Edit connection</source>
-        <translation>Rediger forbindelse</translation>
+        <source>Edit connection...</source>
+        <translation type="unfinished">Rediger forbindelse</translation>
     </message>
     <message>
-        <source>Options</source>
-        <translation>Valgmuligheder</translation>
+        <source>Settings</source>
+        <translation>Indstillinger</translation>
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
@@ -624,36 +624,32 @@
         <translation>Sæt på pause</translation>
     </message>
     <message>
-        <source>Show icon overlays on filtered files</source>
-        <translation>Vis ikonoverlejringer på filtrerede filer</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Indstillinger</translation>
+        <source>Show icon overlays on excluded files</source>
+        <translation type="unfinished">Vis ikonoverlejringer på filtrerede filer</translation>
     </message>
     <message>
         <source>Loading...</source>
         <translation>Indlæser…</translation>
     </message>
     <message>
-        <source>You can sync at most %1 shared folders. Stop syncing one of them before you add another.</source>
-        <translation>Antallet af delte mapper du kan synkronisere, er begrænset til %1. Stop synkroniseringen af en af dem før du tilføjer en ny.</translation>
+        <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
+        <translation type="unfinished">Antallet af delte mapper du kan synkronisere, er begrænset til %1. Stop synkroniseringen af en af dem før du tilføjer en ny.</translation>
     </message>
     <message>
-        <source>Unlink this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>Vil du fjerne tilknytningen af denne synkroniseringsopgave?\nDens filer bevares på denne computer og på serveren, men de bliver ikke længere synkroniseret.</translation>
+        <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">Vil du fjerne tilknytningen af denne synkroniseringsopgave?\nDens filer bevares på denne computer og på serveren, men de bliver ikke længere synkroniseret.</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
         <translation>Starter Quillmere…</translation>
     </message>
     <message>
-        <source>Quillmere could not be upgraded. Restart the computer, then try again.</source>
-        <translation>Quillmere kunne ikke opgraderes. Genstart computeren, og prøv igen.</translation>
+        <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Quillmere kunne ikke opgraderes. Genstart computeren, og prøv igen.</translation>
     </message>
     <message>
-        <source>Block names that begin with a dot</source>
-        <translation>Undtag navne der begynder med et punktum</translation>
+        <source>Exclude names that begin with a dot</source>
+        <translation type="unfinished">Undtag navne der begynder med et punktum</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -676,8 +672,8 @@
         <translation>Forbundet til serveren.</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}The [ProductName] Setup Wizard is complete</source>
-        <translation>{\VerdanaBold13}Installationsguiden til [ProductName] er færdig</translation>
+        <source>{\VerdanaBold13}[ProductName] setup is complete</source>
+        <translation type="unfinished">{\VerdanaBold13}Installationsguiden til [ProductName] er færdig</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -712,20 +708,20 @@
         <translation>Delt mappe</translation>
     </message>
     <message>
-        <source>Client options</source>
-        <translation>Klientindstillinger</translation>
+        <source>Quillmere settings</source>
+        <translation type="unfinished">Klientindstillinger</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
         <translation>Delingslinket kunne ikke slettes. Kontroller forbindelsen til serveren, og prøv igen.</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified. Ask the server administrator to check the certificate.</source>
-        <translation>Serverens SSL-certifikat kunne ikke bekræftes. Bed serveradministratoren om at kontrollere certifikatet.</translation>
+        <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
+        <translation type="unfinished">Serverens SSL-certifikat kunne ikke bekræftes. Bed serveradministratoren om at kontrollere certifikatet.</translation>
     </message>
     <message>
-        <source>This is not the server the connection was linked to. Check the server address, or link again.</source>
-        <translation>Dette er ikke den server som forbindelsen blev tilknyttet. Kontroller serveradressen, eller opret tilknytningen igen.</translation>
+        <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
+        <translation type="unfinished">Dette er ikke den server som forbindelsen blev tilknyttet. Kontroller serveradressen, eller opret tilknytningen igen.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -764,16 +760,16 @@
         <translation>Administrer forbindelser</translation>
     </message>
     <message>
-        <source>Link to another server</source>
-        <translation>Tilknyt til en anden server</translation>
+        <source>Connect to another server...</source>
+        <translation type="unfinished">Tilknyt til en anden server</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
         <translation>Vis ikonoverlejringer</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]Setting up [ProductName]</source>
-        <translation>[DlgTitleFont]Konfigurerer [ProductName]</translation>
+        <source>[DlgTitleFont]Making changes to [ProductName]</source>
+        <translation type="unfinished">[DlgTitleFont]Konfigurerer [ProductName]</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -792,8 +788,8 @@
         <translation>&amp;Installer</translation>
     </message>
     <message>
-        <source>File filter</source>
-        <translation>Filfilter</translation>
+        <source>Files to exclude</source>
+        <translation type="unfinished">Filfilter</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -804,8 +800,8 @@
         <translation>Jeg accepterer &amp;ikke vilkårene i licensaftalen</translation>
     </message>
     <message>
-        <source>Something went wrong. Try again, and contact the server administrator if the problem continues.</source>
-        <translation>Noget gik galt. Prøv igen, og kontakt serveradministratoren hvis problemet fortsætter.</translation>
+        <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Noget gik galt. Prøv igen, og kontakt serveradministratoren hvis problemet fortsætter.</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -828,8 +824,8 @@
         <translation>Proxyindstillinger</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator, so Quillmere might not install completely. Do you want to continue?</source>
-        <translation>Du er ikke logget ind som administrator, så Quillmere bliver muligvis ikke installeret fuldstændigt. Vil du fortsætte?</translation>
+        <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
+        <translation type="unfinished">Du er ikke logget ind som administrator, så Quillmere bliver muligvis ikke installeret fuldstændigt. Vil du fortsætte?</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
@@ -876,8 +872,8 @@
         <translation>Mappen er et monteringspunkt</translation>
     </message>
     <message>
-        <source>Choose another folder</source>
-        <translation>Vælg en anden mappe</translation>
+        <source>Choose another folder...</source>
+        <translation type="unfinished">Vælg en anden mappe</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -900,12 +896,16 @@
         <translation>Angiv serveradressen og den konto du bruger på serveren.</translation>
     </message>
     <message>
-        <source>A different server was found at the server address.</source>
-        <translation>Der blev fundet en anden server på serveradressen.</translation>
+        <source>Remove</source>
+        <translation type="unfinished">Fjern tilknytning</translation>
     </message>
     <message>
-        <source>Linking to the server...</source>
-        <translation>Tilknytter til serveren…</translation>
+        <source>Another server was found at the server address.</source>
+        <translation type="unfinished">Der blev fundet en anden server på serveradressen.</translation>
+    </message>
+    <message>
+        <source>Connecting to the server...</source>
+        <translation type="unfinished">Tilknytter til serveren…</translation>
     </message>
     <message>
         <source>Port</source>
@@ -928,8 +928,8 @@
         <translation>Brug systemets proxyindstillinger</translation>
     </message>
     <message>
-        <source>Change folder</source>
-        <translation>Skift mappe</translation>
+        <source>Change folder...</source>
+        <translation type="unfinished">Skift mappe</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -944,8 +944,8 @@
         <translation>Downloader…</translation>
     </message>
     <message>
-        <source>The file is locked</source>
-        <translation>Filen er låst</translation>
+        <source>File locked</source>
+        <translation type="unfinished">Filen er låst</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -956,8 +956,8 @@
         <translation>Forbereder…</translation>
     </message>
     <message>
-        <source>Updating files...</source>
-        <translation>Opdaterer filer…</translation>
+        <source>Syncing files...</source>
+        <translation type="unfinished">Opdaterer filer…</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -968,8 +968,8 @@
         <translation>Kontrollerer brugernavn og adgangskode…</translation>
     </message>
     <message>
-        <source>Wait while the Setup Wizard sets up [ProductName]. This can take several minutes.</source>
-        <translation>Vent mens installationsguiden konfigurerer [ProductName]. Det kan tage flere minutter.</translation>
+        <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
+        <translation type="unfinished">Vent mens installationsguiden konfigurerer [ProductName]. Det kan tage flere minutter.</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1020,24 +1020,24 @@
         <translation>Delingslinket blev kopieret til udklipsholderen.</translation>
     </message>
     <message>
-        <source>The local sync folder was not found. Restore the folder or choose a different one.</source>
-        <translation>Den lokale synkroniseringsmappe blev ikke fundet. Gendan mappen, eller vælg en anden.</translation>
+        <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
+        <translation type="unfinished">Den lokale synkroniseringsmappe blev ikke fundet. Gendan mappen, eller vælg en anden.</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
         <translation>Opgrader Quillmere</translation>
     </message>
     <message>
-        <source>Add sync task</source>
-        <translation>Tilføj synkroniseringsopgave</translation>
+        <source>Add sync task...</source>
+        <translation type="unfinished">Tilføj synkroniseringsopgave</translation>
     </message>
     <message>
-        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it.</source>
-        <translation>Den delte mappe er ikke monteret på serveren. Bed serveradministratoren om at montere den.</translation>
+        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
+        <translation type="unfinished">Den delte mappe er ikke monteret på serveren. Bed serveradministratoren om at montere den.</translation>
     </message>
     <message>
-        <source>The server sent an unexpected response. Upgrade the client and the server, then try again.</source>
-        <translation>Serveren sendte et uventet svar. Opgrader klienten og serveren, og prøv igen.</translation>
+        <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Serveren sendte et uventet svar. Opgrader klienten og serveren, og prøv igen.</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1052,8 +1052,8 @@
         <translation>Angiv en størrelse på højst %1&#xa0;MB.</translation>
     </message>
     <message>
-        <source>Checking the data...</source>
-        <translation>Kontrollerer dataene…</translation>
+        <source>Checking files...</source>
+        <translation type="unfinished">Kontrollerer dataene…</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
@@ -1064,8 +1064,8 @@
         <translation>Klik på ”Installer” for at begynde installationen af [ProductName]. Klik på ”Tilbage” for at gennemse dine valg, eller klik på ”Annuller” for at afslutte installationsguiden.</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}[ProductName] setup was interrupted</source>
-        <translation>{\VerdanaBold13}Installationsprogrammet til [ProductName] blev afbrudt</translation>
+        <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
+        <translation type="unfinished">{\VerdanaBold13}Installationsprogrammet til [ProductName] blev afbrudt</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1092,8 +1092,8 @@
         <translation>Netværksindstillinger</translation>
     </message>
     <message>
-        <source>This folder is already synced with another shared folder. Choose a different folder.</source>
-        <translation>Denne mappe synkroniseres allerede med en anden delt mappe. Vælg en anden mappe.</translation>
+        <source>This folder is already synced with another shared folder. Choose another folder.</source>
+        <translation type="unfinished">Denne mappe synkroniseres allerede med en anden delt mappe. Vælg en anden mappe.</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1132,24 +1132,24 @@
         <translation>Start Quillmere når jeg logger ind på denne computer</translation>
     </message>
     <message>
-        <source>All files from both folders are kept. If two versions of a file differ, you get both.</source>
-        <translation>Alle filer fra begge mapper bevares. Hvis to versioner af en fil er forskellige, får du dem begge.</translation>
+        <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
+        <translation type="unfinished">Alle filer fra begge mapper bevares. Hvis to versioner af en fil er forskellige, får du dem begge.</translation>
     </message>
     <message>
         <source>Repair the installation</source>
         <translation>Reparer installationen</translation>
     </message>
     <message>
-        <source>Sync enabled</source>
-        <translation>Synkronisering aktiveret</translation>
+        <source>Syncing turned on</source>
+        <translation type="unfinished">Synkronisering aktiveret</translation>
     </message>
     <message>
-        <source>Quillmere could not start. Restart the computer, then start Quillmere again.</source>
-        <translation>Quillmere kunne ikke starte. Genstart computeren, og start derefter Quillmere igen.</translation>
+        <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Quillmere kunne ikke starte. Genstart computeren, og start derefter Quillmere igen.</translation>
     </message>
     <message>
-        <source>Do you want to cancel the setup of [ProductName]?</source>
-        <translation>Vil du afbryde installationsprogrammet til [ProductName]?</translation>
+        <source>Cancel the setup of [ProductName]?</source>
+        <translation type="unfinished">Vil du afbryde installationsprogrammet til [ProductName]?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1172,28 +1172,28 @@
         <translation>Avancerede indstillinger</translation>
     </message>
     <message>
-        <source>Browse versions</source>
-        <translation>Gennemse versioner</translation>
+        <source>Browse versions...</source>
+        <translation type="unfinished">Gennemse versioner</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
         <translation>[DlgTitleFont]Æn&amp;dr</translation>
     </message>
     <message>
-        <source>This connection is inactive. Link it again to continue syncing.</source>
-        <translation>Denne forbindelse er inaktiv. Tilknyt den igen for at fortsætte synkroniseringen.</translation>
+        <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
+        <translation type="unfinished">Denne forbindelse er inaktiv. Tilknyt den igen for at fortsætte synkroniseringen.</translation>
     </message>
     <message>
         <source>Detecting...</source>
         <translation>Undersøger…</translation>
     </message>
     <message>
-        <source>SSL warning</source>
-        <translation>SSL-advarsel</translation>
+        <source>Certificate warning</source>
+        <translation type="unfinished">SSL-advarsel</translation>
     </message>
     <message>
-        <source>The relay service cannot be reached. Check your Internet connection, then try again.</source>
-        <translation>Relætjenesten kan ikke nås. Kontroller din internetforbindelse, og prøv igen.</translation>
+        <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
+        <translation type="unfinished">Relætjenesten kan ikke nås. Kontroller din internetforbindelse, og prøv igen.</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
@@ -1232,24 +1232,24 @@
         <translation>Direkte forbindelse</translation>
     </message>
     <message>
-        <source>The server volume that holds this folder is not mounted. Ask the server administrator to mount it.</source>
-        <translation>Den diskenhed på serveren som indeholder denne mappe, er ikke monteret. Bed serveradministratoren om at montere den.</translation>
+        <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
+        <translation type="unfinished">Den diskenhed på serveren som indeholder denne mappe, er ikke monteret. Bed serveradministratoren om at montere den.</translation>
     </message>
     <message>
-        <source>This version of Quillmere is already installed. Do you want to install it again?</source>
-        <translation>Denne version af Quillmere er allerede installeret. Vil du installere den igen?</translation>
+        <source>This version of Quillmere is already installed. Install it again?</source>
+        <translation type="unfinished">Denne version af Quillmere er allerede installeret. Vil du installere den igen?</translation>
     </message>
     <message>
-        <source>This client is too old for the server. Upgrade the client, then try again.</source>
-        <translation>Denne klient er for gammel til serveren. Opgrader klienten, og prøv igen.</translation>
+        <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
+        <translation type="unfinished">Denne klient er for gammel til serveren. Opgrader klienten, og prøv igen.</translation>
     </message>
     <message>
-        <source>The server is too old for this client.</source>
-        <translation>Serveren er for gammel til denne klient.</translation>
+        <source>Quillmere on the server is too old to work with this computer.</source>
+        <translation type="unfinished">Serveren er for gammel til denne klient.</translation>
     </message>
     <message>
-        <source>Disabled</source>
-        <translation>Deaktiveret</translation>
+        <source>Turned off</source>
+        <translation type="unfinished">Deaktiveret</translation>
     </message>
 </context>
 </TS>

@@ -40,8 +40,8 @@
         <translation>Verbindungsmodus</translation>
     </message>
     <message>
-        <source>The local database is damaged. Unlink the connection, then link it again to rebuild the database.</source>
-        <translation>Die lokale Datenbank ist beschädigt. Heben Sie die Verknüpfung mit dem Server auf und stellen Sie sie dann wieder her, um die Datenbank neu aufzubauen.</translation>
+        <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Die lokale Datenbank ist beschädigt. Heben Sie die Verknüpfung mit dem Server auf und stellen Sie sie dann wieder her, um die Datenbank neu aufzubauen.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
@@ -56,8 +56,8 @@
         <translation>[DlgTitleFont][ProductName] kann jetzt entfernt werden</translation>
     </message>
     <message>
-        <source>The server has been replaced. Click here to link again.</source>
-        <translation>Der Server wurde ersetzt. Klicken Sie hier, um die Verknüpfung erneut herzustellen.</translation>
+        <source>The server has been replaced. Click here to reconnect.</source>
+        <translation type="unfinished">Der Server wurde ersetzt. Klicken Sie hier, um die Verknüpfung erneut herzustellen.</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -68,16 +68,16 @@
         <translation>Mit dem Setup-Assistenten können Sie [ProductName] ändern, reparieren oder entfernen. Klicken Sie auf „Weiter“, um fortzufahren, oder auf „Abbrechen“, um den Setup-Assistenten zu beenden.</translation>
     </message>
     <message>
-        <source>Block list</source>
-        <translation>Ausschlussliste</translation>
+        <source>Exclusion list</source>
+        <translation type="unfinished">Ausschlussliste</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
         <translation>Diesen Freigabelink löschen?\nPersonen, die den Link haben, können die Datei dann nicht mehr öffnen.</translation>
     </message>
     <message>
-        <source>This client is too old for the server.</source>
-        <translation>Dieser Client ist zu alt für den Server.</translation>
+        <source>Quillmere on this computer is too old to work with the server.</source>
+        <translation type="unfinished">Dieser Client ist zu alt für den Server.</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
@@ -96,16 +96,16 @@
         <translation>Verbindung wird getestet…</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server is not trusted, so others may be able to read the data you send. Do you want to continue?</source>
-        <translation>Das SSL-Zertifikat des Servers ist nicht vertrauenswürdig. Andere können daher möglicherweise die von Ihnen gesendeten Daten lesen. Möchten Sie fortfahren?</translation>
+        <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
+        <translation type="unfinished">Das SSL-Zertifikat des Servers ist nicht vertrauenswürdig. Andere können daher möglicherweise die von Ihnen gesendeten Daten lesen. Möchten Sie fortfahren?</translation>
     </message>
     <message>
         <source>New shared folder</source>
         <translation>Neuer freigegebener Ordner</translation>
     </message>
     <message>
-        <source>About</source>
-        <translation>Info</translation>
+        <source>About Quillmere</source>
+        <translation type="unfinished">Info</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
@@ -120,8 +120,8 @@
         <translation>Der Setup-Assistent ist bereit, mit dem Entfernen zu beginnen.</translation>
     </message>
     <message>
-        <source>This computer is already linked to this server. Edit the existing connection or enter a different server.</source>
-        <translation>Dieser Computer ist bereits mit diesem Server verknüpft. Bearbeiten Sie die vorhandene Verbindung oder geben Sie einen anderen Server ein.</translation>
+        <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
+        <translation type="unfinished">Dieser Computer ist bereits mit diesem Server verknüpft. Bearbeiten Sie die vorhandene Verbindung oder geben Sie einen anderen Server ein.</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -132,12 +132,12 @@
         <translation>Die Verbindung zum Server wurde unterbrochen. Prüfen Sie die Netzwerkverbindung und versuchen Sie es dann erneut.</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified.</source>
-        <translation>Das SSL-Zertifikat des Servers konnte nicht überprüft werden.</translation>
+        <source>The certificate of the server could not be verified.</source>
+        <translation type="unfinished">Das SSL-Zertifikat des Servers konnte nicht überprüft werden.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
-        <translation>Schwarz-weißes Symbol im Infobereich verwenden</translation>
+        <source>Use a black-and-white tray icon</source>
+        <translation type="unfinished">Schwarz-weißes Symbol im Infobereich verwenden</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -152,20 +152,20 @@
         <translation>Synchronisierungsaufgaben</translation>
     </message>
     <message>
-        <source>Blocked files</source>
-        <translation>Ausgeschlossene Dateien</translation>
+        <source>Excluded files</source>
+        <translation type="unfinished">Ausgeschlossene Dateien</translation>
     </message>
     <message>
         <source>No permission</source>
         <translation>Keine Berechtigung</translation>
     </message>
     <message>
-        <source>The server is too old for this client. Ask the server administrator to upgrade it.</source>
-        <translation>Der Server ist zu alt für diesen Client. Bitten Sie den Serveradministrator, ihn zu aktualisieren.</translation>
+        <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
+        <translation type="unfinished">Der Server ist zu alt für diesen Client. Bitten Sie den Serveradministrator, ihn zu aktualisieren.</translation>
     </message>
     <message>
-        <source>To try again, run setup again later. Click Finish to exit the Setup Wizard.</source>
-        <translation>Um es erneut zu versuchen, führen Sie das Setup später noch einmal aus. Klicken Sie auf „Fertigstellen“, um den Setup-Assistenten zu beenden.</translation>
+        <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
+        <translation type="unfinished">Um es erneut zu versuchen, führen Sie das Setup später noch einmal aus. Klicken Sie auf „Fertigstellen“, um den Setup-Assistenten zu beenden.</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -180,8 +180,8 @@
         <translation>Klicken Sie auf „Reparieren“, um die Installation von [ProductName] zu reparieren. Klicken Sie auf „Zurück“, um Ihre Auswahl zu überprüfen, oder auf „Abbrechen“, um den Setup-Assistenten zu beenden.</translation>
     </message>
     <message>
-        <source>Some settings have not been saved. Do you want to save them?</source>
-        <translation>Einige Einstellungen wurden nicht gespeichert. Möchten Sie sie speichern?</translation>
+        <source>Some settings have not been saved. Save them?</source>
+        <translation type="unfinished">Einige Einstellungen wurden nicht gespeichert. Möchten Sie sie speichern?</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -192,8 +192,8 @@
         <translation>Aktion</translation>
     </message>
     <message>
-        <source>This folder is already used by another sync program. Choose a different folder to avoid conflicts.</source>
-        <translation>Dieser Ordner wird bereits von einem anderen Synchronisierungsprogramm verwendet. Wählen Sie einen anderen Ordner aus, um Konflikte zu vermeiden.</translation>
+        <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
+        <translation type="unfinished">Dieser Ordner wird bereits von einem anderen Synchronisierungsprogramm verwendet. Wählen Sie einen anderen Ordner aus, um Konflikte zu vermeiden.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -204,16 +204,16 @@
         <translation>Inkompatible Version</translation>
     </message>
     <message>
-        <source>Change the sync folder</source>
-        <translation>Synchronisierungsordner ändern</translation>
+        <source>Change sync folder</source>
+        <translation type="unfinished">Synchronisierungsordner ändern</translation>
     </message>
     <message>
-        <source>Enter a complete file name without a folder path.</source>
-        <translation>Geben Sie einen vollständigen Dateinamen ohne Ordnerpfad ein.</translation>
+        <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
+        <translation type="unfinished">Geben Sie einen vollständigen Dateinamen ohne Ordnerpfad ein.</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]An error stopped setup, and its changes were undone.</source>
-        <translation>[DlgTitleFont]Das Setup wurde aufgrund eines Fehlers abgebrochen. Alle Änderungen wurden rückgängig gemacht.</translation>
+        <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
+        <translation type="unfinished">[DlgTitleFont]Das Setup wurde aufgrund eines Fehlers abgebrochen. Alle Änderungen wurden rückgängig gemacht.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -240,8 +240,8 @@
         <translation>Name</translation>
     </message>
     <message>
-        <source>Encrypt data transfer with SSL</source>
-        <translation>Datenübertragung mit SSL verschlüsseln</translation>
+        <source>Use an encrypted connection (TLS)</source>
+        <translation type="unfinished">Datenübertragung mit SSL verschlüsseln</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -276,8 +276,8 @@
         <translation>Von dieser Datei gibt es noch keine früheren Versionen. Ändern Sie die Datei und lassen Sie sie synchronisieren, um eine zu erstellen.</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>Verknüpfung aufheben</translation>
+        <source>Disconnect</source>
+        <translation type="unfinished">Verknüpfung aufheben</translation>
     </message>
     <message>
         <source>Back</source>
@@ -316,8 +316,8 @@
         <translation>Einstellungen werden übernommen…</translation>
     </message>
     <message>
-        <source>Files that are not synced</source>
-        <translation>Dateien, die nicht synchronisiert werden</translation>
+        <source>Files excluded from syncing</source>
+        <translation type="unfinished">Dateien, die nicht synchronisiert werden</translation>
     </message>
     <message>
         <source>Created</source>
@@ -332,8 +332,8 @@
         <translation>Internet</translation>
     </message>
     <message>
-        <source>Choose the shared folders to sync</source>
-        <translation>Wählen Sie die zu synchronisierenden freigegebenen Ordner aus</translation>
+        <source>Choose shared folders to sync</source>
+        <translation type="unfinished">Wählen Sie die zu synchronisierenden freigegebenen Ordner aus</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -360,8 +360,8 @@
         <translation>Behebt Fehler in der Installation von [ProductName], indem fehlende oder beschädigte Dateien und Verknüpfungen wiederhergestellt werden.</translation>
     </message>
     <message>
-        <source>Blocked file extensions</source>
-        <translation>Ausgeschlossene Dateiendungen</translation>
+        <source>Excluded file extensions</source>
+        <translation type="unfinished">Ausgeschlossene Dateiendungen</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -376,16 +376,16 @@
         <translation>Passwort</translation>
     </message>
     <message>
-        <source>The volume that holds the sync folder is not mounted. Mount the volume, then resume syncing.</source>
-        <translation>Das Volume mit dem Synchronisierungsordner ist nicht eingehängt. Hängen Sie das Volume ein und setzen Sie die Synchronisierung dann fort.</translation>
+        <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
+        <translation type="unfinished">Das Volume mit dem Synchronisierungsordner ist nicht eingehängt. Hängen Sie das Volume ein und setzen Sie die Synchronisierung dann fort.</translation>
     </message>
     <message>
         <source>Edit</source>
         <translation>Bearbeiten</translation>
     </message>
     <message>
-        <source>This computer has no free disk space.</source>
-        <translation>Auf diesem Computer ist kein freier Speicherplatz vorhanden.</translation>
+        <source>The drive that holds the sync folder is full.</source>
+        <translation type="unfinished">Auf diesem Computer ist kein freier Speicherplatz vorhanden.</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -400,8 +400,8 @@
         <translation>&amp;Ignorieren</translation>
     </message>
     <message>
-        <source>A folder with this name already exists. Do you want to merge its files with those on the server?</source>
-        <translation>Ein Ordner mit diesem Namen ist bereits vorhanden. Möchten Sie seine Dateien mit denen auf dem Server zusammenführen?</translation>
+        <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
+        <translation type="unfinished">Ein Ordner mit diesem Namen ist bereits vorhanden. Möchten Sie seine Dateien mit denen auf dem Server zusammenführen?</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
@@ -448,12 +448,12 @@
         <translation>Fertig</translation>
     </message>
     <message>
-        <source>Syncing %1 files...</source>
-        <translation>Dateien werden synchronisiert (%1)…</translation>
+        <source>Files being synced: %1</source>
+        <translation type="unfinished">Dateien werden synchronisiert (%1)…</translation>
     </message>
     <message>
-        <source>Link again</source>
-        <translation>Erneut verknüpfen</translation>
+        <source>Reconnect</source>
+        <translation type="unfinished">Erneut verknüpfen</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -472,8 +472,8 @@
         <translation>Systemstandard</translation>
     </message>
     <message>
-        <source>The folders and files you cleared will be removed from this computer. They will be kept on the server.</source>
-        <translation>Die abgewählten Ordner und Dateien werden von diesem Computer entfernt. Auf dem Server bleiben sie erhalten.</translation>
+        <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
+        <translation type="unfinished">Die abgewählten Ordner und Dateien werden von diesem Computer entfernt. Auf dem Server bleiben sie erhalten.</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
@@ -488,28 +488,28 @@
         <translation>Kein Speicherplatz mehr</translation>
     </message>
     <message>
-        <source>Inactive</source>
-        <translation>Inaktiv</translation>
+        <source>Disconnected</source>
+        <translation type="unfinished">Inaktiv</translation>
     </message>
     <message>
-        <source>Your quota on the server is full.</source>
-        <translation>Ihr Speicherkontingent auf dem Server ist ausgeschöpft.</translation>
+        <source>You have used all of your space on the server.</source>
+        <translation type="unfinished">Ihr Speicherkontingent auf dem Server ist ausgeschöpft.</translation>
     </message>
     <message>
-        <source>Unlink this connection?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>Verknüpfung dieser Verbindung aufheben?\nIhre Dateien bleiben auf diesem Computer und auf dem Server erhalten, werden aber nicht mehr synchronisiert.</translation>
+        <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">Verknüpfung dieser Verbindung aufheben?\nIhre Dateien bleiben auf diesem Computer und auf dem Server erhalten, werden aber nicht mehr synchronisiert.</translation>
     </message>
     <message>
-        <source>The relay service has a problem. Try again later, or connect with the IP address of the server.</source>
-        <translation>Beim Relay-Dienst ist ein Problem aufgetreten. Versuchen Sie es später erneut oder stellen Sie die Verbindung über die IP-Adresse des Servers her.</translation>
+        <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
+        <translation type="unfinished">Beim Relay-Dienst ist ein Problem aufgetreten. Versuchen Sie es später erneut oder stellen Sie die Verbindung über die IP-Adresse des Servers her.</translation>
     </message>
     <message>
         <source>Server ID</source>
         <translation>Server-ID</translation>
     </message>
     <message>
-        <source>Blocked file names</source>
-        <translation>Ausgeschlossene Dateinamen</translation>
+        <source>Excluded file names</source>
+        <translation type="unfinished">Ausgeschlossene Dateinamen</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -520,20 +520,20 @@
         <translation>Fortfahren</translation>
     </message>
     <message>
-        <source>Enabled</source>
-        <translation>Aktiviert</translation>
+        <source>Turned on</source>
+        <translation type="unfinished">Aktiviert</translation>
     </message>
     <message>
-        <source>This computer has no free disk space. Free some space to continue syncing.</source>
-        <translation>Auf diesem Computer ist kein freier Speicherplatz vorhanden. Geben Sie Speicherplatz frei, um die Synchronisierung fortzusetzen.</translation>
+        <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
+        <translation type="unfinished">Auf diesem Computer ist kein freier Speicherplatz vorhanden. Geben Sie Speicherplatz frei, um die Synchronisierung fortzusetzen.</translation>
     </message>
     <message>
         <source>Folders to sync</source>
         <translation>Zu synchronisierende Ordner</translation>
     </message>
     <message>
-        <source>Choose a sync folder</source>
-        <translation>Synchronisierungsordner auswählen</translation>
+        <source>Choose sync folder</source>
+        <translation type="unfinished">Synchronisierungsordner auswählen</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -548,8 +548,8 @@
         <translation>Computer</translation>
     </message>
     <message>
-        <source>Your quota on the server is full. Delete files you do not need, or ask the server administrator for a larger quota.</source>
-        <translation>Ihr Speicherkontingent auf dem Server ist ausgeschöpft. Löschen Sie nicht mehr benötigte Dateien oder bitten Sie den Serveradministrator um ein größeres Kontingent.</translation>
+        <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
+        <translation type="unfinished">Ihr Speicherkontingent auf dem Server ist ausgeschöpft. Löschen Sie nicht mehr benötigte Dateien oder bitten Sie den Serveradministrator um ein größeres Kontingent.</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
@@ -564,12 +564,12 @@
         <translation>Folgenden Proxyserver verwenden</translation>
     </message>
     <message>
-        <source>This file was changed in two places. Compare both copies, then keep the one you need.</source>
-        <translation>Diese Datei wurde an zwei Orten geändert. Vergleichen Sie beide Kopien und behalten Sie diejenige, die Sie benötigen.</translation>
+        <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
+        <translation type="unfinished">Diese Datei wurde an zwei Orten geändert. Vergleichen Sie beide Kopien und behalten Sie diejenige, die Sie benötigen.</translation>
     </message>
     <message>
-        <source>One place for your files on every computer, through a server of your own</source>
-        <translation>Ein Ort für Ihre Dateien auf allen Computern, über einen eigenen Server</translation>
+        <source>All your files on every computer, kept on your own server</source>
+        <translation type="unfinished">Ein Ort für Ihre Dateien auf allen Computern, über einen eigenen Server</translation>
     </message>
     <message>
         <source>OK</source>
@@ -580,8 +580,8 @@
         <translation>Desktop-Benachrichtigungen anzeigen</translation>
     </message>
     <message>
-        <source>The following applications use files that setup needs to update. Close them and click Retry, click Ignore to continue without closing them, or click Exit to leave setup.</source>
-        <translation>Die folgenden Anwendungen verwenden Dateien, die vom Setup aktualisiert werden müssen. Schließen Sie die Anwendungen und klicken Sie auf „Wiederholen“. Klicken Sie auf „Ignorieren“, um fortzufahren, ohne sie zu schließen, oder auf „Beenden“, um das Setup zu verlassen.</translation>
+        <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
+        <translation type="unfinished">Die folgenden Anwendungen verwenden Dateien, die vom Setup aktualisiert werden müssen. Schließen Sie die Anwendungen und klicken Sie auf „Wiederholen“. Klicken Sie auf „Ignorieren“, um fortzufahren, ohne sie zu schließen, oder auf „Beenden“, um das Setup zu verlassen.</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -596,12 +596,12 @@
         <translation>Dateien, die einem Eintrag in dieser Liste entsprechen, werden nicht synchronisiert.</translation>
     </message>
     <message>
-        <source>Edit connection</source>
-        <translation>Verbindung bearbeiten</translation>
+        <source>Edit connection...</source>
+        <translation type="unfinished">Verbindung bearbeiten</translation>
     </message>
     <message>
-        <source>Options</source>
-        <translation>Optionen</translation>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
@@ -624,36 +624,32 @@
         <translation>Pausieren</translation>
     </message>
     <message>
-        <source>Show icon overlays on filtered files</source>
-        <translation>Overlay-Symbole auf gefilterten Dateien anzeigen</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Einstellungen</translation>
+        <source>Show icon overlays on excluded files</source>
+        <translation type="unfinished">Overlay-Symbole auf gefilterten Dateien anzeigen</translation>
     </message>
     <message>
         <source>Loading...</source>
         <translation>Wird geladen…</translation>
     </message>
     <message>
-        <source>You can sync at most %1 shared folders. Stop syncing one of them before you add another.</source>
-        <translation>Die Anzahl der synchronisierten freigegebenen Ordner ist auf %1 begrenzt. Beenden Sie die Synchronisierung eines dieser Ordner, bevor Sie einen weiteren hinzufügen.</translation>
+        <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
+        <translation type="unfinished">Die Anzahl der synchronisierten freigegebenen Ordner ist auf %1 begrenzt. Beenden Sie die Synchronisierung eines dieser Ordner, bevor Sie einen weiteren hinzufügen.</translation>
     </message>
     <message>
-        <source>Unlink this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>Verknüpfung dieser Synchronisierungsaufgabe aufheben?\nDie zugehörigen Dateien bleiben auf diesem Computer und auf dem Server erhalten, werden aber nicht mehr synchronisiert.</translation>
+        <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">Verknüpfung dieser Synchronisierungsaufgabe aufheben?\nDie zugehörigen Dateien bleiben auf diesem Computer und auf dem Server erhalten, werden aber nicht mehr synchronisiert.</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
         <translation>Quillmere wird gestartet…</translation>
     </message>
     <message>
-        <source>Quillmere could not be upgraded. Restart the computer, then try again.</source>
-        <translation>Quillmere konnte nicht aktualisiert werden. Starten Sie den Computer neu und versuchen Sie es dann erneut.</translation>
+        <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Quillmere konnte nicht aktualisiert werden. Starten Sie den Computer neu und versuchen Sie es dann erneut.</translation>
     </message>
     <message>
-        <source>Block names that begin with a dot</source>
-        <translation>Namen ausschließen, die mit einem Punkt beginnen</translation>
+        <source>Exclude names that begin with a dot</source>
+        <translation type="unfinished">Namen ausschließen, die mit einem Punkt beginnen</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -676,8 +672,8 @@
         <translation>Mit dem Server verbunden.</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}The [ProductName] Setup Wizard is complete</source>
-        <translation>{\VerdanaBold13}Der Setup-Assistent von [ProductName] ist abgeschlossen</translation>
+        <source>{\VerdanaBold13}[ProductName] setup is complete</source>
+        <translation type="unfinished">{\VerdanaBold13}Der Setup-Assistent von [ProductName] ist abgeschlossen</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -712,20 +708,20 @@
         <translation>Freigegebener Ordner</translation>
     </message>
     <message>
-        <source>Client options</source>
-        <translation>Client-Optionen</translation>
+        <source>Quillmere settings</source>
+        <translation type="unfinished">Client-Optionen</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
         <translation>Der Freigabelink konnte nicht gelöscht werden. Prüfen Sie die Verbindung zum Server und versuchen Sie es dann erneut.</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified. Ask the server administrator to check the certificate.</source>
-        <translation>Das SSL-Zertifikat des Servers konnte nicht überprüft werden. Bitten Sie den Serveradministrator, das Zertifikat zu überprüfen.</translation>
+        <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
+        <translation type="unfinished">Das SSL-Zertifikat des Servers konnte nicht überprüft werden. Bitten Sie den Serveradministrator, das Zertifikat zu überprüfen.</translation>
     </message>
     <message>
-        <source>This is not the server the connection was linked to. Check the server address, or link again.</source>
-        <translation>Dies ist nicht der Server, mit dem die Verbindung verknüpft wurde. Prüfen Sie die Serveradresse oder stellen Sie die Verknüpfung erneut her.</translation>
+        <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
+        <translation type="unfinished">Dies ist nicht der Server, mit dem die Verbindung verknüpft wurde. Prüfen Sie die Serveradresse oder stellen Sie die Verknüpfung erneut her.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -764,16 +760,16 @@
         <translation>Verbindungen verwalten</translation>
     </message>
     <message>
-        <source>Link to another server</source>
-        <translation>Mit weiterem Server verknüpfen</translation>
+        <source>Connect to another server...</source>
+        <translation type="unfinished">Mit weiterem Server verknüpfen</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
         <translation>Overlay-Symbole anzeigen</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]Setting up [ProductName]</source>
-        <translation>[DlgTitleFont]Setup von [ProductName] wird ausgeführt</translation>
+        <source>[DlgTitleFont]Making changes to [ProductName]</source>
+        <translation type="unfinished">[DlgTitleFont]Setup von [ProductName] wird ausgeführt</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -792,8 +788,8 @@
         <translation>&amp;Installieren</translation>
     </message>
     <message>
-        <source>File filter</source>
-        <translation>Dateifilter</translation>
+        <source>Files to exclude</source>
+        <translation type="unfinished">Dateifilter</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -804,8 +800,8 @@
         <translation>Ich akzeptiere die Bedingungen der Lizenzvereinbarung &amp;nicht</translation>
     </message>
     <message>
-        <source>Something went wrong. Try again, and contact the server administrator if the problem continues.</source>
-        <translation>Es ist ein Fehler aufgetreten. Versuchen Sie es erneut und wenden Sie sich an den Serveradministrator, wenn das Problem weiterhin besteht.</translation>
+        <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Es ist ein Fehler aufgetreten. Versuchen Sie es erneut und wenden Sie sich an den Serveradministrator, wenn das Problem weiterhin besteht.</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -828,8 +824,8 @@
         <translation>Proxyeinstellungen</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator, so Quillmere might not install completely. Do you want to continue?</source>
-        <translation>Sie sind nicht als Administrator angemeldet, daher wird Quillmere möglicherweise nicht vollständig installiert. Möchten Sie fortfahren?</translation>
+        <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
+        <translation type="unfinished">Sie sind nicht als Administrator angemeldet, daher wird Quillmere möglicherweise nicht vollständig installiert. Möchten Sie fortfahren?</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
@@ -876,8 +872,8 @@
         <translation>Ordner ist ein Einhängepunkt</translation>
     </message>
     <message>
-        <source>Choose another folder</source>
-        <translation>Anderen Ordner auswählen</translation>
+        <source>Choose another folder...</source>
+        <translation type="unfinished">Anderen Ordner auswählen</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -900,12 +896,16 @@
         <translation>Geben Sie die Serveradresse und die Zugangsdaten Ihres Kontos auf dem Server ein.</translation>
     </message>
     <message>
-        <source>A different server was found at the server address.</source>
-        <translation>Unter der Serveradresse wurde ein anderer Server gefunden.</translation>
+        <source>Remove</source>
+        <translation type="unfinished">Verknüpfung aufheben</translation>
     </message>
     <message>
-        <source>Linking to the server...</source>
-        <translation>Verknüpfung mit dem Server wird hergestellt…</translation>
+        <source>Another server was found at the server address.</source>
+        <translation type="unfinished">Unter der Serveradresse wurde ein anderer Server gefunden.</translation>
+    </message>
+    <message>
+        <source>Connecting to the server...</source>
+        <translation type="unfinished">Verknüpfung mit dem Server wird hergestellt…</translation>
     </message>
     <message>
         <source>Port</source>
@@ -928,8 +928,8 @@
         <translation>Proxyeinstellungen des Systems verwenden</translation>
     </message>
     <message>
-        <source>Change folder</source>
-        <translation>Ordner ändern</translation>
+        <source>Change folder...</source>
+        <translation type="unfinished">Ordner ändern</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -944,8 +944,8 @@
         <translation>Wird heruntergeladen…</translation>
     </message>
     <message>
-        <source>The file is locked</source>
-        <translation>Die Datei ist gesperrt</translation>
+        <source>File locked</source>
+        <translation type="unfinished">Die Datei ist gesperrt</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -956,8 +956,8 @@
         <translation>Wird vorbereitet…</translation>
     </message>
     <message>
-        <source>Updating files...</source>
-        <translation>Dateien werden aktualisiert…</translation>
+        <source>Syncing files...</source>
+        <translation type="unfinished">Dateien werden aktualisiert…</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -968,8 +968,8 @@
         <translation>Benutzername und Passwort werden überprüft…</translation>
     </message>
     <message>
-        <source>Wait while the Setup Wizard sets up [ProductName]. This can take several minutes.</source>
-        <translation>Bitte warten Sie, bis der Setup-Assistent das Setup von [ProductName] abgeschlossen hat. Dies kann einige Minuten dauern.</translation>
+        <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
+        <translation type="unfinished">Bitte warten Sie, bis der Setup-Assistent das Setup von [ProductName] abgeschlossen hat. Dies kann einige Minuten dauern.</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1020,24 +1020,24 @@
         <translation>Der Freigabelink wurde in die Zwischenablage kopiert.</translation>
     </message>
     <message>
-        <source>The local sync folder was not found. Restore the folder or choose a different one.</source>
-        <translation>Der lokale Synchronisierungsordner wurde nicht gefunden. Stellen Sie den Ordner wieder her oder wählen Sie einen anderen aus.</translation>
+        <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
+        <translation type="unfinished">Der lokale Synchronisierungsordner wurde nicht gefunden. Stellen Sie den Ordner wieder her oder wählen Sie einen anderen aus.</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
         <translation>Quillmere aktualisieren</translation>
     </message>
     <message>
-        <source>Add sync task</source>
-        <translation>Synchronisierungsaufgabe hinzufügen</translation>
+        <source>Add sync task...</source>
+        <translation type="unfinished">Synchronisierungsaufgabe hinzufügen</translation>
     </message>
     <message>
-        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it.</source>
-        <translation>Der freigegebene Ordner ist auf dem Server nicht eingehängt. Bitten Sie den Serveradministrator, ihn einzuhängen.</translation>
+        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
+        <translation type="unfinished">Der freigegebene Ordner ist auf dem Server nicht eingehängt. Bitten Sie den Serveradministrator, ihn einzuhängen.</translation>
     </message>
     <message>
-        <source>The server sent an unexpected response. Upgrade the client and the server, then try again.</source>
-        <translation>Der Server hat eine unerwartete Antwort gesendet. Aktualisieren Sie den Client und den Server und versuchen Sie es dann erneut.</translation>
+        <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Der Server hat eine unerwartete Antwort gesendet. Aktualisieren Sie den Client und den Server und versuchen Sie es dann erneut.</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1052,8 +1052,8 @@
         <translation>Geben Sie eine Größe von höchstens %1&#xa0;MB ein.</translation>
     </message>
     <message>
-        <source>Checking the data...</source>
-        <translation>Daten werden überprüft…</translation>
+        <source>Checking files...</source>
+        <translation type="unfinished">Daten werden überprüft…</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
@@ -1064,8 +1064,8 @@
         <translation>Klicken Sie auf „Installieren“, um mit der Installation von [ProductName] zu beginnen. Klicken Sie auf „Zurück“, um Ihre Auswahl zu überprüfen, oder auf „Abbrechen“, um den Setup-Assistenten zu beenden.</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}[ProductName] setup was interrupted</source>
-        <translation>{\VerdanaBold13}Das Setup von [ProductName] wurde abgebrochen</translation>
+        <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
+        <translation type="unfinished">{\VerdanaBold13}Das Setup von [ProductName] wurde abgebrochen</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1092,8 +1092,8 @@
         <translation>Netzwerkeinstellungen</translation>
     </message>
     <message>
-        <source>This folder is already synced with another shared folder. Choose a different folder.</source>
-        <translation>Dieser Ordner wird bereits mit einem anderen freigegebenen Ordner synchronisiert. Wählen Sie einen anderen Ordner aus.</translation>
+        <source>This folder is already synced with another shared folder. Choose another folder.</source>
+        <translation type="unfinished">Dieser Ordner wird bereits mit einem anderen freigegebenen Ordner synchronisiert. Wählen Sie einen anderen Ordner aus.</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1132,24 +1132,24 @@
         <translation>Quillmere bei der Anmeldung an diesem Computer starten</translation>
     </message>
     <message>
-        <source>All files from both folders are kept. If two versions of a file differ, you get both.</source>
-        <translation>Alle Dateien aus beiden Ordnern bleiben erhalten. Wenn sich zwei Versionen einer Datei unterscheiden, erhalten Sie beide.</translation>
+        <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
+        <translation type="unfinished">Alle Dateien aus beiden Ordnern bleiben erhalten. Wenn sich zwei Versionen einer Datei unterscheiden, erhalten Sie beide.</translation>
     </message>
     <message>
         <source>Repair the installation</source>
         <translation>Installation reparieren</translation>
     </message>
     <message>
-        <source>Sync enabled</source>
-        <translation>Synchronisierung aktiviert</translation>
+        <source>Syncing turned on</source>
+        <translation type="unfinished">Synchronisierung aktiviert</translation>
     </message>
     <message>
-        <source>Quillmere could not start. Restart the computer, then start Quillmere again.</source>
-        <translation>Quillmere konnte nicht gestartet werden. Starten Sie den Computer neu und starten Sie dann Quillmere erneut.</translation>
+        <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Quillmere konnte nicht gestartet werden. Starten Sie den Computer neu und starten Sie dann Quillmere erneut.</translation>
     </message>
     <message>
-        <source>Do you want to cancel the setup of [ProductName]?</source>
-        <translation>Möchten Sie das Setup von [ProductName] abbrechen?</translation>
+        <source>Cancel the setup of [ProductName]?</source>
+        <translation type="unfinished">Möchten Sie das Setup von [ProductName] abbrechen?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1172,28 +1172,28 @@
         <translation>Erweiterte Einstellungen</translation>
     </message>
     <message>
-        <source>Browse versions</source>
-        <translation>Versionen durchsuchen</translation>
+        <source>Browse versions...</source>
+        <translation type="unfinished">Versionen durchsuchen</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
         <translation>[DlgTitleFont]Ä&amp;ndern</translation>
     </message>
     <message>
-        <source>This connection is inactive. Link it again to continue syncing.</source>
-        <translation>Diese Verbindung ist inaktiv. Verknüpfen Sie sie erneut, um die Synchronisierung fortzusetzen.</translation>
+        <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
+        <translation type="unfinished">Diese Verbindung ist inaktiv. Verknüpfen Sie sie erneut, um die Synchronisierung fortzusetzen.</translation>
     </message>
     <message>
         <source>Detecting...</source>
         <translation>Wird ermittelt…</translation>
     </message>
     <message>
-        <source>SSL warning</source>
-        <translation>SSL-Warnung</translation>
+        <source>Certificate warning</source>
+        <translation type="unfinished">SSL-Warnung</translation>
     </message>
     <message>
-        <source>The relay service cannot be reached. Check your Internet connection, then try again.</source>
-        <translation>Der Relay-Dienst ist nicht erreichbar. Prüfen Sie Ihre Internetverbindung und versuchen Sie es dann erneut.</translation>
+        <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
+        <translation type="unfinished">Der Relay-Dienst ist nicht erreichbar. Prüfen Sie Ihre Internetverbindung und versuchen Sie es dann erneut.</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
@@ -1232,24 +1232,24 @@
         <translation>Direkte Verbindung</translation>
     </message>
     <message>
-        <source>The server volume that holds this folder is not mounted. Ask the server administrator to mount it.</source>
-        <translation>Das Server-Volume, auf dem sich dieser Ordner befindet, ist nicht eingehängt. Bitten Sie den Serveradministrator, es einzuhängen.</translation>
+        <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
+        <translation type="unfinished">Das Server-Volume, auf dem sich dieser Ordner befindet, ist nicht eingehängt. Bitten Sie den Serveradministrator, es einzuhängen.</translation>
     </message>
     <message>
-        <source>This version of Quillmere is already installed. Do you want to install it again?</source>
-        <translation>Diese Version von Quillmere ist bereits installiert. Möchten Sie sie erneut installieren?</translation>
+        <source>This version of Quillmere is already installed. Install it again?</source>
+        <translation type="unfinished">Diese Version von Quillmere ist bereits installiert. Möchten Sie sie erneut installieren?</translation>
     </message>
     <message>
-        <source>This client is too old for the server. Upgrade the client, then try again.</source>
-        <translation>Dieser Client ist zu alt für den Server. Aktualisieren Sie den Client und versuchen Sie es dann erneut.</translation>
+        <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
+        <translation type="unfinished">Dieser Client ist zu alt für den Server. Aktualisieren Sie den Client und versuchen Sie es dann erneut.</translation>
     </message>
     <message>
-        <source>The server is too old for this client.</source>
-        <translation>Der Server ist zu alt für diesen Client.</translation>
+        <source>Quillmere on the server is too old to work with this computer.</source>
+        <translation type="unfinished">Der Server ist zu alt für diesen Client.</translation>
     </message>
     <message>
-        <source>Disabled</source>
-        <translation>Deaktiviert</translation>
+        <source>Turned off</source>
+        <translation type="unfinished">Deaktiviert</translation>
     </message>
 </context>
 </TS>

@@ -40,8 +40,8 @@
         <translation>Connection mode</translation>
     </message>
     <message>
-        <source>The local database is damaged. Unlink the connection, then link it again to rebuild the database.</source>
-        <translation>The local database is damaged. Unlink the connection, then link it again to rebuild the database.</translation>
+        <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
+        <translation>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
@@ -56,8 +56,8 @@
         <translation>[DlgTitleFont]Ready to remove [ProductName]</translation>
     </message>
     <message>
-        <source>The server has been replaced. Click here to link again.</source>
-        <translation>The server has been replaced. Click here to link again.</translation>
+        <source>The server has been replaced. Click here to reconnect.</source>
+        <translation>The server has been replaced. Click here to reconnect.</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -68,16 +68,16 @@
         <translation>The Setup Wizard lets you change, repair, or remove [ProductName]. Click Next to continue, or click Cancel to exit the Setup Wizard.</translation>
     </message>
     <message>
-        <source>Block list</source>
-        <translation>Block list</translation>
+        <source>Exclusion list</source>
+        <translation>Exclusion list</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
         <translation>Delete this share link?\nPeople who have the link will no longer be able to open the file.</translation>
     </message>
     <message>
-        <source>This client is too old for the server.</source>
-        <translation>This client is too old for the server.</translation>
+        <source>Quillmere on this computer is too old to work with the server.</source>
+        <translation>Quillmere on this computer is too old to work with the server.</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
@@ -96,16 +96,16 @@
         <translation>Testing the connection...</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server is not trusted, so others may be able to read the data you send. Do you want to continue?</source>
-        <translation>The SSL certificate of the server is not trusted, so others may be able to read the data you send. Do you want to continue?</translation>
+        <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
+        <translation>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</translation>
     </message>
     <message>
         <source>New shared folder</source>
         <translation>New shared folder</translation>
     </message>
     <message>
-        <source>About</source>
-        <translation>About</translation>
+        <source>About Quillmere</source>
+        <translation>About Quillmere</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
@@ -120,8 +120,8 @@
         <translation>The Setup Wizard is ready to begin the removal.</translation>
     </message>
     <message>
-        <source>This computer is already linked to this server. Edit the existing connection or enter a different server.</source>
-        <translation>This computer is already linked to this server. Edit the existing connection or enter a different server.</translation>
+        <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
+        <translation>This computer is already connected to this server. Edit the existing connection, or enter another server.</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -132,12 +132,12 @@
         <translation>The connection to the server was lost. Check the network connection, then try again.</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified.</source>
-        <translation>The SSL certificate of the server could not be verified.</translation>
+        <source>The certificate of the server could not be verified.</source>
+        <translation>The certificate of the server could not be verified.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
-        <translation>Use a black and white tray icon</translation>
+        <source>Use a black-and-white tray icon</source>
+        <translation>Use a black-and-white tray icon</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -152,20 +152,20 @@
         <translation>Sync tasks</translation>
     </message>
     <message>
-        <source>Blocked files</source>
-        <translation>Blocked files</translation>
+        <source>Excluded files</source>
+        <translation>Excluded files</translation>
     </message>
     <message>
         <source>No permission</source>
         <translation>No permission</translation>
     </message>
     <message>
-        <source>The server is too old for this client. Ask the server administrator to upgrade it.</source>
-        <translation>The server is too old for this client. Ask the server administrator to upgrade it.</translation>
+        <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
+        <translation>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</translation>
     </message>
     <message>
-        <source>To try again, run setup again later. Click Finish to exit the Setup Wizard.</source>
-        <translation>To try again, run setup again later. Click Finish to exit the Setup Wizard.</translation>
+        <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
+        <translation>You can run setup again at any time. Click Finish to exit the Setup Wizard.</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -180,8 +180,8 @@
         <translation>Click Repair to repair the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</translation>
     </message>
     <message>
-        <source>Some settings have not been saved. Do you want to save them?</source>
-        <translation>Some settings have not been saved. Do you want to save them?</translation>
+        <source>Some settings have not been saved. Save them?</source>
+        <translation>Some settings have not been saved. Save them?</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -192,8 +192,8 @@
         <translation>Action</translation>
     </message>
     <message>
-        <source>This folder is already used by another sync program. Choose a different folder to avoid conflicts.</source>
-        <translation>This folder is already used by another sync program. Choose a different folder to avoid conflicts.</translation>
+        <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
+        <translation>This folder is already used by another sync program. Choose another folder to avoid conflicts.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -204,16 +204,16 @@
         <translation>Incompatible version</translation>
     </message>
     <message>
-        <source>Change the sync folder</source>
-        <translation>Change the sync folder</translation>
+        <source>Change sync folder</source>
+        <translation>Change sync folder</translation>
     </message>
     <message>
-        <source>Enter a complete file name without a folder path.</source>
-        <translation>Enter a complete file name without a folder path.</translation>
+        <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
+        <translation>Enter a complete file name without a folder path, for example thumbs.db.</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]An error stopped setup, and its changes were undone.</source>
-        <translation>[DlgTitleFont]An error stopped setup, and its changes were undone.</translation>
+        <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
+        <translation>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -240,8 +240,8 @@
         <translation>Name</translation>
     </message>
     <message>
-        <source>Encrypt data transfer with SSL</source>
-        <translation>Encrypt data transfer with SSL</translation>
+        <source>Use an encrypted connection (TLS)</source>
+        <translation>Use an encrypted connection (TLS)</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -276,8 +276,8 @@
         <translation>This file has no earlier versions yet. Change the file and let it sync to create one.</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>Unlink</translation>
+        <source>Disconnect</source>
+        <translation>Disconnect</translation>
     </message>
     <message>
         <source>Back</source>
@@ -316,8 +316,8 @@
         <translation>Applying the settings...</translation>
     </message>
     <message>
-        <source>Files that are not synced</source>
-        <translation>Files that are not synced</translation>
+        <source>Files excluded from syncing</source>
+        <translation>Files excluded from syncing</translation>
     </message>
     <message>
         <source>Created</source>
@@ -332,8 +332,8 @@
         <translation>Internet</translation>
     </message>
     <message>
-        <source>Choose the shared folders to sync</source>
-        <translation>Choose the shared folders to sync</translation>
+        <source>Choose shared folders to sync</source>
+        <translation>Choose shared folders to sync</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -360,8 +360,8 @@
         <translation>Repairs errors in the installation of [ProductName] by restoring missing or damaged files and shortcuts.</translation>
     </message>
     <message>
-        <source>Blocked file extensions</source>
-        <translation>Blocked file extensions</translation>
+        <source>Excluded file extensions</source>
+        <translation>Excluded file extensions</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -376,16 +376,16 @@
         <translation>Password</translation>
     </message>
     <message>
-        <source>The volume that holds the sync folder is not mounted. Mount the volume, then resume syncing.</source>
-        <translation>The volume that holds the sync folder is not mounted. Mount the volume, then resume syncing.</translation>
+        <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
+        <translation>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</translation>
     </message>
     <message>
         <source>Edit</source>
         <translation>Edit</translation>
     </message>
     <message>
-        <source>This computer has no free disk space.</source>
-        <translation>This computer has no free disk space.</translation>
+        <source>The drive that holds the sync folder is full.</source>
+        <translation>The drive that holds the sync folder is full.</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -400,8 +400,8 @@
         <translation>&amp;Ignore</translation>
     </message>
     <message>
-        <source>A folder with this name already exists. Do you want to merge its files with those on the server?</source>
-        <translation>A folder with this name already exists. Do you want to merge its files with those on the server?</translation>
+        <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
+        <translation>A folder with this name already exists on this computer. Merge its files with those on the server?</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
@@ -448,12 +448,12 @@
         <translation>Done</translation>
     </message>
     <message>
-        <source>Syncing %1 files...</source>
-        <translation>Syncing %1 files...</translation>
+        <source>Files being synced: %1</source>
+        <translation>Files being synced: %1</translation>
     </message>
     <message>
-        <source>Link again</source>
-        <translation>Link again</translation>
+        <source>Reconnect</source>
+        <translation>Reconnect</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -472,8 +472,8 @@
         <translation>System default</translation>
     </message>
     <message>
-        <source>The folders and files you cleared will be removed from this computer. They will be kept on the server.</source>
-        <translation>The folders and files you cleared will be removed from this computer. They will be kept on the server.</translation>
+        <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
+        <translation>The folders and files you deselected will be removed from this computer. They will be kept on the server.</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
@@ -488,28 +488,28 @@
         <translation>No space left</translation>
     </message>
     <message>
-        <source>Inactive</source>
-        <translation>Inactive</translation>
+        <source>Disconnected</source>
+        <translation>Disconnected</translation>
     </message>
     <message>
-        <source>Your quota on the server is full.</source>
-        <translation>Your quota on the server is full.</translation>
+        <source>You have used all of your space on the server.</source>
+        <translation>You have used all of your space on the server.</translation>
     </message>
     <message>
-        <source>Unlink this connection?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>Unlink this connection?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</translation>
+        <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</translation>
     </message>
     <message>
-        <source>The relay service has a problem. Try again later, or connect with the IP address of the server.</source>
-        <translation>The relay service has a problem. Try again later, or connect with the IP address of the server.</translation>
+        <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
+        <translation>The relay service has a problem. Try again later, or connect to the server by its IP address.</translation>
     </message>
     <message>
         <source>Server ID</source>
         <translation>Server ID</translation>
     </message>
     <message>
-        <source>Blocked file names</source>
-        <translation>Blocked file names</translation>
+        <source>Excluded file names</source>
+        <translation>Excluded file names</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -520,20 +520,20 @@
         <translation>Continue</translation>
     </message>
     <message>
-        <source>Enabled</source>
-        <translation>Enabled</translation>
+        <source>Turned on</source>
+        <translation>Turned on</translation>
     </message>
     <message>
-        <source>This computer has no free disk space. Free some space to continue syncing.</source>
-        <translation>This computer has no free disk space. Free some space to continue syncing.</translation>
+        <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
+        <translation>The drive that holds the sync folder is full. Free some space on it to continue syncing.</translation>
     </message>
     <message>
         <source>Folders to sync</source>
         <translation>Folders to sync</translation>
     </message>
     <message>
-        <source>Choose a sync folder</source>
-        <translation>Choose a sync folder</translation>
+        <source>Choose sync folder</source>
+        <translation>Choose sync folder</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -548,8 +548,8 @@
         <translation>Computer</translation>
     </message>
     <message>
-        <source>Your quota on the server is full. Delete files you do not need, or ask the server administrator for a larger quota.</source>
-        <translation>Your quota on the server is full. Delete files you do not need, or ask the server administrator for a larger quota.</translation>
+        <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
+        <translation>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
@@ -564,12 +564,12 @@
         <translation>Use the following proxy server</translation>
     </message>
     <message>
-        <source>This file was changed in two places. Compare both copies, then keep the one you need.</source>
-        <translation>This file was changed in two places. Compare both copies, then keep the one you need.</translation>
+        <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
+        <translation>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</translation>
     </message>
     <message>
-        <source>One place for your files on every computer, through a server of your own</source>
-        <translation>One place for your files on every computer, through a server of your own</translation>
+        <source>All your files on every computer, kept on your own server</source>
+        <translation>All your files on every computer, kept on your own server</translation>
     </message>
     <message>
         <source>OK</source>
@@ -580,8 +580,8 @@
         <translation>Show desktop notifications</translation>
     </message>
     <message>
-        <source>The following applications use files that setup needs to update. Close them and click Retry, click Ignore to continue without closing them, or click Exit to leave setup.</source>
-        <translation>The following applications use files that setup needs to update. Close them and click Retry, click Ignore to continue without closing them, or click Exit to leave setup.</translation>
+        <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
+        <translation>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -596,12 +596,12 @@
         <translation>Files that match an entry in this list are not synced.</translation>
     </message>
     <message>
-        <source>Edit connection</source>
-        <translation>Edit connection</translation>
+        <source>Edit connection...</source>
+        <translation>Edit connection...</translation>
     </message>
     <message>
-        <source>Options</source>
-        <translation>Options</translation>
+        <source>Settings</source>
+        <translation>Settings</translation>
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
@@ -624,36 +624,32 @@
         <translation>Pause</translation>
     </message>
     <message>
-        <source>Show icon overlays on filtered files</source>
-        <translation>Show icon overlays on filtered files</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Settings</translation>
+        <source>Show icon overlays on excluded files</source>
+        <translation>Show icon overlays on excluded files</translation>
     </message>
     <message>
         <source>Loading...</source>
         <translation>Loading...</translation>
     </message>
     <message>
-        <source>You can sync at most %1 shared folders. Stop syncing one of them before you add another.</source>
-        <translation>You can sync at most %1 shared folders. Stop syncing one of them before you add another.</translation>
+        <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
+        <translation>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</translation>
     </message>
     <message>
-        <source>Unlink this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>Unlink this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</translation>
+        <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
         <translation>Starting Quillmere...</translation>
     </message>
     <message>
-        <source>Quillmere could not be upgraded. Restart the computer, then try again.</source>
-        <translation>Quillmere could not be upgraded. Restart the computer, then try again.</translation>
+        <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
+        <translation>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</translation>
     </message>
     <message>
-        <source>Block names that begin with a dot</source>
-        <translation>Block names that begin with a dot</translation>
+        <source>Exclude names that begin with a dot</source>
+        <translation>Exclude names that begin with a dot</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -676,8 +672,8 @@
         <translation>Connected to the server.</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}The [ProductName] Setup Wizard is complete</source>
-        <translation>{\VerdanaBold13}The [ProductName] Setup Wizard is complete</translation>
+        <source>{\VerdanaBold13}[ProductName] setup is complete</source>
+        <translation>{\VerdanaBold13}[ProductName] setup is complete</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -712,20 +708,20 @@
         <translation>Shared folder</translation>
     </message>
     <message>
-        <source>Client options</source>
-        <translation>Client options</translation>
+        <source>Quillmere settings</source>
+        <translation>Quillmere settings</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
         <translation>The share link could not be deleted. Check the connection to the server, then try again.</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified. Ask the server administrator to check the certificate.</source>
-        <translation>The SSL certificate of the server could not be verified. Ask the server administrator to check the certificate.</translation>
+        <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
+        <translation>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</translation>
     </message>
     <message>
-        <source>This is not the server the connection was linked to. Check the server address, or link again.</source>
-        <translation>This is not the server the connection was linked to. Check the server address, or link again.</translation>
+        <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
+        <translation>This is not the server that this computer was connected to. Check the server address, or reconnect.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -764,16 +760,16 @@
         <translation>Manage connections</translation>
     </message>
     <message>
-        <source>Link to another server</source>
-        <translation>Link to another server</translation>
+        <source>Connect to another server...</source>
+        <translation>Connect to another server...</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
         <translation>Show icon overlays</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]Setting up [ProductName]</source>
-        <translation>[DlgTitleFont]Setting up [ProductName]</translation>
+        <source>[DlgTitleFont]Making changes to [ProductName]</source>
+        <translation>[DlgTitleFont]Making changes to [ProductName]</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -792,8 +788,8 @@
         <translation>&amp;Install</translation>
     </message>
     <message>
-        <source>File filter</source>
-        <translation>File filter</translation>
+        <source>Files to exclude</source>
+        <translation>Files to exclude</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -804,8 +800,8 @@
         <translation>I &amp;do not accept the terms of the license agreement</translation>
     </message>
     <message>
-        <source>Something went wrong. Try again, and contact the server administrator if the problem continues.</source>
-        <translation>Something went wrong. Try again, and contact the server administrator if the problem continues.</translation>
+        <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
+        <translation>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -828,8 +824,8 @@
         <translation>Proxy settings</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator, so Quillmere might not install completely. Do you want to continue?</source>
-        <translation>You are not signed in as an administrator, so Quillmere might not install completely. Do you want to continue?</translation>
+        <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
+        <translation>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
@@ -876,8 +872,8 @@
         <translation>Folder is a mount point</translation>
     </message>
     <message>
-        <source>Choose another folder</source>
-        <translation>Choose another folder</translation>
+        <source>Choose another folder...</source>
+        <translation>Choose another folder...</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -900,12 +896,16 @@
         <translation>Enter the server address and the account you use on the server.</translation>
     </message>
     <message>
-        <source>A different server was found at the server address.</source>
-        <translation>A different server was found at the server address.</translation>
+        <source>Remove</source>
+        <translation>Remove</translation>
     </message>
     <message>
-        <source>Linking to the server...</source>
-        <translation>Linking to the server...</translation>
+        <source>Another server was found at the server address.</source>
+        <translation>Another server was found at the server address.</translation>
+    </message>
+    <message>
+        <source>Connecting to the server...</source>
+        <translation>Connecting to the server...</translation>
     </message>
     <message>
         <source>Port</source>
@@ -928,8 +928,8 @@
         <translation>Use the system proxy settings</translation>
     </message>
     <message>
-        <source>Change folder</source>
-        <translation>Change folder</translation>
+        <source>Change folder...</source>
+        <translation>Change folder...</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -944,8 +944,8 @@
         <translation>Downloading...</translation>
     </message>
     <message>
-        <source>The file is locked</source>
-        <translation>The file is locked</translation>
+        <source>File locked</source>
+        <translation>File locked</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -956,8 +956,8 @@
         <translation>Preparing...</translation>
     </message>
     <message>
-        <source>Updating files...</source>
-        <translation>Updating files...</translation>
+        <source>Syncing files...</source>
+        <translation>Syncing files...</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -968,8 +968,8 @@
         <translation>Checking the user name and password...</translation>
     </message>
     <message>
-        <source>Wait while the Setup Wizard sets up [ProductName]. This can take several minutes.</source>
-        <translation>Wait while the Setup Wizard sets up [ProductName]. This can take several minutes.</translation>
+        <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
+        <translation>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1020,24 +1020,24 @@
         <translation>The share link was copied to the clipboard.</translation>
     </message>
     <message>
-        <source>The local sync folder was not found. Restore the folder or choose a different one.</source>
-        <translation>The local sync folder was not found. Restore the folder or choose a different one.</translation>
+        <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
+        <translation>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
         <translation>Upgrade Quillmere</translation>
     </message>
     <message>
-        <source>Add sync task</source>
-        <translation>Add sync task</translation>
+        <source>Add sync task...</source>
+        <translation>Add sync task...</translation>
     </message>
     <message>
-        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it.</source>
-        <translation>The shared folder is not mounted on the server. Ask the server administrator to mount it.</translation>
+        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
+        <translation>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</translation>
     </message>
     <message>
-        <source>The server sent an unexpected response. Upgrade the client and the server, then try again.</source>
-        <translation>The server sent an unexpected response. Upgrade the client and the server, then try again.</translation>
+        <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
+        <translation>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1052,8 +1052,8 @@
         <translation>Enter a size of at most %1 MB.</translation>
     </message>
     <message>
-        <source>Checking the data...</source>
-        <translation>Checking the data...</translation>
+        <source>Checking files...</source>
+        <translation>Checking files...</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
@@ -1064,8 +1064,8 @@
         <translation>Click Install to begin the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}[ProductName] setup was interrupted</source>
-        <translation>{\VerdanaBold13}[ProductName] setup was interrupted</translation>
+        <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
+        <translation>{\VerdanaBold13}[ProductName] setup was canceled</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1092,8 +1092,8 @@
         <translation>Network settings</translation>
     </message>
     <message>
-        <source>This folder is already synced with another shared folder. Choose a different folder.</source>
-        <translation>This folder is already synced with another shared folder. Choose a different folder.</translation>
+        <source>This folder is already synced with another shared folder. Choose another folder.</source>
+        <translation>This folder is already synced with another shared folder. Choose another folder.</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1132,24 +1132,24 @@
         <translation>Start Quillmere when I sign in to this computer</translation>
     </message>
     <message>
-        <source>All files from both folders are kept. If two versions of a file differ, you get both.</source>
-        <translation>All files from both folders are kept. If two versions of a file differ, you get both.</translation>
+        <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
+        <translation>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</translation>
     </message>
     <message>
         <source>Repair the installation</source>
         <translation>Repair the installation</translation>
     </message>
     <message>
-        <source>Sync enabled</source>
-        <translation>Sync enabled</translation>
+        <source>Syncing turned on</source>
+        <translation>Syncing turned on</translation>
     </message>
     <message>
-        <source>Quillmere could not start. Restart the computer, then start Quillmere again.</source>
-        <translation>Quillmere could not start. Restart the computer, then start Quillmere again.</translation>
+        <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
+        <translation>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</translation>
     </message>
     <message>
-        <source>Do you want to cancel the setup of [ProductName]?</source>
-        <translation>Do you want to cancel the setup of [ProductName]?</translation>
+        <source>Cancel the setup of [ProductName]?</source>
+        <translation>Cancel the setup of [ProductName]?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1172,28 +1172,28 @@
         <translation>Advanced settings</translation>
     </message>
     <message>
-        <source>Browse versions</source>
-        <translation>Browse versions</translation>
+        <source>Browse versions...</source>
+        <translation>Browse versions...</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
         <translation>[DlgTitleFont]&amp;Change</translation>
     </message>
     <message>
-        <source>This connection is inactive. Link it again to continue syncing.</source>
-        <translation>This connection is inactive. Link it again to continue syncing.</translation>
+        <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
+        <translation>This computer is disconnected from the server. Reconnect to continue syncing.</translation>
     </message>
     <message>
         <source>Detecting...</source>
         <translation>Detecting...</translation>
     </message>
     <message>
-        <source>SSL warning</source>
-        <translation>SSL warning</translation>
+        <source>Certificate warning</source>
+        <translation>Certificate warning</translation>
     </message>
     <message>
-        <source>The relay service cannot be reached. Check your Internet connection, then try again.</source>
-        <translation>The relay service cannot be reached. Check your Internet connection, then try again.</translation>
+        <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
+        <translation>The relay service cannot be reached. Check the internet connection, then try again.</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
@@ -1232,24 +1232,24 @@
         <translation>Direct connection</translation>
     </message>
     <message>
-        <source>The server volume that holds this folder is not mounted. Ask the server administrator to mount it.</source>
-        <translation>The server volume that holds this folder is not mounted. Ask the server administrator to mount it.</translation>
+        <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
+        <translation>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</translation>
     </message>
     <message>
-        <source>This version of Quillmere is already installed. Do you want to install it again?</source>
-        <translation>This version of Quillmere is already installed. Do you want to install it again?</translation>
+        <source>This version of Quillmere is already installed. Install it again?</source>
+        <translation>This version of Quillmere is already installed. Install it again?</translation>
     </message>
     <message>
-        <source>This client is too old for the server. Upgrade the client, then try again.</source>
-        <translation>This client is too old for the server. Upgrade the client, then try again.</translation>
+        <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
+        <translation>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</translation>
     </message>
     <message>
-        <source>The server is too old for this client.</source>
-        <translation>The server is too old for this client.</translation>
+        <source>Quillmere on the server is too old to work with this computer.</source>
+        <translation>Quillmere on the server is too old to work with this computer.</translation>
     </message>
     <message>
-        <source>Disabled</source>
-        <translation>Disabled</translation>
+        <source>Turned off</source>
+        <translation>Turned off</translation>
     </message>
 </context>
 </TS>

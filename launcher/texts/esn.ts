@@ -40,8 +40,8 @@
         <translation>Modo de conexión</translation>
     </message>
     <message>
-        <source>The local database is damaged. Unlink the connection, then link it again to rebuild the database.</source>
-        <translation>La base de datos local está dañada. Desvincule la conexión y vuelva a vincularla para reconstruir la base de datos.</translation>
+        <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">La base de datos local está dañada. Desvincule la conexión y vuelva a vincularla para reconstruir la base de datos.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
@@ -56,8 +56,8 @@
         <translation>[DlgTitleFont]Listo para desinstalar [ProductName]</translation>
     </message>
     <message>
-        <source>The server has been replaced. Click here to link again.</source>
-        <translation>Se reemplazó el servidor. Haga clic aquí para volver a vincular la conexión.</translation>
+        <source>The server has been replaced. Click here to reconnect.</source>
+        <translation type="unfinished">Se reemplazó el servidor. Haga clic aquí para volver a vincular la conexión.</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -68,16 +68,16 @@
         <translation>El asistente de instalación permite cambiar, reparar o desinstalar [ProductName]. Haga clic en «Siguiente» para continuar o en «Cancelar» para salir del asistente de instalación.</translation>
     </message>
     <message>
-        <source>Block list</source>
-        <translation>Lista de exclusión</translation>
+        <source>Exclusion list</source>
+        <translation type="unfinished">Lista de exclusión</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
         <translation>¿Eliminar este enlace compartido?\nLas personas que tengan el enlace ya no podrán abrir el archivo.</translation>
     </message>
     <message>
-        <source>This client is too old for the server.</source>
-        <translation>Este cliente es demasiado antiguo para el servidor.</translation>
+        <source>Quillmere on this computer is too old to work with the server.</source>
+        <translation type="unfinished">Este cliente es demasiado antiguo para el servidor.</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
@@ -96,16 +96,16 @@
         <translation>Probando la conexión…</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server is not trusted, so others may be able to read the data you send. Do you want to continue?</source>
-        <translation>El certificado SSL del servidor no es de confianza, por lo que otras personas podrían leer los datos que usted envíe. ¿Desea continuar?</translation>
+        <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
+        <translation type="unfinished">El certificado SSL del servidor no es de confianza, por lo que otras personas podrían leer los datos que usted envíe. ¿Desea continuar?</translation>
     </message>
     <message>
         <source>New shared folder</source>
         <translation>Nueva carpeta compartida</translation>
     </message>
     <message>
-        <source>About</source>
-        <translation>Acerca de</translation>
+        <source>About Quillmere</source>
+        <translation type="unfinished">Acerca de</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
@@ -120,8 +120,8 @@
         <translation>El asistente de instalación está listo para comenzar la desinstalación.</translation>
     </message>
     <message>
-        <source>This computer is already linked to this server. Edit the existing connection or enter a different server.</source>
-        <translation>Este equipo ya está vinculado a este servidor. Edite la conexión existente o indique otro servidor.</translation>
+        <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
+        <translation type="unfinished">Este equipo ya está vinculado a este servidor. Edite la conexión existente o indique otro servidor.</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -132,12 +132,12 @@
         <translation>Se perdió la conexión con el servidor. Compruebe la conexión de red e inténtelo de nuevo.</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified.</source>
-        <translation>No se pudo verificar el certificado SSL del servidor.</translation>
+        <source>The certificate of the server could not be verified.</source>
+        <translation type="unfinished">No se pudo verificar el certificado SSL del servidor.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
-        <translation>Usar un icono en blanco y negro en la bandeja del sistema</translation>
+        <source>Use a black-and-white tray icon</source>
+        <translation type="unfinished">Usar un icono en blanco y negro en la bandeja del sistema</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -152,20 +152,20 @@
         <translation>Tareas de sincronización</translation>
     </message>
     <message>
-        <source>Blocked files</source>
-        <translation>Archivos excluidos</translation>
+        <source>Excluded files</source>
+        <translation type="unfinished">Archivos excluidos</translation>
     </message>
     <message>
         <source>No permission</source>
         <translation>Sin permiso</translation>
     </message>
     <message>
-        <source>The server is too old for this client. Ask the server administrator to upgrade it.</source>
-        <translation>El servidor es demasiado antiguo para este cliente. Pida al administrador del servidor que lo actualice.</translation>
+        <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
+        <translation type="unfinished">El servidor es demasiado antiguo para este cliente. Pida al administrador del servidor que lo actualice.</translation>
     </message>
     <message>
-        <source>To try again, run setup again later. Click Finish to exit the Setup Wizard.</source>
-        <translation>Para volver a intentarlo, ejecute de nuevo el programa de instalación más tarde. Haga clic en «Finalizar» para salir del asistente de instalación.</translation>
+        <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
+        <translation type="unfinished">Para volver a intentarlo, ejecute de nuevo el programa de instalación más tarde. Haga clic en «Finalizar» para salir del asistente de instalación.</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -180,8 +180,8 @@
         <translation>Haga clic en «Reparar» para reparar la instalación de [ProductName]. Haga clic en «Atrás» para revisar las opciones elegidas o en «Cancelar» para salir del asistente de instalación.</translation>
     </message>
     <message>
-        <source>Some settings have not been saved. Do you want to save them?</source>
-        <translation>Hay cambios en la configuración sin guardar. ¿Desea guardarlos?</translation>
+        <source>Some settings have not been saved. Save them?</source>
+        <translation type="unfinished">Hay cambios en la configuración sin guardar. ¿Desea guardarlos?</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -192,8 +192,8 @@
         <translation>Acción</translation>
     </message>
     <message>
-        <source>This folder is already used by another sync program. Choose a different folder to avoid conflicts.</source>
-        <translation>Otro programa de sincronización ya usa esta carpeta. Elija otra carpeta para evitar conflictos.</translation>
+        <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
+        <translation type="unfinished">Otro programa de sincronización ya usa esta carpeta. Elija otra carpeta para evitar conflictos.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -204,16 +204,16 @@
         <translation>Versión incompatible</translation>
     </message>
     <message>
-        <source>Change the sync folder</source>
-        <translation>Cambiar la carpeta de sincronización</translation>
+        <source>Change sync folder</source>
+        <translation type="unfinished">Cambiar la carpeta de sincronización</translation>
     </message>
     <message>
-        <source>Enter a complete file name without a folder path.</source>
-        <translation>Introduzca un nombre de archivo completo, sin la ruta de la carpeta.</translation>
+        <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
+        <translation type="unfinished">Introduzca un nombre de archivo completo, sin la ruta de la carpeta.</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]An error stopped setup, and its changes were undone.</source>
-        <translation>[DlgTitleFont]Un error interrumpió la instalación y se deshicieron los cambios realizados.</translation>
+        <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
+        <translation type="unfinished">[DlgTitleFont]Un error interrumpió la instalación y se deshicieron los cambios realizados.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -240,8 +240,8 @@
         <translation>Nombre</translation>
     </message>
     <message>
-        <source>Encrypt data transfer with SSL</source>
-        <translation>Cifrar la transferencia de datos con SSL</translation>
+        <source>Use an encrypted connection (TLS)</source>
+        <translation type="unfinished">Cifrar la transferencia de datos con SSL</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -276,8 +276,8 @@
         <translation>Este archivo aún no tiene versiones anteriores. Modifíquelo y deje que se sincronice para crear una.</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>Desvincular</translation>
+        <source>Disconnect</source>
+        <translation type="unfinished">Desvincular</translation>
     </message>
     <message>
         <source>Back</source>
@@ -316,8 +316,8 @@
         <translation>Aplicando la configuración…</translation>
     </message>
     <message>
-        <source>Files that are not synced</source>
-        <translation>Archivos que no se sincronizan</translation>
+        <source>Files excluded from syncing</source>
+        <translation type="unfinished">Archivos que no se sincronizan</translation>
     </message>
     <message>
         <source>Created</source>
@@ -332,8 +332,8 @@
         <translation>Internet</translation>
     </message>
     <message>
-        <source>Choose the shared folders to sync</source>
-        <translation>Elija las carpetas compartidas que desea sincronizar</translation>
+        <source>Choose shared folders to sync</source>
+        <translation type="unfinished">Elija las carpetas compartidas que desea sincronizar</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -360,8 +360,8 @@
         <translation>Corrige los errores de la instalación de [ProductName] restaurando los archivos y accesos directos que faltan o están dañados.</translation>
     </message>
     <message>
-        <source>Blocked file extensions</source>
-        <translation>Extensiones de archivo excluidas</translation>
+        <source>Excluded file extensions</source>
+        <translation type="unfinished">Extensiones de archivo excluidas</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -376,16 +376,16 @@
         <translation>Contraseña</translation>
     </message>
     <message>
-        <source>The volume that holds the sync folder is not mounted. Mount the volume, then resume syncing.</source>
-        <translation>El volumen que contiene la carpeta de sincronización no está montado. Monte el volumen y reanude la sincronización.</translation>
+        <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
+        <translation type="unfinished">El volumen que contiene la carpeta de sincronización no está montado. Monte el volumen y reanude la sincronización.</translation>
     </message>
     <message>
         <source>Edit</source>
         <translation>Editar</translation>
     </message>
     <message>
-        <source>This computer has no free disk space.</source>
-        <translation>Este equipo no tiene espacio libre en disco.</translation>
+        <source>The drive that holds the sync folder is full.</source>
+        <translation type="unfinished">Este equipo no tiene espacio libre en disco.</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -400,8 +400,8 @@
         <translation>&amp;Ignorar</translation>
     </message>
     <message>
-        <source>A folder with this name already exists. Do you want to merge its files with those on the server?</source>
-        <translation>Ya existe una carpeta con este nombre. ¿Desea combinar sus archivos con los del servidor?</translation>
+        <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
+        <translation type="unfinished">Ya existe una carpeta con este nombre. ¿Desea combinar sus archivos con los del servidor?</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
@@ -448,12 +448,12 @@
         <translation>Listo</translation>
     </message>
     <message>
-        <source>Syncing %1 files...</source>
-        <translation>Sincronizando archivos (%1)…</translation>
+        <source>Files being synced: %1</source>
+        <translation type="unfinished">Sincronizando archivos (%1)…</translation>
     </message>
     <message>
-        <source>Link again</source>
-        <translation>Volver a vincular</translation>
+        <source>Reconnect</source>
+        <translation type="unfinished">Volver a vincular</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -472,8 +472,8 @@
         <translation>Predeterminado del sistema</translation>
     </message>
     <message>
-        <source>The folders and files you cleared will be removed from this computer. They will be kept on the server.</source>
-        <translation>Las carpetas y los archivos que desmarcó se eliminarán de este equipo. Se conservarán en el servidor.</translation>
+        <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
+        <translation type="unfinished">Las carpetas y los archivos que desmarcó se eliminarán de este equipo. Se conservarán en el servidor.</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
@@ -488,28 +488,28 @@
         <translation>No queda espacio</translation>
     </message>
     <message>
-        <source>Inactive</source>
-        <translation>Inactiva</translation>
+        <source>Disconnected</source>
+        <translation type="unfinished">Inactiva</translation>
     </message>
     <message>
-        <source>Your quota on the server is full.</source>
-        <translation>Su cuota en el servidor está agotada.</translation>
+        <source>You have used all of your space on the server.</source>
+        <translation type="unfinished">Su cuota en el servidor está agotada.</translation>
     </message>
     <message>
-        <source>Unlink this connection?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>¿Desvincular esta conexión?\nSus archivos se conservarán en este equipo y en el servidor, pero dejarán de sincronizarse.</translation>
+        <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">¿Desvincular esta conexión?\nSus archivos se conservarán en este equipo y en el servidor, pero dejarán de sincronizarse.</translation>
     </message>
     <message>
-        <source>The relay service has a problem. Try again later, or connect with the IP address of the server.</source>
-        <translation>El servicio de retransmisión tiene un problema. Inténtelo de nuevo más tarde o conéctese con la dirección IP del servidor.</translation>
+        <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
+        <translation type="unfinished">El servicio de retransmisión tiene un problema. Inténtelo de nuevo más tarde o conéctese con la dirección IP del servidor.</translation>
     </message>
     <message>
         <source>Server ID</source>
         <translation>ID del servidor</translation>
     </message>
     <message>
-        <source>Blocked file names</source>
-        <translation>Nombres de archivo excluidos</translation>
+        <source>Excluded file names</source>
+        <translation type="unfinished">Nombres de archivo excluidos</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -520,20 +520,20 @@
         <translation>Continuar</translation>
     </message>
     <message>
-        <source>Enabled</source>
-        <translation>Activado</translation>
+        <source>Turned on</source>
+        <translation type="unfinished">Activado</translation>
     </message>
     <message>
-        <source>This computer has no free disk space. Free some space to continue syncing.</source>
-        <translation>Este equipo no tiene espacio libre en disco. Libere espacio para continuar la sincronización.</translation>
+        <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
+        <translation type="unfinished">Este equipo no tiene espacio libre en disco. Libere espacio para continuar la sincronización.</translation>
     </message>
     <message>
         <source>Folders to sync</source>
         <translation>Carpetas para sincronizar</translation>
     </message>
     <message>
-        <source>Choose a sync folder</source>
-        <translation>Elija una carpeta de sincronización</translation>
+        <source>Choose sync folder</source>
+        <translation type="unfinished">Elija una carpeta de sincronización</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -548,8 +548,8 @@
         <translation>Equipo</translation>
     </message>
     <message>
-        <source>Your quota on the server is full. Delete files you do not need, or ask the server administrator for a larger quota.</source>
-        <translation>Su cuota en el servidor está agotada. Elimine los archivos que no necesite o pida al administrador del servidor una cuota mayor.</translation>
+        <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
+        <translation type="unfinished">Su cuota en el servidor está agotada. Elimine los archivos que no necesite o pida al administrador del servidor una cuota mayor.</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
@@ -564,12 +564,12 @@
         <translation>Usar el siguiente servidor proxy</translation>
     </message>
     <message>
-        <source>This file was changed in two places. Compare both copies, then keep the one you need.</source>
-        <translation>Este archivo se modificó en dos lugares. Compare ambas copias y conserve la que necesite.</translation>
+        <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
+        <translation type="unfinished">Este archivo se modificó en dos lugares. Compare ambas copias y conserve la que necesite.</translation>
     </message>
     <message>
-        <source>One place for your files on every computer, through a server of your own</source>
-        <translation>Un solo lugar para sus archivos en todos los equipos, a través de su propio servidor</translation>
+        <source>All your files on every computer, kept on your own server</source>
+        <translation type="unfinished">Un solo lugar para sus archivos en todos los equipos, a través de su propio servidor</translation>
     </message>
     <message>
         <source>OK</source>
@@ -580,8 +580,8 @@
         <translation>Mostrar notificaciones de escritorio</translation>
     </message>
     <message>
-        <source>The following applications use files that setup needs to update. Close them and click Retry, click Ignore to continue without closing them, or click Exit to leave setup.</source>
-        <translation>Las siguientes aplicaciones usan archivos que el programa de instalación debe actualizar. Ciérrelas y haga clic en «Reintentar», o bien haga clic en «Ignorar» para continuar sin cerrarlas o en «Salir» para abandonar la instalación.</translation>
+        <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
+        <translation type="unfinished">Las siguientes aplicaciones usan archivos que el programa de instalación debe actualizar. Ciérrelas y haga clic en «Reintentar», o bien haga clic en «Ignorar» para continuar sin cerrarlas o en «Salir» para abandonar la instalación.</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -596,12 +596,12 @@
         <translation>Los archivos que coinciden con una entrada de esta lista no se sincronizan.</translation>
     </message>
     <message>
-        <source>Edit connection</source>
-        <translation>Editar conexión</translation>
+        <source>Edit connection...</source>
+        <translation type="unfinished">Editar conexión</translation>
     </message>
     <message>
-        <source>Options</source>
-        <translation>Opciones</translation>
+        <source>Settings</source>
+        <translation>Configuración</translation>
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
@@ -624,36 +624,32 @@
         <translation>Pausar</translation>
     </message>
     <message>
-        <source>Show icon overlays on filtered files</source>
-        <translation>Mostrar iconos superpuestos en los archivos filtrados</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Configuración</translation>
+        <source>Show icon overlays on excluded files</source>
+        <translation type="unfinished">Mostrar iconos superpuestos en los archivos filtrados</translation>
     </message>
     <message>
         <source>Loading...</source>
         <translation>Cargando…</translation>
     </message>
     <message>
-        <source>You can sync at most %1 shared folders. Stop syncing one of them before you add another.</source>
-        <translation>El número máximo de carpetas compartidas que se pueden sincronizar es %1. Deje de sincronizar una antes de agregar otra.</translation>
+        <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
+        <translation type="unfinished">El número máximo de carpetas compartidas que se pueden sincronizar es %1. Deje de sincronizar una antes de agregar otra.</translation>
     </message>
     <message>
-        <source>Unlink this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>¿Desvincular esta tarea de sincronización?\nSus archivos se conservarán en este equipo y en el servidor, pero dejarán de sincronizarse.</translation>
+        <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">¿Desvincular esta tarea de sincronización?\nSus archivos se conservarán en este equipo y en el servidor, pero dejarán de sincronizarse.</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
         <translation>Iniciando Quillmere…</translation>
     </message>
     <message>
-        <source>Quillmere could not be upgraded. Restart the computer, then try again.</source>
-        <translation>No se pudo actualizar Quillmere. Reinicie el equipo e inténtelo de nuevo.</translation>
+        <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">No se pudo actualizar Quillmere. Reinicie el equipo e inténtelo de nuevo.</translation>
     </message>
     <message>
-        <source>Block names that begin with a dot</source>
-        <translation>Excluir los nombres que comienzan con un punto</translation>
+        <source>Exclude names that begin with a dot</source>
+        <translation type="unfinished">Excluir los nombres que comienzan con un punto</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -676,8 +672,8 @@
         <translation>Se estableció la conexión con el servidor.</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}The [ProductName] Setup Wizard is complete</source>
-        <translation>{\VerdanaBold13}Finalización del asistente de instalación de [ProductName]</translation>
+        <source>{\VerdanaBold13}[ProductName] setup is complete</source>
+        <translation type="unfinished">{\VerdanaBold13}Finalización del asistente de instalación de [ProductName]</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -712,20 +708,20 @@
         <translation>Carpeta compartida</translation>
     </message>
     <message>
-        <source>Client options</source>
-        <translation>Opciones del cliente</translation>
+        <source>Quillmere settings</source>
+        <translation type="unfinished">Opciones del cliente</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
         <translation>No se pudo eliminar el enlace compartido. Compruebe la conexión con el servidor e inténtelo de nuevo.</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified. Ask the server administrator to check the certificate.</source>
-        <translation>No se pudo verificar el certificado SSL del servidor. Pida al administrador del servidor que revise el certificado.</translation>
+        <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
+        <translation type="unfinished">No se pudo verificar el certificado SSL del servidor. Pida al administrador del servidor que revise el certificado.</translation>
     </message>
     <message>
-        <source>This is not the server the connection was linked to. Check the server address, or link again.</source>
-        <translation>Este no es el servidor al que estaba vinculada la conexión. Compruebe la dirección del servidor o vuelva a vincular la conexión.</translation>
+        <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
+        <translation type="unfinished">Este no es el servidor al que estaba vinculada la conexión. Compruebe la dirección del servidor o vuelva a vincular la conexión.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -764,16 +760,16 @@
         <translation>Administrar conexiones</translation>
     </message>
     <message>
-        <source>Link to another server</source>
-        <translation>Vincular a otro servidor</translation>
+        <source>Connect to another server...</source>
+        <translation type="unfinished">Vincular a otro servidor</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
         <translation>Mostrar iconos superpuestos</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]Setting up [ProductName]</source>
-        <translation>[DlgTitleFont]Configurando [ProductName]</translation>
+        <source>[DlgTitleFont]Making changes to [ProductName]</source>
+        <translation type="unfinished">[DlgTitleFont]Configurando [ProductName]</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -792,8 +788,8 @@
         <translation>&amp;Instalar</translation>
     </message>
     <message>
-        <source>File filter</source>
-        <translation>Filtro de archivos</translation>
+        <source>Files to exclude</source>
+        <translation type="unfinished">Filtro de archivos</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -804,8 +800,8 @@
         <translation>&amp;No acepto los términos del contrato de licencia</translation>
     </message>
     <message>
-        <source>Something went wrong. Try again, and contact the server administrator if the problem continues.</source>
-        <translation>Se produjo un problema. Inténtelo de nuevo y, si el problema continúa, póngase en contacto con el administrador del servidor.</translation>
+        <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Se produjo un problema. Inténtelo de nuevo y, si el problema continúa, póngase en contacto con el administrador del servidor.</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -828,8 +824,8 @@
         <translation>Configuración del proxy</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator, so Quillmere might not install completely. Do you want to continue?</source>
-        <translation>No ha iniciado sesión como administrador, por lo que es posible que Quillmere no se instale por completo. ¿Desea continuar?</translation>
+        <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
+        <translation type="unfinished">No ha iniciado sesión como administrador, por lo que es posible que Quillmere no se instale por completo. ¿Desea continuar?</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
@@ -876,8 +872,8 @@
         <translation>La carpeta es un punto de montaje</translation>
     </message>
     <message>
-        <source>Choose another folder</source>
-        <translation>Elegir otra carpeta</translation>
+        <source>Choose another folder...</source>
+        <translation type="unfinished">Elegir otra carpeta</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -900,12 +896,16 @@
         <translation>Introduzca la dirección del servidor y la cuenta que usa en él.</translation>
     </message>
     <message>
-        <source>A different server was found at the server address.</source>
-        <translation>En la dirección del servidor se encontró un servidor distinto.</translation>
+        <source>Remove</source>
+        <translation type="unfinished">Desvincular</translation>
     </message>
     <message>
-        <source>Linking to the server...</source>
-        <translation>Vinculando al servidor…</translation>
+        <source>Another server was found at the server address.</source>
+        <translation type="unfinished">En la dirección del servidor se encontró un servidor distinto.</translation>
+    </message>
+    <message>
+        <source>Connecting to the server...</source>
+        <translation type="unfinished">Vinculando al servidor…</translation>
     </message>
     <message>
         <source>Port</source>
@@ -928,8 +928,8 @@
         <translation>Usar la configuración de proxy del sistema</translation>
     </message>
     <message>
-        <source>Change folder</source>
-        <translation>Cambiar carpeta</translation>
+        <source>Change folder...</source>
+        <translation type="unfinished">Cambiar carpeta</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -944,8 +944,8 @@
         <translation>Descargando…</translation>
     </message>
     <message>
-        <source>The file is locked</source>
-        <translation>El archivo está bloqueado</translation>
+        <source>File locked</source>
+        <translation type="unfinished">El archivo está bloqueado</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -956,8 +956,8 @@
         <translation>Preparando…</translation>
     </message>
     <message>
-        <source>Updating files...</source>
-        <translation>Actualizando archivos…</translation>
+        <source>Syncing files...</source>
+        <translation type="unfinished">Actualizando archivos…</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -968,8 +968,8 @@
         <translation>Comprobando el nombre de usuario y la contraseña…</translation>
     </message>
     <message>
-        <source>Wait while the Setup Wizard sets up [ProductName]. This can take several minutes.</source>
-        <translation>Espere mientras el asistente de instalación configura [ProductName]. Esta operación puede tardar varios minutos.</translation>
+        <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
+        <translation type="unfinished">Espere mientras el asistente de instalación configura [ProductName]. Esta operación puede tardar varios minutos.</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1020,24 +1020,24 @@
         <translation>El enlace compartido se copió en el portapapeles.</translation>
     </message>
     <message>
-        <source>The local sync folder was not found. Restore the folder or choose a different one.</source>
-        <translation>No se encontró la carpeta de sincronización local. Restáurela o elija otra.</translation>
+        <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
+        <translation type="unfinished">No se encontró la carpeta de sincronización local. Restáurela o elija otra.</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
         <translation>Actualización de Quillmere</translation>
     </message>
     <message>
-        <source>Add sync task</source>
-        <translation>Agregar tarea de sincronización</translation>
+        <source>Add sync task...</source>
+        <translation type="unfinished">Agregar tarea de sincronización</translation>
     </message>
     <message>
-        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it.</source>
-        <translation>La carpeta compartida no está montada en el servidor. Pida al administrador del servidor que la monte.</translation>
+        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
+        <translation type="unfinished">La carpeta compartida no está montada en el servidor. Pida al administrador del servidor que la monte.</translation>
     </message>
     <message>
-        <source>The server sent an unexpected response. Upgrade the client and the server, then try again.</source>
-        <translation>El servidor envió una respuesta inesperada. Actualice el cliente y el servidor e inténtelo de nuevo.</translation>
+        <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">El servidor envió una respuesta inesperada. Actualice el cliente y el servidor e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1052,8 +1052,8 @@
         <translation>Introduzca un tamaño de %1 MB como máximo.</translation>
     </message>
     <message>
-        <source>Checking the data...</source>
-        <translation>Comprobando los datos…</translation>
+        <source>Checking files...</source>
+        <translation type="unfinished">Comprobando los datos…</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
@@ -1064,8 +1064,8 @@
         <translation>Haga clic en «Instalar» para comenzar la instalación de [ProductName]. Haga clic en «Atrás» para revisar las opciones elegidas o en «Cancelar» para salir del asistente de instalación.</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}[ProductName] setup was interrupted</source>
-        <translation>{\VerdanaBold13}La instalación de [ProductName] se interrumpió</translation>
+        <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
+        <translation type="unfinished">{\VerdanaBold13}La instalación de [ProductName] se interrumpió</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1092,8 +1092,8 @@
         <translation>Configuración de red</translation>
     </message>
     <message>
-        <source>This folder is already synced with another shared folder. Choose a different folder.</source>
-        <translation>Esta carpeta ya está sincronizada con otra carpeta compartida. Elija otra carpeta.</translation>
+        <source>This folder is already synced with another shared folder. Choose another folder.</source>
+        <translation type="unfinished">Esta carpeta ya está sincronizada con otra carpeta compartida. Elija otra carpeta.</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1132,24 +1132,24 @@
         <translation>Ejecutar Quillmere al iniciar sesión en este equipo</translation>
     </message>
     <message>
-        <source>All files from both folders are kept. If two versions of a file differ, you get both.</source>
-        <translation>Se conservan todos los archivos de ambas carpetas. Si dos versiones de un archivo son distintas, obtendrá las dos.</translation>
+        <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
+        <translation type="unfinished">Se conservan todos los archivos de ambas carpetas. Si dos versiones de un archivo son distintas, obtendrá las dos.</translation>
     </message>
     <message>
         <source>Repair the installation</source>
         <translation>Reparar la instalación</translation>
     </message>
     <message>
-        <source>Sync enabled</source>
-        <translation>Sincronización activada</translation>
+        <source>Syncing turned on</source>
+        <translation type="unfinished">Sincronización activada</translation>
     </message>
     <message>
-        <source>Quillmere could not start. Restart the computer, then start Quillmere again.</source>
-        <translation>No se pudo iniciar Quillmere. Reinicie el equipo y vuelva a iniciar Quillmere.</translation>
+        <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">No se pudo iniciar Quillmere. Reinicie el equipo y vuelva a iniciar Quillmere.</translation>
     </message>
     <message>
-        <source>Do you want to cancel the setup of [ProductName]?</source>
-        <translation>¿Desea cancelar la instalación de [ProductName]?</translation>
+        <source>Cancel the setup of [ProductName]?</source>
+        <translation type="unfinished">¿Desea cancelar la instalación de [ProductName]?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1172,28 +1172,28 @@
         <translation>Configuración avanzada</translation>
     </message>
     <message>
-        <source>Browse versions</source>
-        <translation>Explorar versiones</translation>
+        <source>Browse versions...</source>
+        <translation type="unfinished">Explorar versiones</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
         <translation>[DlgTitleFont]&amp;Cambiar</translation>
     </message>
     <message>
-        <source>This connection is inactive. Link it again to continue syncing.</source>
-        <translation>Esta conexión está inactiva. Vuelva a vincularla para continuar la sincronización.</translation>
+        <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
+        <translation type="unfinished">Esta conexión está inactiva. Vuelva a vincularla para continuar la sincronización.</translation>
     </message>
     <message>
         <source>Detecting...</source>
         <translation>Detectando…</translation>
     </message>
     <message>
-        <source>SSL warning</source>
-        <translation>Advertencia de SSL</translation>
+        <source>Certificate warning</source>
+        <translation type="unfinished">Advertencia de SSL</translation>
     </message>
     <message>
-        <source>The relay service cannot be reached. Check your Internet connection, then try again.</source>
-        <translation>No se puede acceder al servicio de retransmisión. Compruebe la conexión a Internet e inténtelo de nuevo.</translation>
+        <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
+        <translation type="unfinished">No se puede acceder al servicio de retransmisión. Compruebe la conexión a Internet e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
@@ -1232,24 +1232,24 @@
         <translation>Conexión directa</translation>
     </message>
     <message>
-        <source>The server volume that holds this folder is not mounted. Ask the server administrator to mount it.</source>
-        <translation>El volumen del servidor que contiene esta carpeta no está montado. Pida al administrador del servidor que lo monte.</translation>
+        <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
+        <translation type="unfinished">El volumen del servidor que contiene esta carpeta no está montado. Pida al administrador del servidor que lo monte.</translation>
     </message>
     <message>
-        <source>This version of Quillmere is already installed. Do you want to install it again?</source>
-        <translation>Esta versión de Quillmere ya está instalada. ¿Desea volver a instalarla?</translation>
+        <source>This version of Quillmere is already installed. Install it again?</source>
+        <translation type="unfinished">Esta versión de Quillmere ya está instalada. ¿Desea volver a instalarla?</translation>
     </message>
     <message>
-        <source>This client is too old for the server. Upgrade the client, then try again.</source>
-        <translation>Este cliente es demasiado antiguo para el servidor. Actualice el cliente e inténtelo de nuevo.</translation>
+        <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
+        <translation type="unfinished">Este cliente es demasiado antiguo para el servidor. Actualice el cliente e inténtelo de nuevo.</translation>
     </message>
     <message>
-        <source>The server is too old for this client.</source>
-        <translation>El servidor es demasiado antiguo para este cliente.</translation>
+        <source>Quillmere on the server is too old to work with this computer.</source>
+        <translation type="unfinished">El servidor es demasiado antiguo para este cliente.</translation>
     </message>
     <message>
-        <source>Disabled</source>
-        <translation>Desactivado</translation>
+        <source>Turned off</source>
+        <translation type="unfinished">Desactivado</translation>
     </message>
 </context>
 </TS>

@@ -40,8 +40,8 @@
         <translation>Mode de connexion</translation>
     </message>
     <message>
-        <source>The local database is damaged. Unlink the connection, then link it again to rebuild the database.</source>
-        <translation>La base de données locale est endommagée. Dissociez la connexion, puis associez-la de nouveau pour reconstruire la base de données.</translation>
+        <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">La base de données locale est endommagée. Dissociez la connexion, puis associez-la de nouveau pour reconstruire la base de données.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
@@ -56,8 +56,8 @@
         <translation>[DlgTitleFont]Prêt à désinstaller [ProductName]</translation>
     </message>
     <message>
-        <source>The server has been replaced. Click here to link again.</source>
-        <translation>Le serveur a été remplacé. Cliquez ici pour renouveler l’association.</translation>
+        <source>The server has been replaced. Click here to reconnect.</source>
+        <translation type="unfinished">Le serveur a été remplacé. Cliquez ici pour renouveler l’association.</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -68,16 +68,16 @@
         <translation>L’assistant d’installation permet de modifier, de réparer ou de désinstaller [ProductName]. Cliquez sur «&#xa0;Suivant&#xa0;» pour continuer ou sur «&#xa0;Annuler&#xa0;» pour quitter l’assistant d’installation.</translation>
     </message>
     <message>
-        <source>Block list</source>
-        <translation>Liste d’exclusion</translation>
+        <source>Exclusion list</source>
+        <translation type="unfinished">Liste d’exclusion</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
         <translation>Supprimer ce lien de partage&#xa0;?\nLes personnes qui disposent du lien ne pourront plus ouvrir le fichier.</translation>
     </message>
     <message>
-        <source>This client is too old for the server.</source>
-        <translation>Ce client est trop ancien pour le serveur.</translation>
+        <source>Quillmere on this computer is too old to work with the server.</source>
+        <translation type="unfinished">Ce client est trop ancien pour le serveur.</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
@@ -96,16 +96,16 @@
         <translation>Test de la connexion…</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server is not trusted, so others may be able to read the data you send. Do you want to continue?</source>
-        <translation>Le certificat SSL du serveur n’est pas approuvé&#xa0;: des tiers pourraient lire les données que vous envoyez. Voulez-vous continuer&#xa0;?</translation>
+        <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
+        <translation type="unfinished">Le certificat SSL du serveur n’est pas approuvé&#xa0;: des tiers pourraient lire les données que vous envoyez. Voulez-vous continuer&#xa0;?</translation>
     </message>
     <message>
         <source>New shared folder</source>
         <translation>Nouveau dossier partagé</translation>
     </message>
     <message>
-        <source>About</source>
-        <translation>À propos</translation>
+        <source>About Quillmere</source>
+        <translation type="unfinished">À propos</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
@@ -120,8 +120,8 @@
         <translation>L’assistant d’installation est prêt à commencer la désinstallation.</translation>
     </message>
     <message>
-        <source>This computer is already linked to this server. Edit the existing connection or enter a different server.</source>
-        <translation>Cet ordinateur est déjà associé à ce serveur. Modifiez la connexion existante ou indiquez un autre serveur.</translation>
+        <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
+        <translation type="unfinished">Cet ordinateur est déjà associé à ce serveur. Modifiez la connexion existante ou indiquez un autre serveur.</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -132,12 +132,12 @@
         <translation>La connexion au serveur a été perdue. Vérifiez la connexion réseau, puis réessayez.</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified.</source>
-        <translation>Le certificat SSL du serveur n’a pas pu être vérifié.</translation>
+        <source>The certificate of the server could not be verified.</source>
+        <translation type="unfinished">Le certificat SSL du serveur n’a pas pu être vérifié.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
-        <translation>Utiliser une icône en noir et blanc dans la zone de notification</translation>
+        <source>Use a black-and-white tray icon</source>
+        <translation type="unfinished">Utiliser une icône en noir et blanc dans la zone de notification</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -152,20 +152,20 @@
         <translation>Tâches de synchronisation</translation>
     </message>
     <message>
-        <source>Blocked files</source>
-        <translation>Fichiers exclus</translation>
+        <source>Excluded files</source>
+        <translation type="unfinished">Fichiers exclus</translation>
     </message>
     <message>
         <source>No permission</source>
         <translation>Autorisation insuffisante</translation>
     </message>
     <message>
-        <source>The server is too old for this client. Ask the server administrator to upgrade it.</source>
-        <translation>Le serveur est trop ancien pour ce client. Demandez à l’administrateur du serveur de le mettre à jour.</translation>
+        <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
+        <translation type="unfinished">Le serveur est trop ancien pour ce client. Demandez à l’administrateur du serveur de le mettre à jour.</translation>
     </message>
     <message>
-        <source>To try again, run setup again later. Click Finish to exit the Setup Wizard.</source>
-        <translation>Pour réessayer, relancez l’installation ultérieurement. Cliquez sur «&#xa0;Terminer&#xa0;» pour quitter l’assistant d’installation.</translation>
+        <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
+        <translation type="unfinished">Pour réessayer, relancez l’installation ultérieurement. Cliquez sur «&#xa0;Terminer&#xa0;» pour quitter l’assistant d’installation.</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -180,8 +180,8 @@
         <translation>Cliquez sur «&#xa0;Réparer&#xa0;» pour réparer l’installation de [ProductName]. Cliquez sur «&#xa0;Précédent&#xa0;» pour revoir vos choix ou sur «&#xa0;Annuler&#xa0;» pour quitter l’assistant d’installation.</translation>
     </message>
     <message>
-        <source>Some settings have not been saved. Do you want to save them?</source>
-        <translation>Certains paramètres n’ont pas été enregistrés. Voulez-vous les enregistrer&#xa0;?</translation>
+        <source>Some settings have not been saved. Save them?</source>
+        <translation type="unfinished">Certains paramètres n’ont pas été enregistrés. Voulez-vous les enregistrer&#xa0;?</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -192,8 +192,8 @@
         <translation>Action</translation>
     </message>
     <message>
-        <source>This folder is already used by another sync program. Choose a different folder to avoid conflicts.</source>
-        <translation>Ce dossier est déjà utilisé par un autre programme de synchronisation. Choisissez un autre dossier pour éviter les conflits.</translation>
+        <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
+        <translation type="unfinished">Ce dossier est déjà utilisé par un autre programme de synchronisation. Choisissez un autre dossier pour éviter les conflits.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -204,16 +204,16 @@
         <translation>Version incompatible</translation>
     </message>
     <message>
-        <source>Change the sync folder</source>
-        <translation>Changer de dossier de synchronisation</translation>
+        <source>Change sync folder</source>
+        <translation type="unfinished">Changer de dossier de synchronisation</translation>
     </message>
     <message>
-        <source>Enter a complete file name without a folder path.</source>
-        <translation>Saisissez un nom de fichier complet, sans chemin de dossier.</translation>
+        <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
+        <translation type="unfinished">Saisissez un nom de fichier complet, sans chemin de dossier.</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]An error stopped setup, and its changes were undone.</source>
-        <translation>[DlgTitleFont]Une erreur a interrompu l’installation et les modifications apportées ont été annulées.</translation>
+        <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
+        <translation type="unfinished">[DlgTitleFont]Une erreur a interrompu l’installation et les modifications apportées ont été annulées.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -240,8 +240,8 @@
         <translation>Nom</translation>
     </message>
     <message>
-        <source>Encrypt data transfer with SSL</source>
-        <translation>Chiffrer le transfert de données avec SSL</translation>
+        <source>Use an encrypted connection (TLS)</source>
+        <translation type="unfinished">Chiffrer le transfert de données avec SSL</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -276,8 +276,8 @@
         <translation>Ce fichier n’a pas encore de version antérieure. Modifiez-le et laissez-le se synchroniser pour en créer une.</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>Dissocier</translation>
+        <source>Disconnect</source>
+        <translation type="unfinished">Dissocier</translation>
     </message>
     <message>
         <source>Back</source>
@@ -316,8 +316,8 @@
         <translation>Application des paramètres…</translation>
     </message>
     <message>
-        <source>Files that are not synced</source>
-        <translation>Fichiers non synchronisés</translation>
+        <source>Files excluded from syncing</source>
+        <translation type="unfinished">Fichiers non synchronisés</translation>
     </message>
     <message>
         <source>Created</source>
@@ -332,8 +332,8 @@
         <translation>Internet</translation>
     </message>
     <message>
-        <source>Choose the shared folders to sync</source>
-        <translation>Choisissez les dossiers partagés à synchroniser</translation>
+        <source>Choose shared folders to sync</source>
+        <translation type="unfinished">Choisissez les dossiers partagés à synchroniser</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -360,8 +360,8 @@
         <translation>Corrige les erreurs de l’installation de [ProductName] en restaurant les fichiers et les raccourcis manquants ou endommagés.</translation>
     </message>
     <message>
-        <source>Blocked file extensions</source>
-        <translation>Extensions de fichier exclues</translation>
+        <source>Excluded file extensions</source>
+        <translation type="unfinished">Extensions de fichier exclues</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -376,16 +376,16 @@
         <translation>Mot de passe</translation>
     </message>
     <message>
-        <source>The volume that holds the sync folder is not mounted. Mount the volume, then resume syncing.</source>
-        <translation>Le volume qui contient le dossier de synchronisation n’est pas monté. Montez le volume, puis reprenez la synchronisation.</translation>
+        <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
+        <translation type="unfinished">Le volume qui contient le dossier de synchronisation n’est pas monté. Montez le volume, puis reprenez la synchronisation.</translation>
     </message>
     <message>
         <source>Edit</source>
         <translation>Modifier</translation>
     </message>
     <message>
-        <source>This computer has no free disk space.</source>
-        <translation>Cet ordinateur n’a plus d’espace disque disponible.</translation>
+        <source>The drive that holds the sync folder is full.</source>
+        <translation type="unfinished">Cet ordinateur n’a plus d’espace disque disponible.</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -400,8 +400,8 @@
         <translation>&amp;Ignorer</translation>
     </message>
     <message>
-        <source>A folder with this name already exists. Do you want to merge its files with those on the server?</source>
-        <translation>Un dossier portant ce nom existe déjà. Voulez-vous fusionner ses fichiers avec ceux du serveur&#xa0;?</translation>
+        <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
+        <translation type="unfinished">Un dossier portant ce nom existe déjà. Voulez-vous fusionner ses fichiers avec ceux du serveur&#xa0;?</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
@@ -448,12 +448,12 @@
         <translation>Terminer</translation>
     </message>
     <message>
-        <source>Syncing %1 files...</source>
-        <translation>Synchronisation des fichiers (%1)…</translation>
+        <source>Files being synced: %1</source>
+        <translation type="unfinished">Synchronisation des fichiers (%1)…</translation>
     </message>
     <message>
-        <source>Link again</source>
-        <translation>Associer de nouveau</translation>
+        <source>Reconnect</source>
+        <translation type="unfinished">Associer de nouveau</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -472,8 +472,8 @@
         <translation>Langue du système</translation>
     </message>
     <message>
-        <source>The folders and files you cleared will be removed from this computer. They will be kept on the server.</source>
-        <translation>Les dossiers et les fichiers décochés seront supprimés de cet ordinateur. Ils seront conservés sur le serveur.</translation>
+        <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
+        <translation type="unfinished">Les dossiers et les fichiers décochés seront supprimés de cet ordinateur. Ils seront conservés sur le serveur.</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
@@ -488,28 +488,28 @@
         <translation>Espace insuffisant</translation>
     </message>
     <message>
-        <source>Inactive</source>
-        <translation>Inactive</translation>
+        <source>Disconnected</source>
+        <translation type="unfinished">Inactive</translation>
     </message>
     <message>
-        <source>Your quota on the server is full.</source>
-        <translation>Votre quota sur le serveur est atteint.</translation>
+        <source>You have used all of your space on the server.</source>
+        <translation type="unfinished">Votre quota sur le serveur est atteint.</translation>
     </message>
     <message>
-        <source>Unlink this connection?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>Dissocier cette connexion&#xa0;?\nVos fichiers seront conservés sur cet ordinateur et sur le serveur, mais ils ne seront plus synchronisés.</translation>
+        <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">Dissocier cette connexion&#xa0;?\nVos fichiers seront conservés sur cet ordinateur et sur le serveur, mais ils ne seront plus synchronisés.</translation>
     </message>
     <message>
-        <source>The relay service has a problem. Try again later, or connect with the IP address of the server.</source>
-        <translation>Le service de relais rencontre un problème. Réessayez plus tard ou connectez-vous avec l’adresse IP du serveur.</translation>
+        <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
+        <translation type="unfinished">Le service de relais rencontre un problème. Réessayez plus tard ou connectez-vous avec l’adresse IP du serveur.</translation>
     </message>
     <message>
         <source>Server ID</source>
         <translation>ID du serveur</translation>
     </message>
     <message>
-        <source>Blocked file names</source>
-        <translation>Noms de fichier exclus</translation>
+        <source>Excluded file names</source>
+        <translation type="unfinished">Noms de fichier exclus</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -520,20 +520,20 @@
         <translation>Continuer</translation>
     </message>
     <message>
-        <source>Enabled</source>
-        <translation>Activé</translation>
+        <source>Turned on</source>
+        <translation type="unfinished">Activé</translation>
     </message>
     <message>
-        <source>This computer has no free disk space. Free some space to continue syncing.</source>
-        <translation>Cet ordinateur n’a plus d’espace disque disponible. Libérez de l’espace pour poursuivre la synchronisation.</translation>
+        <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
+        <translation type="unfinished">Cet ordinateur n’a plus d’espace disque disponible. Libérez de l’espace pour poursuivre la synchronisation.</translation>
     </message>
     <message>
         <source>Folders to sync</source>
         <translation>Dossiers à synchroniser</translation>
     </message>
     <message>
-        <source>Choose a sync folder</source>
-        <translation>Choisissez un dossier de synchronisation</translation>
+        <source>Choose sync folder</source>
+        <translation type="unfinished">Choisissez un dossier de synchronisation</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -548,8 +548,8 @@
         <translation>Ordinateur</translation>
     </message>
     <message>
-        <source>Your quota on the server is full. Delete files you do not need, or ask the server administrator for a larger quota.</source>
-        <translation>Votre quota sur le serveur est atteint. Supprimez les fichiers dont vous n’avez pas besoin ou demandez un quota plus élevé à l’administrateur du serveur.</translation>
+        <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
+        <translation type="unfinished">Votre quota sur le serveur est atteint. Supprimez les fichiers dont vous n’avez pas besoin ou demandez un quota plus élevé à l’administrateur du serveur.</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
@@ -564,12 +564,12 @@
         <translation>Utiliser le serveur proxy suivant</translation>
     </message>
     <message>
-        <source>This file was changed in two places. Compare both copies, then keep the one you need.</source>
-        <translation>Ce fichier a été modifié à deux endroits. Comparez les deux copies, puis conservez celle dont vous avez besoin.</translation>
+        <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
+        <translation type="unfinished">Ce fichier a été modifié à deux endroits. Comparez les deux copies, puis conservez celle dont vous avez besoin.</translation>
     </message>
     <message>
-        <source>One place for your files on every computer, through a server of your own</source>
-        <translation>Un seul endroit pour vos fichiers, sur tous vos ordinateurs, grâce à votre propre serveur</translation>
+        <source>All your files on every computer, kept on your own server</source>
+        <translation type="unfinished">Un seul endroit pour vos fichiers, sur tous vos ordinateurs, grâce à votre propre serveur</translation>
     </message>
     <message>
         <source>OK</source>
@@ -580,8 +580,8 @@
         <translation>Afficher les notifications sur le bureau</translation>
     </message>
     <message>
-        <source>The following applications use files that setup needs to update. Close them and click Retry, click Ignore to continue without closing them, or click Exit to leave setup.</source>
-        <translation>Les applications suivantes utilisent des fichiers que le programme d’installation doit mettre à jour. Fermez-les, puis cliquez sur «&#xa0;Réessayer&#xa0;». Vous pouvez aussi cliquer sur «&#xa0;Ignorer&#xa0;» pour continuer sans les fermer ou sur «&#xa0;Quitter&#xa0;» pour quitter l’installation.</translation>
+        <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
+        <translation type="unfinished">Les applications suivantes utilisent des fichiers que le programme d’installation doit mettre à jour. Fermez-les, puis cliquez sur «&#xa0;Réessayer&#xa0;». Vous pouvez aussi cliquer sur «&#xa0;Ignorer&#xa0;» pour continuer sans les fermer ou sur «&#xa0;Quitter&#xa0;» pour quitter l’installation.</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -596,12 +596,12 @@
         <translation>Les fichiers qui correspondent à une entrée de cette liste ne sont pas synchronisés.</translation>
     </message>
     <message>
-        <source>Edit connection</source>
-        <translation>Modifier la connexion</translation>
+        <source>Edit connection...</source>
+        <translation type="unfinished">Modifier la connexion</translation>
     </message>
     <message>
-        <source>Options</source>
-        <translation>Options</translation>
+        <source>Settings</source>
+        <translation>Paramètres</translation>
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
@@ -624,36 +624,32 @@
         <translation>Suspendre</translation>
     </message>
     <message>
-        <source>Show icon overlays on filtered files</source>
-        <translation>Afficher les icônes superposées sur les fichiers filtrés</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Paramètres</translation>
+        <source>Show icon overlays on excluded files</source>
+        <translation type="unfinished">Afficher les icônes superposées sur les fichiers filtrés</translation>
     </message>
     <message>
         <source>Loading...</source>
         <translation>Chargement…</translation>
     </message>
     <message>
-        <source>You can sync at most %1 shared folders. Stop syncing one of them before you add another.</source>
-        <translation>Le nombre de dossiers partagés synchronisés est limité à %1. Arrêtez la synchronisation de l’un d’eux avant d’en ajouter un autre.</translation>
+        <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
+        <translation type="unfinished">Le nombre de dossiers partagés synchronisés est limité à %1. Arrêtez la synchronisation de l’un d’eux avant d’en ajouter un autre.</translation>
     </message>
     <message>
-        <source>Unlink this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>Dissocier cette tâche de synchronisation&#xa0;?\nSes fichiers seront conservés sur cet ordinateur et sur le serveur, mais ils ne seront plus synchronisés.</translation>
+        <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">Dissocier cette tâche de synchronisation&#xa0;?\nSes fichiers seront conservés sur cet ordinateur et sur le serveur, mais ils ne seront plus synchronisés.</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
         <translation>Démarrage de Quillmere…</translation>
     </message>
     <message>
-        <source>Quillmere could not be upgraded. Restart the computer, then try again.</source>
-        <translation>La mise à jour de Quillmere a échoué. Redémarrez l’ordinateur, puis réessayez.</translation>
+        <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">La mise à jour de Quillmere a échoué. Redémarrez l’ordinateur, puis réessayez.</translation>
     </message>
     <message>
-        <source>Block names that begin with a dot</source>
-        <translation>Exclure les noms qui commencent par un point</translation>
+        <source>Exclude names that begin with a dot</source>
+        <translation type="unfinished">Exclure les noms qui commencent par un point</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -676,8 +672,8 @@
         <translation>Connexion au serveur établie.</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}The [ProductName] Setup Wizard is complete</source>
-        <translation>{\VerdanaBold13}Fin de l’assistant d’installation de [ProductName]</translation>
+        <source>{\VerdanaBold13}[ProductName] setup is complete</source>
+        <translation type="unfinished">{\VerdanaBold13}Fin de l’assistant d’installation de [ProductName]</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -712,20 +708,20 @@
         <translation>Dossier partagé</translation>
     </message>
     <message>
-        <source>Client options</source>
-        <translation>Options du client</translation>
+        <source>Quillmere settings</source>
+        <translation type="unfinished">Options du client</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
         <translation>Le lien de partage n’a pas pu être supprimé. Vérifiez la connexion au serveur, puis réessayez.</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified. Ask the server administrator to check the certificate.</source>
-        <translation>Le certificat SSL du serveur n’a pas pu être vérifié. Demandez à l’administrateur du serveur de contrôler le certificat.</translation>
+        <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
+        <translation type="unfinished">Le certificat SSL du serveur n’a pas pu être vérifié. Demandez à l’administrateur du serveur de contrôler le certificat.</translation>
     </message>
     <message>
-        <source>This is not the server the connection was linked to. Check the server address, or link again.</source>
-        <translation>Ce serveur n’est pas celui auquel la connexion a été associée. Vérifiez l’adresse du serveur ou renouvelez l’association.</translation>
+        <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
+        <translation type="unfinished">Ce serveur n’est pas celui auquel la connexion a été associée. Vérifiez l’adresse du serveur ou renouvelez l’association.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -764,16 +760,16 @@
         <translation>Gérer les connexions</translation>
     </message>
     <message>
-        <source>Link to another server</source>
-        <translation>Associer à un autre serveur</translation>
+        <source>Connect to another server...</source>
+        <translation type="unfinished">Associer à un autre serveur</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
         <translation>Afficher les icônes superposées</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]Setting up [ProductName]</source>
-        <translation>[DlgTitleFont]Configuration de [ProductName]</translation>
+        <source>[DlgTitleFont]Making changes to [ProductName]</source>
+        <translation type="unfinished">[DlgTitleFont]Configuration de [ProductName]</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -792,8 +788,8 @@
         <translation>&amp;Installer</translation>
     </message>
     <message>
-        <source>File filter</source>
-        <translation>Filtre de fichiers</translation>
+        <source>Files to exclude</source>
+        <translation type="unfinished">Filtre de fichiers</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -804,8 +800,8 @@
         <translation>Je &amp;n’accepte pas les termes du contrat de licence</translation>
     </message>
     <message>
-        <source>Something went wrong. Try again, and contact the server administrator if the problem continues.</source>
-        <translation>Un problème est survenu. Réessayez et, si le problème persiste, contactez l’administrateur du serveur.</translation>
+        <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Un problème est survenu. Réessayez et, si le problème persiste, contactez l’administrateur du serveur.</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -828,8 +824,8 @@
         <translation>Paramètres du proxy</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator, so Quillmere might not install completely. Do you want to continue?</source>
-        <translation>Vous n’avez pas ouvert de session en tant qu’administrateur&#xa0;; Quillmere risque donc de ne pas s’installer complètement. Voulez-vous continuer&#xa0;?</translation>
+        <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
+        <translation type="unfinished">Vous n’avez pas ouvert de session en tant qu’administrateur&#xa0;; Quillmere risque donc de ne pas s’installer complètement. Voulez-vous continuer&#xa0;?</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
@@ -876,8 +872,8 @@
         <translation>Le dossier est un point de montage</translation>
     </message>
     <message>
-        <source>Choose another folder</source>
-        <translation>Choisir un autre dossier</translation>
+        <source>Choose another folder...</source>
+        <translation type="unfinished">Choisir un autre dossier</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -900,12 +896,16 @@
         <translation>Saisissez l’adresse du serveur et le compte que vous y utilisez.</translation>
     </message>
     <message>
-        <source>A different server was found at the server address.</source>
-        <translation>Un autre serveur a été détecté à l’adresse enregistrée.</translation>
+        <source>Remove</source>
+        <translation type="unfinished">Dissocier</translation>
     </message>
     <message>
-        <source>Linking to the server...</source>
-        <translation>Association au serveur…</translation>
+        <source>Another server was found at the server address.</source>
+        <translation type="unfinished">Un autre serveur a été détecté à l’adresse enregistrée.</translation>
+    </message>
+    <message>
+        <source>Connecting to the server...</source>
+        <translation type="unfinished">Association au serveur…</translation>
     </message>
     <message>
         <source>Port</source>
@@ -928,8 +928,8 @@
         <translation>Utiliser les paramètres de proxy du système</translation>
     </message>
     <message>
-        <source>Change folder</source>
-        <translation>Changer de dossier</translation>
+        <source>Change folder...</source>
+        <translation type="unfinished">Changer de dossier</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -944,8 +944,8 @@
         <translation>Téléchargement en cours…</translation>
     </message>
     <message>
-        <source>The file is locked</source>
-        <translation>Le fichier est verrouillé</translation>
+        <source>File locked</source>
+        <translation type="unfinished">Le fichier est verrouillé</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -956,8 +956,8 @@
         <translation>Préparation…</translation>
     </message>
     <message>
-        <source>Updating files...</source>
-        <translation>Mise à jour des fichiers…</translation>
+        <source>Syncing files...</source>
+        <translation type="unfinished">Mise à jour des fichiers…</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -968,8 +968,8 @@
         <translation>Vérification du nom d’utilisateur et du mot de passe…</translation>
     </message>
     <message>
-        <source>Wait while the Setup Wizard sets up [ProductName]. This can take several minutes.</source>
-        <translation>Patientez pendant que l’assistant d’installation configure [ProductName]. Cette opération peut prendre plusieurs minutes.</translation>
+        <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
+        <translation type="unfinished">Patientez pendant que l’assistant d’installation configure [ProductName]. Cette opération peut prendre plusieurs minutes.</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1020,24 +1020,24 @@
         <translation>Le lien de partage a été copié dans le presse-papiers.</translation>
     </message>
     <message>
-        <source>The local sync folder was not found. Restore the folder or choose a different one.</source>
-        <translation>Le dossier de synchronisation local est introuvable. Restaurez-le ou choisissez-en un autre.</translation>
+        <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
+        <translation type="unfinished">Le dossier de synchronisation local est introuvable. Restaurez-le ou choisissez-en un autre.</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
         <translation>Mise à jour de Quillmere</translation>
     </message>
     <message>
-        <source>Add sync task</source>
-        <translation>Ajouter une tâche de synchronisation</translation>
+        <source>Add sync task...</source>
+        <translation type="unfinished">Ajouter une tâche de synchronisation</translation>
     </message>
     <message>
-        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it.</source>
-        <translation>Le dossier partagé n’est pas monté sur le serveur. Demandez à l’administrateur du serveur de le monter.</translation>
+        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
+        <translation type="unfinished">Le dossier partagé n’est pas monté sur le serveur. Demandez à l’administrateur du serveur de le monter.</translation>
     </message>
     <message>
-        <source>The server sent an unexpected response. Upgrade the client and the server, then try again.</source>
-        <translation>Le serveur a envoyé une réponse inattendue. Mettez à jour le client et le serveur, puis réessayez.</translation>
+        <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Le serveur a envoyé une réponse inattendue. Mettez à jour le client et le serveur, puis réessayez.</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1052,8 +1052,8 @@
         <translation>Saisissez une taille inférieure ou égale à %1&#xa0;Mo.</translation>
     </message>
     <message>
-        <source>Checking the data...</source>
-        <translation>Vérification des données…</translation>
+        <source>Checking files...</source>
+        <translation type="unfinished">Vérification des données…</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
@@ -1064,8 +1064,8 @@
         <translation>Cliquez sur «&#xa0;Installer&#xa0;» pour commencer l’installation de [ProductName]. Cliquez sur «&#xa0;Précédent&#xa0;» pour revoir vos choix ou sur «&#xa0;Annuler&#xa0;» pour quitter l’assistant d’installation.</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}[ProductName] setup was interrupted</source>
-        <translation>{\VerdanaBold13}L’installation de [ProductName] a été interrompue</translation>
+        <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
+        <translation type="unfinished">{\VerdanaBold13}L’installation de [ProductName] a été interrompue</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1092,8 +1092,8 @@
         <translation>Paramètres réseau</translation>
     </message>
     <message>
-        <source>This folder is already synced with another shared folder. Choose a different folder.</source>
-        <translation>Ce dossier est déjà synchronisé avec un autre dossier partagé. Choisissez un autre dossier.</translation>
+        <source>This folder is already synced with another shared folder. Choose another folder.</source>
+        <translation type="unfinished">Ce dossier est déjà synchronisé avec un autre dossier partagé. Choisissez un autre dossier.</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1132,24 +1132,24 @@
         <translation>Démarrer Quillmere à l’ouverture de ma session sur cet ordinateur</translation>
     </message>
     <message>
-        <source>All files from both folders are kept. If two versions of a file differ, you get both.</source>
-        <translation>Tous les fichiers des deux dossiers sont conservés. Si deux versions d’un fichier diffèrent, vous obtenez les deux.</translation>
+        <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
+        <translation type="unfinished">Tous les fichiers des deux dossiers sont conservés. Si deux versions d’un fichier diffèrent, vous obtenez les deux.</translation>
     </message>
     <message>
         <source>Repair the installation</source>
         <translation>Réparer l’installation</translation>
     </message>
     <message>
-        <source>Sync enabled</source>
-        <translation>Synchronisation activée</translation>
+        <source>Syncing turned on</source>
+        <translation type="unfinished">Synchronisation activée</translation>
     </message>
     <message>
-        <source>Quillmere could not start. Restart the computer, then start Quillmere again.</source>
-        <translation>Quillmere n’a pas pu démarrer. Redémarrez l’ordinateur, puis relancez Quillmere.</translation>
+        <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Quillmere n’a pas pu démarrer. Redémarrez l’ordinateur, puis relancez Quillmere.</translation>
     </message>
     <message>
-        <source>Do you want to cancel the setup of [ProductName]?</source>
-        <translation>Voulez-vous annuler l’installation de [ProductName]&#xa0;?</translation>
+        <source>Cancel the setup of [ProductName]?</source>
+        <translation type="unfinished">Voulez-vous annuler l’installation de [ProductName]&#xa0;?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1172,28 +1172,28 @@
         <translation>Paramètres avancés</translation>
     </message>
     <message>
-        <source>Browse versions</source>
-        <translation>Parcourir les versions</translation>
+        <source>Browse versions...</source>
+        <translation type="unfinished">Parcourir les versions</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
         <translation>[DlgTitleFont]&amp;Modifier</translation>
     </message>
     <message>
-        <source>This connection is inactive. Link it again to continue syncing.</source>
-        <translation>Cette connexion est inactive. Associez-la de nouveau pour poursuivre la synchronisation.</translation>
+        <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
+        <translation type="unfinished">Cette connexion est inactive. Associez-la de nouveau pour poursuivre la synchronisation.</translation>
     </message>
     <message>
         <source>Detecting...</source>
         <translation>Détection…</translation>
     </message>
     <message>
-        <source>SSL warning</source>
-        <translation>Avertissement SSL</translation>
+        <source>Certificate warning</source>
+        <translation type="unfinished">Avertissement SSL</translation>
     </message>
     <message>
-        <source>The relay service cannot be reached. Check your Internet connection, then try again.</source>
-        <translation>Le service de relais est injoignable. Vérifiez votre connexion Internet, puis réessayez.</translation>
+        <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
+        <translation type="unfinished">Le service de relais est injoignable. Vérifiez votre connexion Internet, puis réessayez.</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
@@ -1232,24 +1232,24 @@
         <translation>Connexion directe</translation>
     </message>
     <message>
-        <source>The server volume that holds this folder is not mounted. Ask the server administrator to mount it.</source>
-        <translation>Le volume du serveur qui contient ce dossier n’est pas monté. Demandez à l’administrateur du serveur de le monter.</translation>
+        <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
+        <translation type="unfinished">Le volume du serveur qui contient ce dossier n’est pas monté. Demandez à l’administrateur du serveur de le monter.</translation>
     </message>
     <message>
-        <source>This version of Quillmere is already installed. Do you want to install it again?</source>
-        <translation>Cette version de Quillmere est déjà installée. Voulez-vous la réinstaller&#xa0;?</translation>
+        <source>This version of Quillmere is already installed. Install it again?</source>
+        <translation type="unfinished">Cette version de Quillmere est déjà installée. Voulez-vous la réinstaller&#xa0;?</translation>
     </message>
     <message>
-        <source>This client is too old for the server. Upgrade the client, then try again.</source>
-        <translation>Ce client est trop ancien pour le serveur. Mettez à jour le client, puis réessayez.</translation>
+        <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
+        <translation type="unfinished">Ce client est trop ancien pour le serveur. Mettez à jour le client, puis réessayez.</translation>
     </message>
     <message>
-        <source>The server is too old for this client.</source>
-        <translation>Le serveur est trop ancien pour ce client.</translation>
+        <source>Quillmere on the server is too old to work with this computer.</source>
+        <translation type="unfinished">Le serveur est trop ancien pour ce client.</translation>
     </message>
     <message>
-        <source>Disabled</source>
-        <translation>Désactivé</translation>
+        <source>Turned off</source>
+        <translation type="unfinished">Désactivé</translation>
     </message>
 </context>
 </TS>

@@ -40,8 +40,8 @@
         <translation>Kapcsolódási mód</translation>
     </message>
     <message>
-        <source>The local database is damaged. Unlink the connection, then link it again to rebuild the database.</source>
-        <translation>A helyi adatbázis sérült. Az adatbázis újraépítéséhez válassza le a kapcsolatot, majd végezze el újra az összekapcsolást.</translation>
+        <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">A helyi adatbázis sérült. Az adatbázis újraépítéséhez válassza le a kapcsolatot, majd végezze el újra az összekapcsolást.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
@@ -56,8 +56,8 @@
         <translation>[DlgTitleFont]Készen áll a [ProductName] eltávolítására</translation>
     </message>
     <message>
-        <source>The server has been replaced. Click here to link again.</source>
-        <translation>A kiszolgálót lecserélték. Kattintson ide az újbóli összekapcsoláshoz.</translation>
+        <source>The server has been replaced. Click here to reconnect.</source>
+        <translation type="unfinished">A kiszolgálót lecserélték. Kattintson ide az újbóli összekapcsoláshoz.</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -68,16 +68,16 @@
         <translation>A telepítővarázslóval módosíthatja, javíthatja vagy eltávolíthatja a [ProductName] programot. A folytatáshoz kattintson a Tovább, a telepítővarázslóból való kilépéshez a Mégse gombra.</translation>
     </message>
     <message>
-        <source>Block list</source>
-        <translation>Tiltólista</translation>
+        <source>Exclusion list</source>
+        <translation type="unfinished">Tiltólista</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
         <translation>Törli ezt a megosztási hivatkozást?\nA hivatkozás birtokosai többé nem fogják tudni megnyitni a fájlt.</translation>
     </message>
     <message>
-        <source>This client is too old for the server.</source>
-        <translation>Ez az ügyfélprogram túl régi a kiszolgálóhoz.</translation>
+        <source>Quillmere on this computer is too old to work with the server.</source>
+        <translation type="unfinished">Ez az ügyfélprogram túl régi a kiszolgálóhoz.</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
@@ -96,16 +96,16 @@
         <translation>Kapcsolat tesztelése…</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server is not trusted, so others may be able to read the data you send. Do you want to continue?</source>
-        <translation>A kiszolgáló SSL-tanúsítványa nem megbízható, ezért mások esetleg elolvashatják az Ön által küldött adatokat. Folytatja?</translation>
+        <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
+        <translation type="unfinished">A kiszolgáló SSL-tanúsítványa nem megbízható, ezért mások esetleg elolvashatják az Ön által küldött adatokat. Folytatja?</translation>
     </message>
     <message>
         <source>New shared folder</source>
         <translation>Új megosztott mappa</translation>
     </message>
     <message>
-        <source>About</source>
-        <translation>Névjegy</translation>
+        <source>About Quillmere</source>
+        <translation type="unfinished">Névjegy</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
@@ -120,8 +120,8 @@
         <translation>A telepítővarázsló készen áll az eltávolítás megkezdésére.</translation>
     </message>
     <message>
-        <source>This computer is already linked to this server. Edit the existing connection or enter a different server.</source>
-        <translation>Ez a számítógép már össze van kapcsolva ezzel a kiszolgálóval. Szerkessze a meglévő kapcsolatot, vagy adjon meg egy másik kiszolgálót.</translation>
+        <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
+        <translation type="unfinished">Ez a számítógép már össze van kapcsolva ezzel a kiszolgálóval. Szerkessze a meglévő kapcsolatot, vagy adjon meg egy másik kiszolgálót.</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -132,12 +132,12 @@
         <translation>Megszakadt a kapcsolat a kiszolgálóval. Ellenőrizze a hálózati kapcsolatot, majd próbálkozzon újra.</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified.</source>
-        <translation>A kiszolgáló SSL-tanúsítványa nem ellenőrizhető.</translation>
+        <source>The certificate of the server could not be verified.</source>
+        <translation type="unfinished">A kiszolgáló SSL-tanúsítványa nem ellenőrizhető.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
-        <translation>Fekete-fehér ikon használata a rendszertálcán</translation>
+        <source>Use a black-and-white tray icon</source>
+        <translation type="unfinished">Fekete-fehér ikon használata a rendszertálcán</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -152,20 +152,20 @@
         <translation>Szinkronizálási feladatok</translation>
     </message>
     <message>
-        <source>Blocked files</source>
-        <translation>Letiltott fájlok</translation>
+        <source>Excluded files</source>
+        <translation type="unfinished">Letiltott fájlok</translation>
     </message>
     <message>
         <source>No permission</source>
         <translation>Nincs jogosultság</translation>
     </message>
     <message>
-        <source>The server is too old for this client. Ask the server administrator to upgrade it.</source>
-        <translation>A kiszolgáló túl régi ehhez az ügyfélprogramhoz. Kérje meg a kiszolgáló rendszergazdáját, hogy frissítse.</translation>
+        <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
+        <translation type="unfinished">A kiszolgáló túl régi ehhez az ügyfélprogramhoz. Kérje meg a kiszolgáló rendszergazdáját, hogy frissítse.</translation>
     </message>
     <message>
-        <source>To try again, run setup again later. Click Finish to exit the Setup Wizard.</source>
-        <translation>Ha újra szeretne próbálkozni, később futtassa ismét a telepítőt. A telepítővarázslóból való kilépéshez kattintson a Befejezés gombra.</translation>
+        <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
+        <translation type="unfinished">Ha újra szeretne próbálkozni, később futtassa ismét a telepítőt. A telepítővarázslóból való kilépéshez kattintson a Befejezés gombra.</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -180,8 +180,8 @@
         <translation>A [ProductName] telepítésének javításához kattintson a Javítás gombra. A választott beállítások áttekintéséhez kattintson a Vissza, a telepítővarázslóból való kilépéshez a Mégse gombra.</translation>
     </message>
     <message>
-        <source>Some settings have not been saved. Do you want to save them?</source>
-        <translation>Néhány beállítás nincs mentve. Menti a beállításokat?</translation>
+        <source>Some settings have not been saved. Save them?</source>
+        <translation type="unfinished">Néhány beállítás nincs mentve. Menti a beállításokat?</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -192,8 +192,8 @@
         <translation>Művelet</translation>
     </message>
     <message>
-        <source>This folder is already used by another sync program. Choose a different folder to avoid conflicts.</source>
-        <translation>Ezt a mappát már egy másik szinkronizálóprogram használja. Az ütközések elkerülése érdekében válasszon másik mappát.</translation>
+        <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
+        <translation type="unfinished">Ezt a mappát már egy másik szinkronizálóprogram használja. Az ütközések elkerülése érdekében válasszon másik mappát.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -204,16 +204,16 @@
         <translation>Nem kompatibilis verzió</translation>
     </message>
     <message>
-        <source>Change the sync folder</source>
-        <translation>Szinkronizálási mappa módosítása</translation>
+        <source>Change sync folder</source>
+        <translation type="unfinished">Szinkronizálási mappa módosítása</translation>
     </message>
     <message>
-        <source>Enter a complete file name without a folder path.</source>
-        <translation>Adjon meg egy teljes fájlnevet a mappa elérési útja nélkül.</translation>
+        <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
+        <translation type="unfinished">Adjon meg egy teljes fájlnevet a mappa elérési útja nélkül.</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]An error stopped setup, and its changes were undone.</source>
-        <translation>[DlgTitleFont]A telepítés egy hiba miatt leállt, a módosításokat a telepítő visszavonta.</translation>
+        <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
+        <translation type="unfinished">[DlgTitleFont]A telepítés egy hiba miatt leállt, a módosításokat a telepítő visszavonta.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -240,8 +240,8 @@
         <translation>Név</translation>
     </message>
     <message>
-        <source>Encrypt data transfer with SSL</source>
-        <translation>Adatátvitel titkosítása SSL használatával</translation>
+        <source>Use an encrypted connection (TLS)</source>
+        <translation type="unfinished">Adatátvitel titkosítása SSL használatával</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -276,8 +276,8 @@
         <translation>Ennek a fájlnak még nincsenek korábbi verziói. Módosítsa a fájlt, és várja meg a szinkronizálását, hogy létrejöjjön egy.</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>Leválasztás</translation>
+        <source>Disconnect</source>
+        <translation type="unfinished">Leválasztás</translation>
     </message>
     <message>
         <source>Back</source>
@@ -316,8 +316,8 @@
         <translation>Beállítások alkalmazása…</translation>
     </message>
     <message>
-        <source>Files that are not synced</source>
-        <translation>Nem szinkronizált fájlok</translation>
+        <source>Files excluded from syncing</source>
+        <translation type="unfinished">Nem szinkronizált fájlok</translation>
     </message>
     <message>
         <source>Created</source>
@@ -332,8 +332,8 @@
         <translation>Internet</translation>
     </message>
     <message>
-        <source>Choose the shared folders to sync</source>
-        <translation>Válassza ki a szinkronizálandó megosztott mappákat</translation>
+        <source>Choose shared folders to sync</source>
+        <translation type="unfinished">Válassza ki a szinkronizálandó megosztott mappákat</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -360,8 +360,8 @@
         <translation>Kijavítja a [ProductName] telepítésének hibáit a hiányzó vagy sérült fájlok és parancsikonok helyreállításával.</translation>
     </message>
     <message>
-        <source>Blocked file extensions</source>
-        <translation>Letiltott fájlkiterjesztések</translation>
+        <source>Excluded file extensions</source>
+        <translation type="unfinished">Letiltott fájlkiterjesztések</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -376,16 +376,16 @@
         <translation>Jelszó</translation>
     </message>
     <message>
-        <source>The volume that holds the sync folder is not mounted. Mount the volume, then resume syncing.</source>
-        <translation>A szinkronizálási mappát tartalmazó kötet nincs csatolva. Csatolja a kötetet, majd folytassa a szinkronizálást.</translation>
+        <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
+        <translation type="unfinished">A szinkronizálási mappát tartalmazó kötet nincs csatolva. Csatolja a kötetet, majd folytassa a szinkronizálást.</translation>
     </message>
     <message>
         <source>Edit</source>
         <translation>Szerkesztés</translation>
     </message>
     <message>
-        <source>This computer has no free disk space.</source>
-        <translation>Ezen a számítógépen nincs szabad lemezterület.</translation>
+        <source>The drive that holds the sync folder is full.</source>
+        <translation type="unfinished">Ezen a számítógépen nincs szabad lemezterület.</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -400,8 +400,8 @@
         <translation>&amp;Kihagyás</translation>
     </message>
     <message>
-        <source>A folder with this name already exists. Do you want to merge its files with those on the server?</source>
-        <translation>Már létezik ilyen nevű mappa. Egyesíti a fájljait a kiszolgálón lévőkkel?</translation>
+        <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
+        <translation type="unfinished">Már létezik ilyen nevű mappa. Egyesíti a fájljait a kiszolgálón lévőkkel?</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
@@ -448,12 +448,12 @@
         <translation>Kész</translation>
     </message>
     <message>
-        <source>Syncing %1 files...</source>
-        <translation>%1 fájl szinkronizálása…</translation>
+        <source>Files being synced: %1</source>
+        <translation type="unfinished">%1 fájl szinkronizálása…</translation>
     </message>
     <message>
-        <source>Link again</source>
-        <translation>Újbóli összekapcsolás</translation>
+        <source>Reconnect</source>
+        <translation type="unfinished">Újbóli összekapcsolás</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -472,8 +472,8 @@
         <translation>Rendszer alapértelmezése</translation>
     </message>
     <message>
-        <source>The folders and files you cleared will be removed from this computer. They will be kept on the server.</source>
-        <translation>Azok a mappák és fájlok, amelyek jelölését törölte, el lesznek távolítva erről a számítógépről. A kiszolgálón megmaradnak.</translation>
+        <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
+        <translation type="unfinished">Azok a mappák és fájlok, amelyek jelölését törölte, el lesznek távolítva erről a számítógépről. A kiszolgálón megmaradnak.</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
@@ -488,28 +488,28 @@
         <translation>Nincs több hely</translation>
     </message>
     <message>
-        <source>Inactive</source>
-        <translation>Inaktív</translation>
+        <source>Disconnected</source>
+        <translation type="unfinished">Inaktív</translation>
     </message>
     <message>
-        <source>Your quota on the server is full.</source>
-        <translation>Betelt a kvótája a kiszolgálón.</translation>
+        <source>You have used all of your space on the server.</source>
+        <translation type="unfinished">Betelt a kvótája a kiszolgálón.</translation>
     </message>
     <message>
-        <source>Unlink this connection?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>Leválasztja ezt a kapcsolatot?\nA fájljai megmaradnak ezen a számítógépen és a kiszolgálón, de többé nem lesznek szinkronizálva.</translation>
+        <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">Leválasztja ezt a kapcsolatot?\nA fájljai megmaradnak ezen a számítógépen és a kiszolgálón, de többé nem lesznek szinkronizálva.</translation>
     </message>
     <message>
-        <source>The relay service has a problem. Try again later, or connect with the IP address of the server.</source>
-        <translation>Hiba történt a közvetítő szolgáltatásban. Próbálkozzon újra később, vagy kapcsolódjon a kiszolgáló IP-címével.</translation>
+        <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
+        <translation type="unfinished">Hiba történt a közvetítő szolgáltatásban. Próbálkozzon újra később, vagy kapcsolódjon a kiszolgáló IP-címével.</translation>
     </message>
     <message>
         <source>Server ID</source>
         <translation>Kiszolgálóazonosító</translation>
     </message>
     <message>
-        <source>Blocked file names</source>
-        <translation>Letiltott fájlnevek</translation>
+        <source>Excluded file names</source>
+        <translation type="unfinished">Letiltott fájlnevek</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -520,20 +520,20 @@
         <translation>Folytatás</translation>
     </message>
     <message>
-        <source>Enabled</source>
-        <translation>Bekapcsolva</translation>
+        <source>Turned on</source>
+        <translation type="unfinished">Bekapcsolva</translation>
     </message>
     <message>
-        <source>This computer has no free disk space. Free some space to continue syncing.</source>
-        <translation>Ezen a számítógépen nincs szabad lemezterület. A szinkronizálás folytatásához szabadítson fel helyet.</translation>
+        <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
+        <translation type="unfinished">Ezen a számítógépen nincs szabad lemezterület. A szinkronizálás folytatásához szabadítson fel helyet.</translation>
     </message>
     <message>
         <source>Folders to sync</source>
         <translation>Szinkronizálandó mappák</translation>
     </message>
     <message>
-        <source>Choose a sync folder</source>
-        <translation>Válasszon szinkronizálási mappát</translation>
+        <source>Choose sync folder</source>
+        <translation type="unfinished">Válasszon szinkronizálási mappát</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -548,8 +548,8 @@
         <translation>Számítógép</translation>
     </message>
     <message>
-        <source>Your quota on the server is full. Delete files you do not need, or ask the server administrator for a larger quota.</source>
-        <translation>Betelt a kvótája a kiszolgálón. Törölje a szükségtelen fájlokat, vagy kérjen nagyobb kvótát a kiszolgáló rendszergazdájától.</translation>
+        <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
+        <translation type="unfinished">Betelt a kvótája a kiszolgálón. Törölje a szükségtelen fájlokat, vagy kérjen nagyobb kvótát a kiszolgáló rendszergazdájától.</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
@@ -564,12 +564,12 @@
         <translation>A következő proxykiszolgáló használata</translation>
     </message>
     <message>
-        <source>This file was changed in two places. Compare both copies, then keep the one you need.</source>
-        <translation>Ez a fájl két helyen is módosult. Hasonlítsa össze a két példányt, majd tartsa meg azt, amelyikre szüksége van.</translation>
+        <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
+        <translation type="unfinished">Ez a fájl két helyen is módosult. Hasonlítsa össze a két példányt, majd tartsa meg azt, amelyikre szüksége van.</translation>
     </message>
     <message>
-        <source>One place for your files on every computer, through a server of your own</source>
-        <translation>Egy hely a fájljainak minden számítógépén, a saját kiszolgálóján keresztül</translation>
+        <source>All your files on every computer, kept on your own server</source>
+        <translation type="unfinished">Egy hely a fájljainak minden számítógépén, a saját kiszolgálóján keresztül</translation>
     </message>
     <message>
         <source>OK</source>
@@ -580,8 +580,8 @@
         <translation>Asztali értesítések megjelenítése</translation>
     </message>
     <message>
-        <source>The following applications use files that setup needs to update. Close them and click Retry, click Ignore to continue without closing them, or click Exit to leave setup.</source>
-        <translation>A következő alkalmazások olyan fájlokat használnak, amelyeket a telepítőnek frissítenie kell. Zárja be őket, és kattintson az Újra gombra. Ha a bezárásuk nélkül szeretné folytatni, kattintson a Kihagyás gombra, a telepítőből való kilépéshez pedig a Kilépés gombra.</translation>
+        <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
+        <translation type="unfinished">A következő alkalmazások olyan fájlokat használnak, amelyeket a telepítőnek frissítenie kell. Zárja be őket, és kattintson az Újra gombra. Ha a bezárásuk nélkül szeretné folytatni, kattintson a Kihagyás gombra, a telepítőből való kilépéshez pedig a Kilépés gombra.</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -596,12 +596,12 @@
         <translation>A lista valamelyik bejegyzésének megfelelő fájlok nem lesznek szinkronizálva.</translation>
     </message>
     <message>
-        <source>Edit connection</source>
-        <translation>Kapcsolat szerkesztése</translation>
+        <source>Edit connection...</source>
+        <translation type="unfinished">Kapcsolat szerkesztése</translation>
     </message>
     <message>
-        <source>Options</source>
-        <translation>Lehetőségek</translation>
+        <source>Settings</source>
+        <translation>Beállítások</translation>
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
@@ -624,36 +624,32 @@
         <translation>Szüneteltetés</translation>
     </message>
     <message>
-        <source>Show icon overlays on filtered files</source>
-        <translation>Ikonátfedések megjelenítése a kiszűrt fájlokon</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Beállítások</translation>
+        <source>Show icon overlays on excluded files</source>
+        <translation type="unfinished">Ikonátfedések megjelenítése a kiszűrt fájlokon</translation>
     </message>
     <message>
         <source>Loading...</source>
         <translation>Betöltés…</translation>
     </message>
     <message>
-        <source>You can sync at most %1 shared folders. Stop syncing one of them before you add another.</source>
-        <translation>Legfeljebb %1 megosztott mappa szinkronizálható. Újabb mappa hozzáadása előtt szüntesse meg valamelyikük szinkronizálását.</translation>
+        <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
+        <translation type="unfinished">Legfeljebb %1 megosztott mappa szinkronizálható. Újabb mappa hozzáadása előtt szüntesse meg valamelyikük szinkronizálását.</translation>
     </message>
     <message>
-        <source>Unlink this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>Leválasztja ezt a szinkronizálási feladatot?\nA fájljai megmaradnak ezen a számítógépen és a kiszolgálón, de többé nem lesznek szinkronizálva.</translation>
+        <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">Leválasztja ezt a szinkronizálási feladatot?\nA fájljai megmaradnak ezen a számítógépen és a kiszolgálón, de többé nem lesznek szinkronizálva.</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
         <translation>A Quillmere indítása…</translation>
     </message>
     <message>
-        <source>Quillmere could not be upgraded. Restart the computer, then try again.</source>
-        <translation>A Quillmere frissítése nem sikerült. Indítsa újra a számítógépet, majd próbálkozzon újra.</translation>
+        <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">A Quillmere frissítése nem sikerült. Indítsa újra a számítógépet, majd próbálkozzon újra.</translation>
     </message>
     <message>
-        <source>Block names that begin with a dot</source>
-        <translation>A ponttal kezdődő nevek letiltása</translation>
+        <source>Exclude names that begin with a dot</source>
+        <translation type="unfinished">A ponttal kezdődő nevek letiltása</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -676,8 +672,8 @@
         <translation>Létrejött a kapcsolat a kiszolgálóval.</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}The [ProductName] Setup Wizard is complete</source>
-        <translation>{\VerdanaBold13}A [ProductName] telepítővarázslója befejezte a műveletet</translation>
+        <source>{\VerdanaBold13}[ProductName] setup is complete</source>
+        <translation type="unfinished">{\VerdanaBold13}A [ProductName] telepítővarázslója befejezte a műveletet</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -712,20 +708,20 @@
         <translation>Megosztott mappa</translation>
     </message>
     <message>
-        <source>Client options</source>
-        <translation>Az ügyfélprogram beállításai</translation>
+        <source>Quillmere settings</source>
+        <translation type="unfinished">Az ügyfélprogram beállításai</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
         <translation>A megosztási hivatkozás nem törölhető. Ellenőrizze a kapcsolatot a kiszolgálóval, majd próbálkozzon újra.</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified. Ask the server administrator to check the certificate.</source>
-        <translation>A kiszolgáló SSL-tanúsítványa nem ellenőrizhető. Kérje meg a kiszolgáló rendszergazdáját, hogy ellenőrizze a tanúsítványt.</translation>
+        <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
+        <translation type="unfinished">A kiszolgáló SSL-tanúsítványa nem ellenőrizhető. Kérje meg a kiszolgáló rendszergazdáját, hogy ellenőrizze a tanúsítványt.</translation>
     </message>
     <message>
-        <source>This is not the server the connection was linked to. Check the server address, or link again.</source>
-        <translation>Ez nem az a kiszolgáló, amellyel az összekapcsolás történt. Ellenőrizze a kiszolgáló címét, vagy végezze el újra az összekapcsolást.</translation>
+        <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
+        <translation type="unfinished">Ez nem az a kiszolgáló, amellyel az összekapcsolás történt. Ellenőrizze a kiszolgáló címét, vagy végezze el újra az összekapcsolást.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -764,16 +760,16 @@
         <translation>Kapcsolatok kezelése</translation>
     </message>
     <message>
-        <source>Link to another server</source>
-        <translation>Összekapcsolás másik kiszolgálóval</translation>
+        <source>Connect to another server...</source>
+        <translation type="unfinished">Összekapcsolás másik kiszolgálóval</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
         <translation>Ikonátfedések megjelenítése</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]Setting up [ProductName]</source>
-        <translation>[DlgTitleFont]A [ProductName] beállítása</translation>
+        <source>[DlgTitleFont]Making changes to [ProductName]</source>
+        <translation type="unfinished">[DlgTitleFont]A [ProductName] beállítása</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -792,8 +788,8 @@
         <translation>Te&amp;lepítés</translation>
     </message>
     <message>
-        <source>File filter</source>
-        <translation>Fájlszűrő</translation>
+        <source>Files to exclude</source>
+        <translation type="unfinished">Fájlszűrő</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -804,8 +800,8 @@
         <translation>Ne&amp;m fogadom el a licencszerződés feltételeit</translation>
     </message>
     <message>
-        <source>Something went wrong. Try again, and contact the server administrator if the problem continues.</source>
-        <translation>Hiba történt. Próbálkozzon újra, és ha a probléma továbbra is fennáll, forduljon a kiszolgáló rendszergazdájához.</translation>
+        <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Hiba történt. Próbálkozzon újra, és ha a probléma továbbra is fennáll, forduljon a kiszolgáló rendszergazdájához.</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -828,8 +824,8 @@
         <translation>Proxybeállítások</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator, so Quillmere might not install completely. Do you want to continue?</source>
-        <translation>Nem rendszergazdaként jelentkezett be, ezért lehet, hogy a Quillmere telepítése nem lesz teljes. Folytatja?</translation>
+        <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
+        <translation type="unfinished">Nem rendszergazdaként jelentkezett be, ezért lehet, hogy a Quillmere telepítése nem lesz teljes. Folytatja?</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
@@ -876,8 +872,8 @@
         <translation>A mappa csatolási pont</translation>
     </message>
     <message>
-        <source>Choose another folder</source>
-        <translation>Másik mappa választása</translation>
+        <source>Choose another folder...</source>
+        <translation type="unfinished">Másik mappa választása</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -900,12 +896,16 @@
         <translation>Adja meg a kiszolgáló címét és a kiszolgálón használt fiókját.</translation>
     </message>
     <message>
-        <source>A different server was found at the server address.</source>
-        <translation>A kiszolgáló címén egy másik kiszolgáló található.</translation>
+        <source>Remove</source>
+        <translation type="unfinished">Leválasztás</translation>
     </message>
     <message>
-        <source>Linking to the server...</source>
-        <translation>Összekapcsolás a kiszolgálóval…</translation>
+        <source>Another server was found at the server address.</source>
+        <translation type="unfinished">A kiszolgáló címén egy másik kiszolgáló található.</translation>
+    </message>
+    <message>
+        <source>Connecting to the server...</source>
+        <translation type="unfinished">Összekapcsolás a kiszolgálóval…</translation>
     </message>
     <message>
         <source>Port</source>
@@ -928,8 +928,8 @@
         <translation>A rendszer proxybeállításainak használata</translation>
     </message>
     <message>
-        <source>Change folder</source>
-        <translation>Mappa módosítása</translation>
+        <source>Change folder...</source>
+        <translation type="unfinished">Mappa módosítása</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -944,8 +944,8 @@
         <translation>Letöltés…</translation>
     </message>
     <message>
-        <source>The file is locked</source>
-        <translation>A fájl zárolva van</translation>
+        <source>File locked</source>
+        <translation type="unfinished">A fájl zárolva van</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -956,8 +956,8 @@
         <translation>Előkészítés…</translation>
     </message>
     <message>
-        <source>Updating files...</source>
-        <translation>Fájlok frissítése…</translation>
+        <source>Syncing files...</source>
+        <translation type="unfinished">Fájlok frissítése…</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -968,8 +968,8 @@
         <translation>A felhasználónév és a jelszó ellenőrzése…</translation>
     </message>
     <message>
-        <source>Wait while the Setup Wizard sets up [ProductName]. This can take several minutes.</source>
-        <translation>Várjon, amíg a telepítővarázsló beállítja a [ProductName] programot. Ez több percig is eltarthat.</translation>
+        <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
+        <translation type="unfinished">Várjon, amíg a telepítővarázsló beállítja a [ProductName] programot. Ez több percig is eltarthat.</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1020,24 +1020,24 @@
         <translation>A megosztási hivatkozás a vágólapra került.</translation>
     </message>
     <message>
-        <source>The local sync folder was not found. Restore the folder or choose a different one.</source>
-        <translation>A helyi szinkronizálási mappa nem található. Állítsa helyre a mappát, vagy válasszon egy másikat.</translation>
+        <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
+        <translation type="unfinished">A helyi szinkronizálási mappa nem található. Állítsa helyre a mappát, vagy válasszon egy másikat.</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
         <translation>A Quillmere frissítése</translation>
     </message>
     <message>
-        <source>Add sync task</source>
-        <translation>Szinkronizálási feladat hozzáadása</translation>
+        <source>Add sync task...</source>
+        <translation type="unfinished">Szinkronizálási feladat hozzáadása</translation>
     </message>
     <message>
-        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it.</source>
-        <translation>A megosztott mappa nincs csatolva a kiszolgálón. Kérje meg a kiszolgáló rendszergazdáját, hogy csatolja.</translation>
+        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
+        <translation type="unfinished">A megosztott mappa nincs csatolva a kiszolgálón. Kérje meg a kiszolgáló rendszergazdáját, hogy csatolja.</translation>
     </message>
     <message>
-        <source>The server sent an unexpected response. Upgrade the client and the server, then try again.</source>
-        <translation>A kiszolgáló váratlan választ küldött. Frissítse az ügyfélprogramot és a kiszolgálót, majd próbálkozzon újra.</translation>
+        <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">A kiszolgáló váratlan választ küldött. Frissítse az ügyfélprogramot és a kiszolgálót, majd próbálkozzon újra.</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1052,8 +1052,8 @@
         <translation>Legfeljebb %1&#xa0;MB méretet adjon meg.</translation>
     </message>
     <message>
-        <source>Checking the data...</source>
-        <translation>Adatok ellenőrzése…</translation>
+        <source>Checking files...</source>
+        <translation type="unfinished">Adatok ellenőrzése…</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
@@ -1064,8 +1064,8 @@
         <translation>A [ProductName] telepítésének megkezdéséhez kattintson a Telepítés gombra. A választott beállítások áttekintéséhez kattintson a Vissza, a telepítővarázslóból való kilépéshez a Mégse gombra.</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}[ProductName] setup was interrupted</source>
-        <translation>{\VerdanaBold13}A [ProductName] telepítése megszakadt</translation>
+        <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
+        <translation type="unfinished">{\VerdanaBold13}A [ProductName] telepítése megszakadt</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1092,8 +1092,8 @@
         <translation>Hálózati beállítások</translation>
     </message>
     <message>
-        <source>This folder is already synced with another shared folder. Choose a different folder.</source>
-        <translation>Ez a mappa már egy másik megosztott mappával van szinkronizálva. Válasszon másik mappát.</translation>
+        <source>This folder is already synced with another shared folder. Choose another folder.</source>
+        <translation type="unfinished">Ez a mappa már egy másik megosztott mappával van szinkronizálva. Válasszon másik mappát.</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1132,24 +1132,24 @@
         <translation>A Quillmere indítása, amikor bejelentkezem erre a számítógépre</translation>
     </message>
     <message>
-        <source>All files from both folders are kept. If two versions of a file differ, you get both.</source>
-        <translation>Mindkét mappa minden fájlja megmarad. Ha egy fájl két verziója eltér egymástól, mindkettő megmarad.</translation>
+        <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
+        <translation type="unfinished">Mindkét mappa minden fájlja megmarad. Ha egy fájl két verziója eltér egymástól, mindkettő megmarad.</translation>
     </message>
     <message>
         <source>Repair the installation</source>
         <translation>A telepített program javítása</translation>
     </message>
     <message>
-        <source>Sync enabled</source>
-        <translation>Szinkronizálás bekapcsolva</translation>
+        <source>Syncing turned on</source>
+        <translation type="unfinished">Szinkronizálás bekapcsolva</translation>
     </message>
     <message>
-        <source>Quillmere could not start. Restart the computer, then start Quillmere again.</source>
-        <translation>A Quillmere nem indítható el. Indítsa újra a számítógépet, majd indítsa el ismét a Quillmere programot.</translation>
+        <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">A Quillmere nem indítható el. Indítsa újra a számítógépet, majd indítsa el ismét a Quillmere programot.</translation>
     </message>
     <message>
-        <source>Do you want to cancel the setup of [ProductName]?</source>
-        <translation>Megszakítja a [ProductName] telepítését?</translation>
+        <source>Cancel the setup of [ProductName]?</source>
+        <translation type="unfinished">Megszakítja a [ProductName] telepítését?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1172,28 +1172,28 @@
         <translation>Speciális beállítások</translation>
     </message>
     <message>
-        <source>Browse versions</source>
-        <translation>Verziók tallózása</translation>
+        <source>Browse versions...</source>
+        <translation type="unfinished">Verziók tallózása</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
         <translation>[DlgTitleFont]&amp;Módosítás</translation>
     </message>
     <message>
-        <source>This connection is inactive. Link it again to continue syncing.</source>
-        <translation>Ez a kapcsolat inaktív. A szinkronizálás folytatásához végezze el újra az összekapcsolást.</translation>
+        <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
+        <translation type="unfinished">Ez a kapcsolat inaktív. A szinkronizálás folytatásához végezze el újra az összekapcsolást.</translation>
     </message>
     <message>
         <source>Detecting...</source>
         <translation>Észlelés…</translation>
     </message>
     <message>
-        <source>SSL warning</source>
-        <translation>SSL-figyelmeztetés</translation>
+        <source>Certificate warning</source>
+        <translation type="unfinished">SSL-figyelmeztetés</translation>
     </message>
     <message>
-        <source>The relay service cannot be reached. Check your Internet connection, then try again.</source>
-        <translation>A közvetítő szolgáltatás nem érhető el. Ellenőrizze az internetkapcsolatot, majd próbálkozzon újra.</translation>
+        <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
+        <translation type="unfinished">A közvetítő szolgáltatás nem érhető el. Ellenőrizze az internetkapcsolatot, majd próbálkozzon újra.</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
@@ -1232,24 +1232,24 @@
         <translation>Közvetlen kapcsolat</translation>
     </message>
     <message>
-        <source>The server volume that holds this folder is not mounted. Ask the server administrator to mount it.</source>
-        <translation>Az ezt a mappát tartalmazó kötet nincs csatolva a kiszolgálón. Kérje meg a kiszolgáló rendszergazdáját, hogy csatolja.</translation>
+        <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
+        <translation type="unfinished">Az ezt a mappát tartalmazó kötet nincs csatolva a kiszolgálón. Kérje meg a kiszolgáló rendszergazdáját, hogy csatolja.</translation>
     </message>
     <message>
-        <source>This version of Quillmere is already installed. Do you want to install it again?</source>
-        <translation>A Quillmere ezen verziója már telepítve van. Telepíti újra?</translation>
+        <source>This version of Quillmere is already installed. Install it again?</source>
+        <translation type="unfinished">A Quillmere ezen verziója már telepítve van. Telepíti újra?</translation>
     </message>
     <message>
-        <source>This client is too old for the server. Upgrade the client, then try again.</source>
-        <translation>Ez az ügyfélprogram túl régi a kiszolgálóhoz. Frissítse az ügyfélprogramot, majd próbálkozzon újra.</translation>
+        <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
+        <translation type="unfinished">Ez az ügyfélprogram túl régi a kiszolgálóhoz. Frissítse az ügyfélprogramot, majd próbálkozzon újra.</translation>
     </message>
     <message>
-        <source>The server is too old for this client.</source>
-        <translation>A kiszolgáló túl régi ehhez az ügyfélprogramhoz.</translation>
+        <source>Quillmere on the server is too old to work with this computer.</source>
+        <translation type="unfinished">A kiszolgáló túl régi ehhez az ügyfélprogramhoz.</translation>
     </message>
     <message>
-        <source>Disabled</source>
-        <translation>Kikapcsolva</translation>
+        <source>Turned off</source>
+        <translation type="unfinished">Kikapcsolva</translation>
     </message>
 </context>
 </TS>

@@ -40,8 +40,8 @@
         <translation>Modalità di connessione</translation>
     </message>
     <message>
-        <source>The local database is damaged. Unlink the connection, then link it again to rebuild the database.</source>
-        <translation>Il database locale è danneggiato. Scollegare la connessione, quindi collegarla di nuovo per ricostruire il database.</translation>
+        <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Il database locale è danneggiato. Scollegare la connessione, quindi collegarla di nuovo per ricostruire il database.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
@@ -56,8 +56,8 @@
         <translation>[DlgTitleFont]Pronto per la disinstallazione di [ProductName]</translation>
     </message>
     <message>
-        <source>The server has been replaced. Click here to link again.</source>
-        <translation>Il server è stato sostituito. Fare clic qui per ripetere il collegamento.</translation>
+        <source>The server has been replaced. Click here to reconnect.</source>
+        <translation type="unfinished">Il server è stato sostituito. Fare clic qui per ripetere il collegamento.</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -68,16 +68,16 @@
         <translation>La procedura guidata consente di modificare, riparare o disinstallare [ProductName]. Fare clic su «Avanti» per continuare o su «Annulla» per uscire dalla procedura guidata.</translation>
     </message>
     <message>
-        <source>Block list</source>
-        <translation>Elenco esclusioni</translation>
+        <source>Exclusion list</source>
+        <translation type="unfinished">Elenco esclusioni</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
         <translation>Eliminare questo link di condivisione?\nChi dispone del link non potrà più aprire il file.</translation>
     </message>
     <message>
-        <source>This client is too old for the server.</source>
-        <translation>Questo client è troppo vecchio per il server.</translation>
+        <source>Quillmere on this computer is too old to work with the server.</source>
+        <translation type="unfinished">Questo client è troppo vecchio per il server.</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
@@ -96,16 +96,16 @@
         <translation>Verifica della connessione…</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server is not trusted, so others may be able to read the data you send. Do you want to continue?</source>
-        <translation>Il certificato SSL del server non è attendibile: altre persone potrebbero leggere i dati inviati. Continuare?</translation>
+        <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
+        <translation type="unfinished">Il certificato SSL del server non è attendibile: altre persone potrebbero leggere i dati inviati. Continuare?</translation>
     </message>
     <message>
         <source>New shared folder</source>
         <translation>Nuova cartella condivisa</translation>
     </message>
     <message>
-        <source>About</source>
-        <translation>Informazioni</translation>
+        <source>About Quillmere</source>
+        <translation type="unfinished">Informazioni</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
@@ -120,8 +120,8 @@
         <translation>La procedura guidata è pronta per iniziare la disinstallazione.</translation>
     </message>
     <message>
-        <source>This computer is already linked to this server. Edit the existing connection or enter a different server.</source>
-        <translation>Questo computer è già collegato a questo server. Modificare la connessione esistente o indicare un altro server.</translation>
+        <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
+        <translation type="unfinished">Questo computer è già collegato a questo server. Modificare la connessione esistente o indicare un altro server.</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -132,12 +132,12 @@
         <translation>La connessione al server è stata interrotta. Controllare la connessione di rete, quindi riprovare.</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified.</source>
-        <translation>Non è stato possibile verificare il certificato SSL del server.</translation>
+        <source>The certificate of the server could not be verified.</source>
+        <translation type="unfinished">Non è stato possibile verificare il certificato SSL del server.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
-        <translation>Usa un&apos;icona in bianco e nero nell&apos;area di notifica</translation>
+        <source>Use a black-and-white tray icon</source>
+        <translation type="unfinished">Usa un&apos;icona in bianco e nero nell&apos;area di notifica</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -152,20 +152,20 @@
         <translation>Attività di sincronizzazione</translation>
     </message>
     <message>
-        <source>Blocked files</source>
-        <translation>File esclusi</translation>
+        <source>Excluded files</source>
+        <translation type="unfinished">File esclusi</translation>
     </message>
     <message>
         <source>No permission</source>
         <translation>Permessi insufficienti</translation>
     </message>
     <message>
-        <source>The server is too old for this client. Ask the server administrator to upgrade it.</source>
-        <translation>Il server è troppo vecchio per questo client. Chiedere all&apos;amministratore del server di aggiornarlo.</translation>
+        <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
+        <translation type="unfinished">Il server è troppo vecchio per questo client. Chiedere all&apos;amministratore del server di aggiornarlo.</translation>
     </message>
     <message>
-        <source>To try again, run setup again later. Click Finish to exit the Setup Wizard.</source>
-        <translation>Per riprovare, eseguire di nuovo l&apos;installazione in un secondo momento. Fare clic su «Fine» per uscire dalla procedura guidata.</translation>
+        <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
+        <translation type="unfinished">Per riprovare, eseguire di nuovo l&apos;installazione in un secondo momento. Fare clic su «Fine» per uscire dalla procedura guidata.</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -180,8 +180,8 @@
         <translation>Fare clic su «Ripara» per riparare l&apos;installazione di [ProductName]. Fare clic su «Indietro» per rivedere le scelte o su «Annulla» per uscire dalla procedura guidata.</translation>
     </message>
     <message>
-        <source>Some settings have not been saved. Do you want to save them?</source>
-        <translation>Alcune impostazioni non sono state salvate. Salvarle?</translation>
+        <source>Some settings have not been saved. Save them?</source>
+        <translation type="unfinished">Alcune impostazioni non sono state salvate. Salvarle?</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -192,8 +192,8 @@
         <translation>Azione</translation>
     </message>
     <message>
-        <source>This folder is already used by another sync program. Choose a different folder to avoid conflicts.</source>
-        <translation>Questa cartella è già usata da un altro programma di sincronizzazione. Scegliere un&apos;altra cartella per evitare conflitti.</translation>
+        <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
+        <translation type="unfinished">Questa cartella è già usata da un altro programma di sincronizzazione. Scegliere un&apos;altra cartella per evitare conflitti.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -204,16 +204,16 @@
         <translation>Versione incompatibile</translation>
     </message>
     <message>
-        <source>Change the sync folder</source>
-        <translation>Cambia cartella di sincronizzazione</translation>
+        <source>Change sync folder</source>
+        <translation type="unfinished">Cambia cartella di sincronizzazione</translation>
     </message>
     <message>
-        <source>Enter a complete file name without a folder path.</source>
-        <translation>Inserire un nome di file completo, senza percorso della cartella.</translation>
+        <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
+        <translation type="unfinished">Inserire un nome di file completo, senza percorso della cartella.</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]An error stopped setup, and its changes were undone.</source>
-        <translation>[DlgTitleFont]Un errore ha interrotto l&apos;installazione e le modifiche apportate sono state annullate.</translation>
+        <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
+        <translation type="unfinished">[DlgTitleFont]Un errore ha interrotto l&apos;installazione e le modifiche apportate sono state annullate.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -240,8 +240,8 @@
         <translation>Nome</translation>
     </message>
     <message>
-        <source>Encrypt data transfer with SSL</source>
-        <translation>Cifra il trasferimento dei dati con SSL</translation>
+        <source>Use an encrypted connection (TLS)</source>
+        <translation type="unfinished">Cifra il trasferimento dei dati con SSL</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -276,8 +276,8 @@
         <translation>Questo file non ha ancora versioni precedenti. Modificarlo e attendere la sincronizzazione per crearne una.</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>Scollega</translation>
+        <source>Disconnect</source>
+        <translation type="unfinished">Scollega</translation>
     </message>
     <message>
         <source>Back</source>
@@ -316,8 +316,8 @@
         <translation>Applicazione delle impostazioni…</translation>
     </message>
     <message>
-        <source>Files that are not synced</source>
-        <translation>File non sincronizzati</translation>
+        <source>Files excluded from syncing</source>
+        <translation type="unfinished">File non sincronizzati</translation>
     </message>
     <message>
         <source>Created</source>
@@ -332,8 +332,8 @@
         <translation>Internet</translation>
     </message>
     <message>
-        <source>Choose the shared folders to sync</source>
-        <translation>Scegliere le cartelle condivise da sincronizzare</translation>
+        <source>Choose shared folders to sync</source>
+        <translation type="unfinished">Scegliere le cartelle condivise da sincronizzare</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -360,8 +360,8 @@
         <translation>Corregge gli errori dell&apos;installazione di [ProductName] ripristinando i file e i collegamenti mancanti o danneggiati.</translation>
     </message>
     <message>
-        <source>Blocked file extensions</source>
-        <translation>Estensioni di file escluse</translation>
+        <source>Excluded file extensions</source>
+        <translation type="unfinished">Estensioni di file escluse</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -376,16 +376,16 @@
         <translation>Password</translation>
     </message>
     <message>
-        <source>The volume that holds the sync folder is not mounted. Mount the volume, then resume syncing.</source>
-        <translation>Il volume che contiene la cartella di sincronizzazione non è montato. Montare il volume, quindi riprendere la sincronizzazione.</translation>
+        <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
+        <translation type="unfinished">Il volume che contiene la cartella di sincronizzazione non è montato. Montare il volume, quindi riprendere la sincronizzazione.</translation>
     </message>
     <message>
         <source>Edit</source>
         <translation>Modifica</translation>
     </message>
     <message>
-        <source>This computer has no free disk space.</source>
-        <translation>Lo spazio su disco di questo computer è esaurito.</translation>
+        <source>The drive that holds the sync folder is full.</source>
+        <translation type="unfinished">Lo spazio su disco di questo computer è esaurito.</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -400,8 +400,8 @@
         <translation>&amp;Ignora</translation>
     </message>
     <message>
-        <source>A folder with this name already exists. Do you want to merge its files with those on the server?</source>
-        <translation>Esiste già una cartella con questo nome. Unire i file che contiene a quelli sul server?</translation>
+        <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
+        <translation type="unfinished">Esiste già una cartella con questo nome. Unire i file che contiene a quelli sul server?</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
@@ -448,12 +448,12 @@
         <translation>Fatto</translation>
     </message>
     <message>
-        <source>Syncing %1 files...</source>
-        <translation>Sincronizzazione di %1 file…</translation>
+        <source>Files being synced: %1</source>
+        <translation type="unfinished">Sincronizzazione di %1 file…</translation>
     </message>
     <message>
-        <source>Link again</source>
-        <translation>Collega di nuovo</translation>
+        <source>Reconnect</source>
+        <translation type="unfinished">Collega di nuovo</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -472,8 +472,8 @@
         <translation>Predefinita del sistema</translation>
     </message>
     <message>
-        <source>The folders and files you cleared will be removed from this computer. They will be kept on the server.</source>
-        <translation>Le cartelle e i file deselezionati verranno rimossi da questo computer. Resteranno disponibili sul server.</translation>
+        <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
+        <translation type="unfinished">Le cartelle e i file deselezionati verranno rimossi da questo computer. Resteranno disponibili sul server.</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
@@ -488,28 +488,28 @@
         <translation>Spazio esaurito</translation>
     </message>
     <message>
-        <source>Inactive</source>
-        <translation>Inattiva</translation>
+        <source>Disconnected</source>
+        <translation type="unfinished">Inattiva</translation>
     </message>
     <message>
-        <source>Your quota on the server is full.</source>
-        <translation>La quota sul server è esaurita.</translation>
+        <source>You have used all of your space on the server.</source>
+        <translation type="unfinished">La quota sul server è esaurita.</translation>
     </message>
     <message>
-        <source>Unlink this connection?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>Scollegare questa connessione?\nI file verranno mantenuti su questo computer e sul server, ma non verranno più sincronizzati.</translation>
+        <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">Scollegare questa connessione?\nI file verranno mantenuti su questo computer e sul server, ma non verranno più sincronizzati.</translation>
     </message>
     <message>
-        <source>The relay service has a problem. Try again later, or connect with the IP address of the server.</source>
-        <translation>Il servizio di relay ha riscontrato un problema. Riprovare più tardi o connettersi usando l&apos;indirizzo IP del server.</translation>
+        <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
+        <translation type="unfinished">Il servizio di relay ha riscontrato un problema. Riprovare più tardi o connettersi usando l&apos;indirizzo IP del server.</translation>
     </message>
     <message>
         <source>Server ID</source>
         <translation>ID server</translation>
     </message>
     <message>
-        <source>Blocked file names</source>
-        <translation>Nomi di file esclusi</translation>
+        <source>Excluded file names</source>
+        <translation type="unfinished">Nomi di file esclusi</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -520,20 +520,20 @@
         <translation>Continua</translation>
     </message>
     <message>
-        <source>Enabled</source>
-        <translation>Attivato</translation>
+        <source>Turned on</source>
+        <translation type="unfinished">Attivato</translation>
     </message>
     <message>
-        <source>This computer has no free disk space. Free some space to continue syncing.</source>
-        <translation>Lo spazio su disco di questo computer è esaurito. Liberare spazio per continuare la sincronizzazione.</translation>
+        <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
+        <translation type="unfinished">Lo spazio su disco di questo computer è esaurito. Liberare spazio per continuare la sincronizzazione.</translation>
     </message>
     <message>
         <source>Folders to sync</source>
         <translation>Cartelle da sincronizzare</translation>
     </message>
     <message>
-        <source>Choose a sync folder</source>
-        <translation>Scegliere una cartella di sincronizzazione</translation>
+        <source>Choose sync folder</source>
+        <translation type="unfinished">Scegliere una cartella di sincronizzazione</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -548,8 +548,8 @@
         <translation>Computer</translation>
     </message>
     <message>
-        <source>Your quota on the server is full. Delete files you do not need, or ask the server administrator for a larger quota.</source>
-        <translation>La quota sul server è esaurita. Eliminare i file non necessari o chiedere all&apos;amministratore del server una quota maggiore.</translation>
+        <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
+        <translation type="unfinished">La quota sul server è esaurita. Eliminare i file non necessari o chiedere all&apos;amministratore del server una quota maggiore.</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
@@ -564,12 +564,12 @@
         <translation>Usa il seguente server proxy</translation>
     </message>
     <message>
-        <source>This file was changed in two places. Compare both copies, then keep the one you need.</source>
-        <translation>Questo file è stato modificato in due posizioni. Confrontare le due copie, quindi conservare quella necessaria.</translation>
+        <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
+        <translation type="unfinished">Questo file è stato modificato in due posizioni. Confrontare le due copie, quindi conservare quella necessaria.</translation>
     </message>
     <message>
-        <source>One place for your files on every computer, through a server of your own</source>
-        <translation>Un unico posto per i file su ogni computer, tramite il proprio server</translation>
+        <source>All your files on every computer, kept on your own server</source>
+        <translation type="unfinished">Un unico posto per i file su ogni computer, tramite il proprio server</translation>
     </message>
     <message>
         <source>OK</source>
@@ -580,8 +580,8 @@
         <translation>Mostra notifiche sul desktop</translation>
     </message>
     <message>
-        <source>The following applications use files that setup needs to update. Close them and click Retry, click Ignore to continue without closing them, or click Exit to leave setup.</source>
-        <translation>Le seguenti applicazioni usano file che il programma di installazione deve aggiornare. Chiuderle e fare clic su «Riprova», oppure fare clic su «Ignora» per continuare senza chiuderle o su «Esci» per abbandonare l&apos;installazione.</translation>
+        <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
+        <translation type="unfinished">Le seguenti applicazioni usano file che il programma di installazione deve aggiornare. Chiuderle e fare clic su «Riprova», oppure fare clic su «Ignora» per continuare senza chiuderle o su «Esci» per abbandonare l&apos;installazione.</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -596,12 +596,12 @@
         <translation>I file che corrispondono a una voce di questo elenco non vengono sincronizzati.</translation>
     </message>
     <message>
-        <source>Edit connection</source>
-        <translation>Modifica connessione</translation>
+        <source>Edit connection...</source>
+        <translation type="unfinished">Modifica connessione</translation>
     </message>
     <message>
-        <source>Options</source>
-        <translation>Opzioni</translation>
+        <source>Settings</source>
+        <translation>Impostazioni</translation>
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
@@ -624,36 +624,32 @@
         <translation>Sospendi</translation>
     </message>
     <message>
-        <source>Show icon overlays on filtered files</source>
-        <translation>Mostra icone sovrapposte ai file esclusi dal filtro</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Impostazioni</translation>
+        <source>Show icon overlays on excluded files</source>
+        <translation type="unfinished">Mostra icone sovrapposte ai file esclusi dal filtro</translation>
     </message>
     <message>
         <source>Loading...</source>
         <translation>Caricamento…</translation>
     </message>
     <message>
-        <source>You can sync at most %1 shared folders. Stop syncing one of them before you add another.</source>
-        <translation>Il numero massimo di cartelle condivise sincronizzabili è %1. Interrompere la sincronizzazione di una cartella prima di aggiungerne un&apos;altra.</translation>
+        <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
+        <translation type="unfinished">Il numero massimo di cartelle condivise sincronizzabili è %1. Interrompere la sincronizzazione di una cartella prima di aggiungerne un&apos;altra.</translation>
     </message>
     <message>
-        <source>Unlink this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>Scollegare questa attività di sincronizzazione?\nI relativi file verranno mantenuti su questo computer e sul server, ma non verranno più sincronizzati.</translation>
+        <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">Scollegare questa attività di sincronizzazione?\nI relativi file verranno mantenuti su questo computer e sul server, ma non verranno più sincronizzati.</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
         <translation>Avvio di Quillmere…</translation>
     </message>
     <message>
-        <source>Quillmere could not be upgraded. Restart the computer, then try again.</source>
-        <translation>Non è stato possibile aggiornare Quillmere. Riavviare il computer, quindi riprovare.</translation>
+        <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Non è stato possibile aggiornare Quillmere. Riavviare il computer, quindi riprovare.</translation>
     </message>
     <message>
-        <source>Block names that begin with a dot</source>
-        <translation>Escludi i nomi che iniziano con un punto</translation>
+        <source>Exclude names that begin with a dot</source>
+        <translation type="unfinished">Escludi i nomi che iniziano con un punto</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -676,8 +672,8 @@
         <translation>Connessione al server stabilita.</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}The [ProductName] Setup Wizard is complete</source>
-        <translation>{\VerdanaBold13}La procedura guidata di installazione di [ProductName] è stata completata</translation>
+        <source>{\VerdanaBold13}[ProductName] setup is complete</source>
+        <translation type="unfinished">{\VerdanaBold13}La procedura guidata di installazione di [ProductName] è stata completata</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -712,20 +708,20 @@
         <translation>Cartella condivisa</translation>
     </message>
     <message>
-        <source>Client options</source>
-        <translation>Opzioni del client</translation>
+        <source>Quillmere settings</source>
+        <translation type="unfinished">Opzioni del client</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
         <translation>Non è stato possibile eliminare il link di condivisione. Controllare la connessione al server, quindi riprovare.</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified. Ask the server administrator to check the certificate.</source>
-        <translation>Non è stato possibile verificare il certificato SSL del server. Chiedere all&apos;amministratore del server di controllare il certificato.</translation>
+        <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
+        <translation type="unfinished">Non è stato possibile verificare il certificato SSL del server. Chiedere all&apos;amministratore del server di controllare il certificato.</translation>
     </message>
     <message>
-        <source>This is not the server the connection was linked to. Check the server address, or link again.</source>
-        <translation>Questo non è il server a cui era collegata la connessione. Controllare l&apos;indirizzo del server o ripetere il collegamento.</translation>
+        <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
+        <translation type="unfinished">Questo non è il server a cui era collegata la connessione. Controllare l&apos;indirizzo del server o ripetere il collegamento.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -764,16 +760,16 @@
         <translation>Gestisci connessioni</translation>
     </message>
     <message>
-        <source>Link to another server</source>
-        <translation>Collega a un altro server</translation>
+        <source>Connect to another server...</source>
+        <translation type="unfinished">Collega a un altro server</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
         <translation>Mostra icone sovrapposte</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]Setting up [ProductName]</source>
-        <translation>[DlgTitleFont]Configurazione di [ProductName]</translation>
+        <source>[DlgTitleFont]Making changes to [ProductName]</source>
+        <translation type="unfinished">[DlgTitleFont]Configurazione di [ProductName]</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -792,8 +788,8 @@
         <translation>I&amp;nstalla</translation>
     </message>
     <message>
-        <source>File filter</source>
-        <translation>Filtro file</translation>
+        <source>Files to exclude</source>
+        <translation type="unfinished">Filtro file</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -804,8 +800,8 @@
         <translation>&amp;Non accetto i termini del contratto di licenza</translation>
     </message>
     <message>
-        <source>Something went wrong. Try again, and contact the server administrator if the problem continues.</source>
-        <translation>Si è verificato un problema. Riprovare e, se il problema persiste, contattare l&apos;amministratore del server.</translation>
+        <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Si è verificato un problema. Riprovare e, se il problema persiste, contattare l&apos;amministratore del server.</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -828,8 +824,8 @@
         <translation>Impostazioni del proxy</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator, so Quillmere might not install completely. Do you want to continue?</source>
-        <translation>L&apos;accesso non è stato eseguito come amministratore, quindi Quillmere potrebbe non essere installato completamente. Continuare?</translation>
+        <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
+        <translation type="unfinished">L&apos;accesso non è stato eseguito come amministratore, quindi Quillmere potrebbe non essere installato completamente. Continuare?</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
@@ -876,8 +872,8 @@
         <translation>La cartella è un punto di montaggio</translation>
     </message>
     <message>
-        <source>Choose another folder</source>
-        <translation>Scegli un&apos;altra cartella</translation>
+        <source>Choose another folder...</source>
+        <translation type="unfinished">Scegli un&apos;altra cartella</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -900,12 +896,16 @@
         <translation>Inserire l&apos;indirizzo del server e l&apos;account usato sul server.</translation>
     </message>
     <message>
-        <source>A different server was found at the server address.</source>
-        <translation>All&apos;indirizzo del server è stato trovato un server diverso.</translation>
+        <source>Remove</source>
+        <translation type="unfinished">Scollega</translation>
     </message>
     <message>
-        <source>Linking to the server...</source>
-        <translation>Collegamento al server…</translation>
+        <source>Another server was found at the server address.</source>
+        <translation type="unfinished">All&apos;indirizzo del server è stato trovato un server diverso.</translation>
+    </message>
+    <message>
+        <source>Connecting to the server...</source>
+        <translation type="unfinished">Collegamento al server…</translation>
     </message>
     <message>
         <source>Port</source>
@@ -928,8 +928,8 @@
         <translation>Usa le impostazioni proxy del sistema</translation>
     </message>
     <message>
-        <source>Change folder</source>
-        <translation>Cambia cartella</translation>
+        <source>Change folder...</source>
+        <translation type="unfinished">Cambia cartella</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -944,8 +944,8 @@
         <translation>Download in corso…</translation>
     </message>
     <message>
-        <source>The file is locked</source>
-        <translation>Il file è bloccato</translation>
+        <source>File locked</source>
+        <translation type="unfinished">Il file è bloccato</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -956,8 +956,8 @@
         <translation>Preparazione…</translation>
     </message>
     <message>
-        <source>Updating files...</source>
-        <translation>Aggiornamento dei file…</translation>
+        <source>Syncing files...</source>
+        <translation type="unfinished">Aggiornamento dei file…</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -968,8 +968,8 @@
         <translation>Verifica del nome utente e della password…</translation>
     </message>
     <message>
-        <source>Wait while the Setup Wizard sets up [ProductName]. This can take several minutes.</source>
-        <translation>Attendere che la procedura guidata configuri [ProductName]. L&apos;operazione può richiedere diversi minuti.</translation>
+        <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
+        <translation type="unfinished">Attendere che la procedura guidata configuri [ProductName]. L&apos;operazione può richiedere diversi minuti.</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1020,24 +1020,24 @@
         <translation>Il link di condivisione è stato copiato negli appunti.</translation>
     </message>
     <message>
-        <source>The local sync folder was not found. Restore the folder or choose a different one.</source>
-        <translation>La cartella di sincronizzazione locale non è stata trovata. Ripristinarla o sceglierne un&apos;altra.</translation>
+        <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
+        <translation type="unfinished">La cartella di sincronizzazione locale non è stata trovata. Ripristinarla o sceglierne un&apos;altra.</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
         <translation>Aggiornamento di Quillmere</translation>
     </message>
     <message>
-        <source>Add sync task</source>
-        <translation>Aggiungi attività di sincronizzazione</translation>
+        <source>Add sync task...</source>
+        <translation type="unfinished">Aggiungi attività di sincronizzazione</translation>
     </message>
     <message>
-        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it.</source>
-        <translation>La cartella condivisa non è montata sul server. Chiedere all&apos;amministratore del server di montarla.</translation>
+        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
+        <translation type="unfinished">La cartella condivisa non è montata sul server. Chiedere all&apos;amministratore del server di montarla.</translation>
     </message>
     <message>
-        <source>The server sent an unexpected response. Upgrade the client and the server, then try again.</source>
-        <translation>Il server ha inviato una risposta imprevista. Aggiornare il client e il server, quindi riprovare.</translation>
+        <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Il server ha inviato una risposta imprevista. Aggiornare il client e il server, quindi riprovare.</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1052,8 +1052,8 @@
         <translation>Inserire una dimensione non superiore a %1 MB.</translation>
     </message>
     <message>
-        <source>Checking the data...</source>
-        <translation>Controllo dei dati…</translation>
+        <source>Checking files...</source>
+        <translation type="unfinished">Controllo dei dati…</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
@@ -1064,8 +1064,8 @@
         <translation>Fare clic su «Installa» per iniziare l&apos;installazione di [ProductName]. Fare clic su «Indietro» per rivedere le scelte o su «Annulla» per uscire dalla procedura guidata.</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}[ProductName] setup was interrupted</source>
-        <translation>{\VerdanaBold13}L&apos;installazione di [ProductName] è stata interrotta</translation>
+        <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
+        <translation type="unfinished">{\VerdanaBold13}L&apos;installazione di [ProductName] è stata interrotta</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1092,8 +1092,8 @@
         <translation>Impostazioni di rete</translation>
     </message>
     <message>
-        <source>This folder is already synced with another shared folder. Choose a different folder.</source>
-        <translation>Questa cartella è già sincronizzata con un&apos;altra cartella condivisa. Scegliere una cartella diversa.</translation>
+        <source>This folder is already synced with another shared folder. Choose another folder.</source>
+        <translation type="unfinished">Questa cartella è già sincronizzata con un&apos;altra cartella condivisa. Scegliere una cartella diversa.</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1132,24 +1132,24 @@
         <translation>Avvia Quillmere all&apos;accesso a questo computer</translation>
     </message>
     <message>
-        <source>All files from both folders are kept. If two versions of a file differ, you get both.</source>
-        <translation>Tutti i file di entrambe le cartelle vengono mantenuti. Se due versioni di un file sono diverse, restano disponibili entrambe.</translation>
+        <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
+        <translation type="unfinished">Tutti i file di entrambe le cartelle vengono mantenuti. Se due versioni di un file sono diverse, restano disponibili entrambe.</translation>
     </message>
     <message>
         <source>Repair the installation</source>
         <translation>Ripara l&apos;installazione</translation>
     </message>
     <message>
-        <source>Sync enabled</source>
-        <translation>Sincronizzazione attivata</translation>
+        <source>Syncing turned on</source>
+        <translation type="unfinished">Sincronizzazione attivata</translation>
     </message>
     <message>
-        <source>Quillmere could not start. Restart the computer, then start Quillmere again.</source>
-        <translation>Non è stato possibile avviare Quillmere. Riavviare il computer, quindi avviare di nuovo Quillmere.</translation>
+        <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Non è stato possibile avviare Quillmere. Riavviare il computer, quindi avviare di nuovo Quillmere.</translation>
     </message>
     <message>
-        <source>Do you want to cancel the setup of [ProductName]?</source>
-        <translation>Annullare l&apos;installazione di [ProductName]?</translation>
+        <source>Cancel the setup of [ProductName]?</source>
+        <translation type="unfinished">Annullare l&apos;installazione di [ProductName]?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1172,28 +1172,28 @@
         <translation>Impostazioni avanzate</translation>
     </message>
     <message>
-        <source>Browse versions</source>
-        <translation>Sfoglia versioni</translation>
+        <source>Browse versions...</source>
+        <translation type="unfinished">Sfoglia versioni</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
         <translation>[DlgTitleFont]&amp;Modifica</translation>
     </message>
     <message>
-        <source>This connection is inactive. Link it again to continue syncing.</source>
-        <translation>Questa connessione è inattiva. Collegarla di nuovo per continuare la sincronizzazione.</translation>
+        <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
+        <translation type="unfinished">Questa connessione è inattiva. Collegarla di nuovo per continuare la sincronizzazione.</translation>
     </message>
     <message>
         <source>Detecting...</source>
         <translation>Rilevamento…</translation>
     </message>
     <message>
-        <source>SSL warning</source>
-        <translation>Avviso SSL</translation>
+        <source>Certificate warning</source>
+        <translation type="unfinished">Avviso SSL</translation>
     </message>
     <message>
-        <source>The relay service cannot be reached. Check your Internet connection, then try again.</source>
-        <translation>Impossibile raggiungere il servizio di relay. Controllare la connessione a Internet, quindi riprovare.</translation>
+        <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
+        <translation type="unfinished">Impossibile raggiungere il servizio di relay. Controllare la connessione a Internet, quindi riprovare.</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
@@ -1232,24 +1232,24 @@
         <translation>Connessione diretta</translation>
     </message>
     <message>
-        <source>The server volume that holds this folder is not mounted. Ask the server administrator to mount it.</source>
-        <translation>Il volume del server che contiene questa cartella non è montato. Chiedere all&apos;amministratore del server di montarlo.</translation>
+        <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
+        <translation type="unfinished">Il volume del server che contiene questa cartella non è montato. Chiedere all&apos;amministratore del server di montarlo.</translation>
     </message>
     <message>
-        <source>This version of Quillmere is already installed. Do you want to install it again?</source>
-        <translation>Questa versione di Quillmere è già installata. Installarla di nuovo?</translation>
+        <source>This version of Quillmere is already installed. Install it again?</source>
+        <translation type="unfinished">Questa versione di Quillmere è già installata. Installarla di nuovo?</translation>
     </message>
     <message>
-        <source>This client is too old for the server. Upgrade the client, then try again.</source>
-        <translation>Questo client è troppo vecchio per il server. Aggiornare il client, quindi riprovare.</translation>
+        <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
+        <translation type="unfinished">Questo client è troppo vecchio per il server. Aggiornare il client, quindi riprovare.</translation>
     </message>
     <message>
-        <source>The server is too old for this client.</source>
-        <translation>Il server è troppo vecchio per questo client.</translation>
+        <source>Quillmere on the server is too old to work with this computer.</source>
+        <translation type="unfinished">Il server è troppo vecchio per questo client.</translation>
     </message>
     <message>
-        <source>Disabled</source>
-        <translation>Disattivato</translation>
+        <source>Turned off</source>
+        <translation type="unfinished">Disattivato</translation>
     </message>
 </context>
 </TS>

@@ -40,8 +40,8 @@
         <translation>接続モード</translation>
     </message>
     <message>
-        <source>The local database is damaged. Unlink the connection, then link it again to rebuild the database.</source>
-        <translation>ローカルデータベースが破損しています。接続のリンクを解除してから再リンクし、データベースを再構築してください。</translation>
+        <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">ローカルデータベースが破損しています。接続のリンクを解除してから再リンクし、データベースを再構築してください。</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
@@ -56,8 +56,8 @@
         <translation>[DlgTitleFont][ProductName]を削除する準備ができました</translation>
     </message>
     <message>
-        <source>The server has been replaced. Click here to link again.</source>
-        <translation>サーバーが交換されています。再リンクするにはここをクリックしてください。</translation>
+        <source>The server has been replaced. Click here to reconnect.</source>
+        <translation type="unfinished">サーバーが交換されています。再リンクするにはここをクリックしてください。</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -68,16 +68,16 @@
         <translation>セットアップウィザードでは、[ProductName]の変更、修復、削除を行えます。続行するには「次へ」を、セットアップウィザードを終了するには「キャンセル」をクリックしてください。</translation>
     </message>
     <message>
-        <source>Block list</source>
-        <translation>除外リスト</translation>
+        <source>Exclusion list</source>
+        <translation type="unfinished">除外リスト</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
         <translation>この共有リンクを削除しますか？\nリンクを知っている人はファイルを開けなくなります。</translation>
     </message>
     <message>
-        <source>This client is too old for the server.</source>
-        <translation>このクライアントは古いため、サーバーに対応していません。</translation>
+        <source>Quillmere on this computer is too old to work with the server.</source>
+        <translation type="unfinished">このクライアントは古いため、サーバーに対応していません。</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
@@ -96,16 +96,16 @@
         <translation>接続をテストしています…</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server is not trusted, so others may be able to read the data you send. Do you want to continue?</source>
-        <translation>サーバーのSSL証明書が信頼されていないため、送信するデータを第三者に読み取られる可能性があります。続行しますか？</translation>
+        <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
+        <translation type="unfinished">サーバーのSSL証明書が信頼されていないため、送信するデータを第三者に読み取られる可能性があります。続行しますか？</translation>
     </message>
     <message>
         <source>New shared folder</source>
         <translation>新しい共有フォルダー</translation>
     </message>
     <message>
-        <source>About</source>
-        <translation>バージョン情報</translation>
+        <source>About Quillmere</source>
+        <translation type="unfinished">バージョン情報</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
@@ -120,8 +120,8 @@
         <translation>セットアップウィザードによる削除の準備ができました。</translation>
     </message>
     <message>
-        <source>This computer is already linked to this server. Edit the existing connection or enter a different server.</source>
-        <translation>このコンピューターはすでにこのサーバーとリンクされています。既存の接続を編集するか、別のサーバーを入力してください。</translation>
+        <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
+        <translation type="unfinished">このコンピューターはすでにこのサーバーとリンクされています。既存の接続を編集するか、別のサーバーを入力してください。</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -132,12 +132,12 @@
         <translation>サーバーとの接続が切断されました。ネットワーク接続を確認してから、もう一度お試しください。</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified.</source>
-        <translation>サーバーのSSL証明書を検証できませんでした。</translation>
+        <source>The certificate of the server could not be verified.</source>
+        <translation type="unfinished">サーバーのSSL証明書を検証できませんでした。</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
-        <translation>白黒のトレイアイコンを使用する</translation>
+        <source>Use a black-and-white tray icon</source>
+        <translation type="unfinished">白黒のトレイアイコンを使用する</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -152,20 +152,20 @@
         <translation>同期タスク</translation>
     </message>
     <message>
-        <source>Blocked files</source>
-        <translation>除外するファイル</translation>
+        <source>Excluded files</source>
+        <translation type="unfinished">除外するファイル</translation>
     </message>
     <message>
         <source>No permission</source>
         <translation>アクセス権がありません</translation>
     </message>
     <message>
-        <source>The server is too old for this client. Ask the server administrator to upgrade it.</source>
-        <translation>サーバーが古いため、このクライアントに対応していません。サーバー管理者にアップグレードを依頼してください。</translation>
+        <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
+        <translation type="unfinished">サーバーが古いため、このクライアントに対応していません。サーバー管理者にアップグレードを依頼してください。</translation>
     </message>
     <message>
-        <source>To try again, run setup again later. Click Finish to exit the Setup Wizard.</source>
-        <translation>やり直すには、後でもう一度セットアップを実行してください。「完了」をクリックすると、セットアップウィザードが終了します。</translation>
+        <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
+        <translation type="unfinished">やり直すには、後でもう一度セットアップを実行してください。「完了」をクリックすると、セットアップウィザードが終了します。</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -180,8 +180,8 @@
         <translation>「修復」をクリックすると、[ProductName]のインストールが修復されます。選択内容を確認するには「戻る」を、セットアップウィザードを終了するには「キャンセル」をクリックしてください。</translation>
     </message>
     <message>
-        <source>Some settings have not been saved. Do you want to save them?</source>
-        <translation>保存されていない設定があります。保存しますか？</translation>
+        <source>Some settings have not been saved. Save them?</source>
+        <translation type="unfinished">保存されていない設定があります。保存しますか？</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -192,8 +192,8 @@
         <translation>操作</translation>
     </message>
     <message>
-        <source>This folder is already used by another sync program. Choose a different folder to avoid conflicts.</source>
-        <translation>このフォルダーは別の同期プログラムですでに使用されています。競合を避けるため、別のフォルダーを選択してください。</translation>
+        <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
+        <translation type="unfinished">このフォルダーは別の同期プログラムですでに使用されています。競合を避けるため、別のフォルダーを選択してください。</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -204,16 +204,16 @@
         <translation>互換性のないバージョン</translation>
     </message>
     <message>
-        <source>Change the sync folder</source>
-        <translation>同期フォルダーの変更</translation>
+        <source>Change sync folder</source>
+        <translation type="unfinished">同期フォルダーの変更</translation>
     </message>
     <message>
-        <source>Enter a complete file name without a folder path.</source>
-        <translation>フォルダーのパスを含まない完全なファイル名を入力してください。</translation>
+        <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
+        <translation type="unfinished">フォルダーのパスを含まない完全なファイル名を入力してください。</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]An error stopped setup, and its changes were undone.</source>
-        <translation>[DlgTitleFont]エラーのためセットアップが停止し、変更は元に戻されました。</translation>
+        <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
+        <translation type="unfinished">[DlgTitleFont]エラーのためセットアップが停止し、変更は元に戻されました。</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -240,8 +240,8 @@
         <translation>名前</translation>
     </message>
     <message>
-        <source>Encrypt data transfer with SSL</source>
-        <translation>データ転送をSSLで暗号化する</translation>
+        <source>Use an encrypted connection (TLS)</source>
+        <translation type="unfinished">データ転送をSSLで暗号化する</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -276,8 +276,8 @@
         <translation>このファイルにはまだ以前のバージョンがありません。ファイルを変更して同期すると作成されます。</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>リンク解除</translation>
+        <source>Disconnect</source>
+        <translation type="unfinished">リンク解除</translation>
     </message>
     <message>
         <source>Back</source>
@@ -316,8 +316,8 @@
         <translation>設定を適用しています…</translation>
     </message>
     <message>
-        <source>Files that are not synced</source>
-        <translation>同期しないファイル</translation>
+        <source>Files excluded from syncing</source>
+        <translation type="unfinished">同期しないファイル</translation>
     </message>
     <message>
         <source>Created</source>
@@ -332,8 +332,8 @@
         <translation>インターネット</translation>
     </message>
     <message>
-        <source>Choose the shared folders to sync</source>
-        <translation>同期する共有フォルダーの選択</translation>
+        <source>Choose shared folders to sync</source>
+        <translation type="unfinished">同期する共有フォルダーの選択</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -360,8 +360,8 @@
         <translation>不足または破損しているファイルやショートカットを復元して、[ProductName]のインストールのエラーを修復します。</translation>
     </message>
     <message>
-        <source>Blocked file extensions</source>
-        <translation>除外するファイルの拡張子</translation>
+        <source>Excluded file extensions</source>
+        <translation type="unfinished">除外するファイルの拡張子</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -376,16 +376,16 @@
         <translation>パスワード</translation>
     </message>
     <message>
-        <source>The volume that holds the sync folder is not mounted. Mount the volume, then resume syncing.</source>
-        <translation>同期フォルダーのあるボリュームがマウントされていません。ボリュームをマウントしてから、同期を再開してください。</translation>
+        <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
+        <translation type="unfinished">同期フォルダーのあるボリュームがマウントされていません。ボリュームをマウントしてから、同期を再開してください。</translation>
     </message>
     <message>
         <source>Edit</source>
         <translation>編集</translation>
     </message>
     <message>
-        <source>This computer has no free disk space.</source>
-        <translation>このコンピューターのディスクに空き容量がありません。</translation>
+        <source>The drive that holds the sync folder is full.</source>
+        <translation type="unfinished">このコンピューターのディスクに空き容量がありません。</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -400,8 +400,8 @@
         <translation>無視(&amp;I)</translation>
     </message>
     <message>
-        <source>A folder with this name already exists. Do you want to merge its files with those on the server?</source>
-        <translation>同じ名前のフォルダーがすでに存在します。そのフォルダー内のファイルをサーバー上のファイルと統合しますか？</translation>
+        <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
+        <translation type="unfinished">同じ名前のフォルダーがすでに存在します。そのフォルダー内のファイルをサーバー上のファイルと統合しますか？</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
@@ -448,12 +448,12 @@
         <translation>完了</translation>
     </message>
     <message>
-        <source>Syncing %1 files...</source>
-        <translation>%1個のファイルを同期しています…</translation>
+        <source>Files being synced: %1</source>
+        <translation type="unfinished">%1個のファイルを同期しています…</translation>
     </message>
     <message>
-        <source>Link again</source>
-        <translation>再リンク</translation>
+        <source>Reconnect</source>
+        <translation type="unfinished">再リンク</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -472,8 +472,8 @@
         <translation>システムの既定値</translation>
     </message>
     <message>
-        <source>The folders and files you cleared will be removed from this computer. They will be kept on the server.</source>
-        <translation>選択を解除したフォルダーとファイルは、このコンピューターから削除されます。サーバー上には残ります。</translation>
+        <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
+        <translation type="unfinished">選択を解除したフォルダーとファイルは、このコンピューターから削除されます。サーバー上には残ります。</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
@@ -488,28 +488,28 @@
         <translation>空き容量なし</translation>
     </message>
     <message>
-        <source>Inactive</source>
-        <translation>非アクティブ</translation>
+        <source>Disconnected</source>
+        <translation type="unfinished">非アクティブ</translation>
     </message>
     <message>
-        <source>Your quota on the server is full.</source>
-        <translation>サーバーの割り当て容量がいっぱいです。</translation>
+        <source>You have used all of your space on the server.</source>
+        <translation type="unfinished">サーバーの割り当て容量がいっぱいです。</translation>
     </message>
     <message>
-        <source>Unlink this connection?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>この接続のリンクを解除しますか？\nファイルはこのコンピューターとサーバーに残りますが、同期されなくなります。</translation>
+        <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">この接続のリンクを解除しますか？\nファイルはこのコンピューターとサーバーに残りますが、同期されなくなります。</translation>
     </message>
     <message>
-        <source>The relay service has a problem. Try again later, or connect with the IP address of the server.</source>
-        <translation>中継サービスで問題が発生しています。後でもう一度試すか、サーバーのIPアドレスで接続してください。</translation>
+        <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
+        <translation type="unfinished">中継サービスで問題が発生しています。後でもう一度試すか、サーバーのIPアドレスで接続してください。</translation>
     </message>
     <message>
         <source>Server ID</source>
         <translation>サーバーID</translation>
     </message>
     <message>
-        <source>Blocked file names</source>
-        <translation>除外するファイル名</translation>
+        <source>Excluded file names</source>
+        <translation type="unfinished">除外するファイル名</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -520,20 +520,20 @@
         <translation>続行</translation>
     </message>
     <message>
-        <source>Enabled</source>
-        <translation>有効</translation>
+        <source>Turned on</source>
+        <translation type="unfinished">有効</translation>
     </message>
     <message>
-        <source>This computer has no free disk space. Free some space to continue syncing.</source>
-        <translation>このコンピューターのディスクに空き容量がありません。同期を続けるには、空き容量を増やしてください。</translation>
+        <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
+        <translation type="unfinished">このコンピューターのディスクに空き容量がありません。同期を続けるには、空き容量を増やしてください。</translation>
     </message>
     <message>
         <source>Folders to sync</source>
         <translation>同期するフォルダー</translation>
     </message>
     <message>
-        <source>Choose a sync folder</source>
-        <translation>同期フォルダーの選択</translation>
+        <source>Choose sync folder</source>
+        <translation type="unfinished">同期フォルダーの選択</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -548,8 +548,8 @@
         <translation>コンピューター</translation>
     </message>
     <message>
-        <source>Your quota on the server is full. Delete files you do not need, or ask the server administrator for a larger quota.</source>
-        <translation>サーバーの割り当て容量がいっぱいです。不要なファイルを削除するか、割り当て容量の追加をサーバー管理者に依頼してください。</translation>
+        <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
+        <translation type="unfinished">サーバーの割り当て容量がいっぱいです。不要なファイルを削除するか、割り当て容量の追加をサーバー管理者に依頼してください。</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
@@ -564,12 +564,12 @@
         <translation>次のプロキシサーバーを使用する</translation>
     </message>
     <message>
-        <source>This file was changed in two places. Compare both copies, then keep the one you need.</source>
-        <translation>このファイルは2か所で変更されました。両方のコピーを比較し、必要な方を残してください。</translation>
+        <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
+        <translation type="unfinished">このファイルは2か所で変更されました。両方のコピーを比較し、必要な方を残してください。</translation>
     </message>
     <message>
-        <source>One place for your files on every computer, through a server of your own</source>
-        <translation>自分だけのサーバーで、すべてのコンピューターのファイルを一か所に</translation>
+        <source>All your files on every computer, kept on your own server</source>
+        <translation type="unfinished">自分だけのサーバーで、すべてのコンピューターのファイルを一か所に</translation>
     </message>
     <message>
         <source>OK</source>
@@ -580,8 +580,8 @@
         <translation>デスクトップ通知を表示する</translation>
     </message>
     <message>
-        <source>The following applications use files that setup needs to update. Close them and click Retry, click Ignore to continue without closing them, or click Exit to leave setup.</source>
-        <translation>次のアプリケーションは、セットアップで更新する必要のあるファイルを使用しています。アプリケーションを閉じて「再試行」をクリックするか、閉じずに続行する場合は「無視」を、セットアップを中止する場合は「終了」をクリックしてください。</translation>
+        <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
+        <translation type="unfinished">次のアプリケーションは、セットアップで更新する必要のあるファイルを使用しています。アプリケーションを閉じて「再試行」をクリックするか、閉じずに続行する場合は「無視」を、セットアップを中止する場合は「終了」をクリックしてください。</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -596,12 +596,12 @@
         <translation>このリストの項目に一致するファイルは同期されません。</translation>
     </message>
     <message>
-        <source>Edit connection</source>
-        <translation>接続を編集</translation>
+        <source>Edit connection...</source>
+        <translation type="unfinished">接続を編集</translation>
     </message>
     <message>
-        <source>Options</source>
-        <translation>オプション</translation>
+        <source>Settings</source>
+        <translation>設定</translation>
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
@@ -624,36 +624,32 @@
         <translation>一時停止</translation>
     </message>
     <message>
-        <source>Show icon overlays on filtered files</source>
-        <translation>フィルターで除外されたファイルにオーバーレイアイコンを表示する</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>設定</translation>
+        <source>Show icon overlays on excluded files</source>
+        <translation type="unfinished">フィルターで除外されたファイルにオーバーレイアイコンを表示する</translation>
     </message>
     <message>
         <source>Loading...</source>
         <translation>読み込み中…</translation>
     </message>
     <message>
-        <source>You can sync at most %1 shared folders. Stop syncing one of them before you add another.</source>
-        <translation>同期できる共有フォルダーは最大%1個です。別のフォルダーを追加する前に、いずれかの同期を停止してください。</translation>
+        <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
+        <translation type="unfinished">同期できる共有フォルダーは最大%1個です。別のフォルダーを追加する前に、いずれかの同期を停止してください。</translation>
     </message>
     <message>
-        <source>Unlink this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>この同期タスクのリンクを解除しますか？\nファイルはこのコンピューターとサーバーに残りますが、同期されなくなります。</translation>
+        <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">この同期タスクのリンクを解除しますか？\nファイルはこのコンピューターとサーバーに残りますが、同期されなくなります。</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
         <translation>Quillmereを起動しています…</translation>
     </message>
     <message>
-        <source>Quillmere could not be upgraded. Restart the computer, then try again.</source>
-        <translation>Quillmereをアップグレードできませんでした。コンピューターを再起動してから、もう一度お試しください。</translation>
+        <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Quillmereをアップグレードできませんでした。コンピューターを再起動してから、もう一度お試しください。</translation>
     </message>
     <message>
-        <source>Block names that begin with a dot</source>
-        <translation>ドットで始まる名前を除外する</translation>
+        <source>Exclude names that begin with a dot</source>
+        <translation type="unfinished">ドットで始まる名前を除外する</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -676,8 +672,8 @@
         <translation>サーバーに接続しました。</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}The [ProductName] Setup Wizard is complete</source>
-        <translation>{\VerdanaBold13}[ProductName]セットアップウィザードが完了しました</translation>
+        <source>{\VerdanaBold13}[ProductName] setup is complete</source>
+        <translation type="unfinished">{\VerdanaBold13}[ProductName]セットアップウィザードが完了しました</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -712,20 +708,20 @@
         <translation>共有フォルダー</translation>
     </message>
     <message>
-        <source>Client options</source>
-        <translation>クライアントのオプション</translation>
+        <source>Quillmere settings</source>
+        <translation type="unfinished">クライアントのオプション</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
         <translation>共有リンクを削除できませんでした。サーバーとの接続を確認してから、もう一度お試しください。</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified. Ask the server administrator to check the certificate.</source>
-        <translation>サーバーのSSL証明書を検証できませんでした。サーバー管理者に証明書の確認を依頼してください。</translation>
+        <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
+        <translation type="unfinished">サーバーのSSL証明書を検証できませんでした。サーバー管理者に証明書の確認を依頼してください。</translation>
     </message>
     <message>
-        <source>This is not the server the connection was linked to. Check the server address, or link again.</source>
-        <translation>この接続のリンク先とは異なるサーバーです。サーバーアドレスを確認するか、再リンクしてください。</translation>
+        <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
+        <translation type="unfinished">この接続のリンク先とは異なるサーバーです。サーバーアドレスを確認するか、再リンクしてください。</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -764,16 +760,16 @@
         <translation>接続を管理</translation>
     </message>
     <message>
-        <source>Link to another server</source>
-        <translation>別のサーバーとリンク</translation>
+        <source>Connect to another server...</source>
+        <translation type="unfinished">別のサーバーとリンク</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
         <translation>オーバーレイアイコンを表示する</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]Setting up [ProductName]</source>
-        <translation>[DlgTitleFont][ProductName]のセットアップ中</translation>
+        <source>[DlgTitleFont]Making changes to [ProductName]</source>
+        <translation type="unfinished">[DlgTitleFont][ProductName]のセットアップ中</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -792,8 +788,8 @@
         <translation>インストール(&amp;I)</translation>
     </message>
     <message>
-        <source>File filter</source>
-        <translation>ファイルフィルター</translation>
+        <source>Files to exclude</source>
+        <translation type="unfinished">ファイルフィルター</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -804,8 +800,8 @@
         <translation>使用許諾契約書の条項に同意しない(&amp;D)</translation>
     </message>
     <message>
-        <source>Something went wrong. Try again, and contact the server administrator if the problem continues.</source>
-        <translation>問題が発生しました。もう一度お試しください。問題が続く場合は、サーバー管理者にお問い合わせください。</translation>
+        <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">問題が発生しました。もう一度お試しください。問題が続く場合は、サーバー管理者にお問い合わせください。</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -828,8 +824,8 @@
         <translation>プロキシ設定</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator, so Quillmere might not install completely. Do you want to continue?</source>
-        <translation>管理者としてサインインしていないため、Quillmereを完全にインストールできない可能性があります。続行しますか？</translation>
+        <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
+        <translation type="unfinished">管理者としてサインインしていないため、Quillmereを完全にインストールできない可能性があります。続行しますか？</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
@@ -876,8 +872,8 @@
         <translation>フォルダーがマウントポイントです</translation>
     </message>
     <message>
-        <source>Choose another folder</source>
-        <translation>別のフォルダーを選択</translation>
+        <source>Choose another folder...</source>
+        <translation type="unfinished">別のフォルダーを選択</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -900,12 +896,16 @@
         <translation>サーバーアドレスと、サーバーで使用しているアカウントを入力してください。</translation>
     </message>
     <message>
-        <source>A different server was found at the server address.</source>
-        <translation>サーバーアドレスで別のサーバーが検出されました。</translation>
+        <source>Remove</source>
+        <translation type="unfinished">リンク解除</translation>
     </message>
     <message>
-        <source>Linking to the server...</source>
-        <translation>サーバーとリンクしています…</translation>
+        <source>Another server was found at the server address.</source>
+        <translation type="unfinished">サーバーアドレスで別のサーバーが検出されました。</translation>
+    </message>
+    <message>
+        <source>Connecting to the server...</source>
+        <translation type="unfinished">サーバーとリンクしています…</translation>
     </message>
     <message>
         <source>Port</source>
@@ -928,8 +928,8 @@
         <translation>システムのプロキシ設定を使用する</translation>
     </message>
     <message>
-        <source>Change folder</source>
-        <translation>フォルダーを変更</translation>
+        <source>Change folder...</source>
+        <translation type="unfinished">フォルダーを変更</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -944,8 +944,8 @@
         <translation>ダウンロード中…</translation>
     </message>
     <message>
-        <source>The file is locked</source>
-        <translation>ファイルがロックされています</translation>
+        <source>File locked</source>
+        <translation type="unfinished">ファイルがロックされています</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -956,8 +956,8 @@
         <translation>準備中…</translation>
     </message>
     <message>
-        <source>Updating files...</source>
-        <translation>ファイルを更新しています…</translation>
+        <source>Syncing files...</source>
+        <translation type="unfinished">ファイルを更新しています…</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -968,8 +968,8 @@
         <translation>ユーザー名とパスワードを確認しています…</translation>
     </message>
     <message>
-        <source>Wait while the Setup Wizard sets up [ProductName]. This can take several minutes.</source>
-        <translation>セットアップウィザードが[ProductName]のセットアップを行っています。しばらくお待ちください。数分かかることがあります。</translation>
+        <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
+        <translation type="unfinished">セットアップウィザードが[ProductName]のセットアップを行っています。しばらくお待ちください。数分かかることがあります。</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1020,24 +1020,24 @@
         <translation>共有リンクをクリップボードにコピーしました。</translation>
     </message>
     <message>
-        <source>The local sync folder was not found. Restore the folder or choose a different one.</source>
-        <translation>ローカル同期フォルダーが見つかりません。フォルダーを復元するか、別のフォルダーを選択してください。</translation>
+        <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
+        <translation type="unfinished">ローカル同期フォルダーが見つかりません。フォルダーを復元するか、別のフォルダーを選択してください。</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
         <translation>Quillmereのアップグレード</translation>
     </message>
     <message>
-        <source>Add sync task</source>
-        <translation>同期タスクを追加</translation>
+        <source>Add sync task...</source>
+        <translation type="unfinished">同期タスクを追加</translation>
     </message>
     <message>
-        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it.</source>
-        <translation>共有フォルダーがサーバーでマウントされていません。サーバー管理者にマウントを依頼してください。</translation>
+        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
+        <translation type="unfinished">共有フォルダーがサーバーでマウントされていません。サーバー管理者にマウントを依頼してください。</translation>
     </message>
     <message>
-        <source>The server sent an unexpected response. Upgrade the client and the server, then try again.</source>
-        <translation>サーバーから予期しない応答がありました。クライアントとサーバーをアップグレードしてから、もう一度お試しください。</translation>
+        <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">サーバーから予期しない応答がありました。クライアントとサーバーをアップグレードしてから、もう一度お試しください。</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1052,8 +1052,8 @@
         <translation>%1 MB以下のサイズを入力してください。</translation>
     </message>
     <message>
-        <source>Checking the data...</source>
-        <translation>データを確認しています…</translation>
+        <source>Checking files...</source>
+        <translation type="unfinished">データを確認しています…</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
@@ -1064,8 +1064,8 @@
         <translation>「インストール」をクリックすると、[ProductName]のインストールが開始されます。選択内容を確認するには「戻る」を、セットアップウィザードを終了するには「キャンセル」をクリックしてください。</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}[ProductName] setup was interrupted</source>
-        <translation>{\VerdanaBold13}[ProductName]のセットアップが中断されました</translation>
+        <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
+        <translation type="unfinished">{\VerdanaBold13}[ProductName]のセットアップが中断されました</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1092,8 +1092,8 @@
         <translation>ネットワーク設定</translation>
     </message>
     <message>
-        <source>This folder is already synced with another shared folder. Choose a different folder.</source>
-        <translation>このフォルダーはすでに別の共有フォルダーと同期されています。別のフォルダーを選択してください。</translation>
+        <source>This folder is already synced with another shared folder. Choose another folder.</source>
+        <translation type="unfinished">このフォルダーはすでに別の共有フォルダーと同期されています。別のフォルダーを選択してください。</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1132,24 +1132,24 @@
         <translation>このコンピューターへのサインイン時にQuillmereを起動する</translation>
     </message>
     <message>
-        <source>All files from both folders are kept. If two versions of a file differ, you get both.</source>
-        <translation>両方のフォルダーのすべてのファイルが保持されます。同じファイルの内容が異なる場合は、両方のバージョンが残ります。</translation>
+        <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
+        <translation type="unfinished">両方のフォルダーのすべてのファイルが保持されます。同じファイルの内容が異なる場合は、両方のバージョンが残ります。</translation>
     </message>
     <message>
         <source>Repair the installation</source>
         <translation>インストールの修復</translation>
     </message>
     <message>
-        <source>Sync enabled</source>
-        <translation>同期が有効</translation>
+        <source>Syncing turned on</source>
+        <translation type="unfinished">同期が有効</translation>
     </message>
     <message>
-        <source>Quillmere could not start. Restart the computer, then start Quillmere again.</source>
-        <translation>Quillmereを起動できませんでした。コンピューターを再起動してから、もう一度Quillmereを起動してください。</translation>
+        <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Quillmereを起動できませんでした。コンピューターを再起動してから、もう一度Quillmereを起動してください。</translation>
     </message>
     <message>
-        <source>Do you want to cancel the setup of [ProductName]?</source>
-        <translation>[ProductName]のセットアップをキャンセルしますか？</translation>
+        <source>Cancel the setup of [ProductName]?</source>
+        <translation type="unfinished">[ProductName]のセットアップをキャンセルしますか？</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1172,28 +1172,28 @@
         <translation>詳細設定</translation>
     </message>
     <message>
-        <source>Browse versions</source>
-        <translation>以前のバージョンを表示</translation>
+        <source>Browse versions...</source>
+        <translation type="unfinished">以前のバージョンを表示</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
         <translation>[DlgTitleFont]変更(&amp;C)</translation>
     </message>
     <message>
-        <source>This connection is inactive. Link it again to continue syncing.</source>
-        <translation>この接続は非アクティブです。同期を続けるには再リンクしてください。</translation>
+        <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
+        <translation type="unfinished">この接続は非アクティブです。同期を続けるには再リンクしてください。</translation>
     </message>
     <message>
         <source>Detecting...</source>
         <translation>検出中…</translation>
     </message>
     <message>
-        <source>SSL warning</source>
-        <translation>SSLの警告</translation>
+        <source>Certificate warning</source>
+        <translation type="unfinished">SSLの警告</translation>
     </message>
     <message>
-        <source>The relay service cannot be reached. Check your Internet connection, then try again.</source>
-        <translation>中継サービスに接続できません。インターネット接続を確認してから、もう一度お試しください。</translation>
+        <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
+        <translation type="unfinished">中継サービスに接続できません。インターネット接続を確認してから、もう一度お試しください。</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
@@ -1232,24 +1232,24 @@
         <translation>直接接続</translation>
     </message>
     <message>
-        <source>The server volume that holds this folder is not mounted. Ask the server administrator to mount it.</source>
-        <translation>このフォルダーのあるサーバーボリュームがマウントされていません。サーバー管理者にマウントを依頼してください。</translation>
+        <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
+        <translation type="unfinished">このフォルダーのあるサーバーボリュームがマウントされていません。サーバー管理者にマウントを依頼してください。</translation>
     </message>
     <message>
-        <source>This version of Quillmere is already installed. Do you want to install it again?</source>
-        <translation>このバージョンのQuillmereはすでにインストールされています。もう一度インストールしますか？</translation>
+        <source>This version of Quillmere is already installed. Install it again?</source>
+        <translation type="unfinished">このバージョンのQuillmereはすでにインストールされています。もう一度インストールしますか？</translation>
     </message>
     <message>
-        <source>This client is too old for the server. Upgrade the client, then try again.</source>
-        <translation>このクライアントは古いため、サーバーに対応していません。クライアントをアップグレードしてから、もう一度お試しください。</translation>
+        <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
+        <translation type="unfinished">このクライアントは古いため、サーバーに対応していません。クライアントをアップグレードしてから、もう一度お試しください。</translation>
     </message>
     <message>
-        <source>The server is too old for this client.</source>
-        <translation>サーバーが古いため、このクライアントに対応していません。</translation>
+        <source>Quillmere on the server is too old to work with this computer.</source>
+        <translation type="unfinished">サーバーが古いため、このクライアントに対応していません。</translation>
     </message>
     <message>
-        <source>Disabled</source>
-        <translation>無効</translation>
+        <source>Turned off</source>
+        <translation type="unfinished">無効</translation>
     </message>
 </context>
 </TS>

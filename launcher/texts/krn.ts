@@ -40,8 +40,8 @@
         <translation>연결 모드</translation>
     </message>
     <message>
-        <source>The local database is damaged. Unlink the connection, then link it again to rebuild the database.</source>
-        <translation>로컬 데이터베이스가 손상되었습니다. 서버와의 연동을 해제한 다음 다시 연동하여 데이터베이스를 다시 만드십시오.</translation>
+        <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">로컬 데이터베이스가 손상되었습니다. 서버와의 연동을 해제한 다음 다시 연동하여 데이터베이스를 다시 만드십시오.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
@@ -56,8 +56,8 @@
         <translation>[DlgTitleFont][ProductName] 제거 준비 완료</translation>
     </message>
     <message>
-        <source>The server has been replaced. Click here to link again.</source>
-        <translation>서버가 교체되었습니다. 다시 연동하려면 여기를 클릭하십시오.</translation>
+        <source>The server has been replaced. Click here to reconnect.</source>
+        <translation type="unfinished">서버가 교체되었습니다. 다시 연동하려면 여기를 클릭하십시오.</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -68,16 +68,16 @@
         <translation>설치 마법사를 사용하여 [ProductName] 설치를 변경, 복구 또는 제거할 수 있습니다. 계속하려면 ‘다음’을 클릭하고, 설치 마법사를 종료하려면 ‘취소’를 클릭하십시오.</translation>
     </message>
     <message>
-        <source>Block list</source>
-        <translation>제외 목록</translation>
+        <source>Exclusion list</source>
+        <translation type="unfinished">제외 목록</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
         <translation>이 공유 링크를 삭제하시겠습니까?\n링크를 가진 사람이 더 이상 파일을 열 수 없게 됩니다.</translation>
     </message>
     <message>
-        <source>This client is too old for the server.</source>
-        <translation>이 클라이언트의 버전이 낮아 서버와 호환되지 않습니다.</translation>
+        <source>Quillmere on this computer is too old to work with the server.</source>
+        <translation type="unfinished">이 클라이언트의 버전이 낮아 서버와 호환되지 않습니다.</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
@@ -96,16 +96,16 @@
         <translation>연결을 테스트하는 중...</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server is not trusted, so others may be able to read the data you send. Do you want to continue?</source>
-        <translation>서버의 SSL 인증서를 신뢰할 수 없으므로 보내는 데이터를 다른 사람이 읽을 수 있습니다. 계속하시겠습니까?</translation>
+        <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
+        <translation type="unfinished">서버의 SSL 인증서를 신뢰할 수 없으므로 보내는 데이터를 다른 사람이 읽을 수 있습니다. 계속하시겠습니까?</translation>
     </message>
     <message>
         <source>New shared folder</source>
         <translation>새 공유 폴더</translation>
     </message>
     <message>
-        <source>About</source>
-        <translation>정보</translation>
+        <source>About Quillmere</source>
+        <translation type="unfinished">정보</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
@@ -120,8 +120,8 @@
         <translation>설치 마법사에서 제거를 시작할 준비가 되었습니다.</translation>
     </message>
     <message>
-        <source>This computer is already linked to this server. Edit the existing connection or enter a different server.</source>
-        <translation>이 컴퓨터는 이미 이 서버와 연동되어 있습니다. 기존 연결을 편집하거나 다른 서버를 입력하십시오.</translation>
+        <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
+        <translation type="unfinished">이 컴퓨터는 이미 이 서버와 연동되어 있습니다. 기존 연결을 편집하거나 다른 서버를 입력하십시오.</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -132,12 +132,12 @@
         <translation>서버와의 연결이 끊어졌습니다. 네트워크 연결을 확인한 다음 다시 시도하십시오.</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified.</source>
-        <translation>서버의 SSL 인증서를 검증할 수 없습니다.</translation>
+        <source>The certificate of the server could not be verified.</source>
+        <translation type="unfinished">서버의 SSL 인증서를 검증할 수 없습니다.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
-        <translation>흑백 트레이 아이콘 사용</translation>
+        <source>Use a black-and-white tray icon</source>
+        <translation type="unfinished">흑백 트레이 아이콘 사용</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -152,20 +152,20 @@
         <translation>동기화 작업</translation>
     </message>
     <message>
-        <source>Blocked files</source>
-        <translation>제외된 파일</translation>
+        <source>Excluded files</source>
+        <translation type="unfinished">제외된 파일</translation>
     </message>
     <message>
         <source>No permission</source>
         <translation>권한 없음</translation>
     </message>
     <message>
-        <source>The server is too old for this client. Ask the server administrator to upgrade it.</source>
-        <translation>서버의 버전이 낮아 이 클라이언트와 호환되지 않습니다. 서버 관리자에게 서버 업그레이드를 요청하십시오.</translation>
+        <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
+        <translation type="unfinished">서버의 버전이 낮아 이 클라이언트와 호환되지 않습니다. 서버 관리자에게 서버 업그레이드를 요청하십시오.</translation>
     </message>
     <message>
-        <source>To try again, run setup again later. Click Finish to exit the Setup Wizard.</source>
-        <translation>다시 시도하려면 나중에 설치 프로그램을 다시 실행하십시오. 설치 마법사를 종료하려면 ‘마침’을 클릭하십시오.</translation>
+        <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
+        <translation type="unfinished">다시 시도하려면 나중에 설치 프로그램을 다시 실행하십시오. 설치 마법사를 종료하려면 ‘마침’을 클릭하십시오.</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -180,8 +180,8 @@
         <translation>[ProductName] 설치를 복구하려면 ‘복구’를 클릭하십시오. 선택 사항을 검토하려면 ‘뒤로’를 클릭하고, 설치 마법사를 종료하려면 ‘취소’를 클릭하십시오.</translation>
     </message>
     <message>
-        <source>Some settings have not been saved. Do you want to save them?</source>
-        <translation>일부 설정이 저장되지 않았습니다. 저장하시겠습니까?</translation>
+        <source>Some settings have not been saved. Save them?</source>
+        <translation type="unfinished">일부 설정이 저장되지 않았습니다. 저장하시겠습니까?</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -192,8 +192,8 @@
         <translation>작업</translation>
     </message>
     <message>
-        <source>This folder is already used by another sync program. Choose a different folder to avoid conflicts.</source>
-        <translation>이 폴더는 다른 동기화 프로그램에서 이미 사용 중입니다. 충돌을 방지하려면 다른 폴더를 선택하십시오.</translation>
+        <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
+        <translation type="unfinished">이 폴더는 다른 동기화 프로그램에서 이미 사용 중입니다. 충돌을 방지하려면 다른 폴더를 선택하십시오.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -204,16 +204,16 @@
         <translation>호환되지 않는 버전</translation>
     </message>
     <message>
-        <source>Change the sync folder</source>
-        <translation>동기화 폴더 변경</translation>
+        <source>Change sync folder</source>
+        <translation type="unfinished">동기화 폴더 변경</translation>
     </message>
     <message>
-        <source>Enter a complete file name without a folder path.</source>
-        <translation>폴더 경로 없이 전체 파일 이름을 입력하십시오.</translation>
+        <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
+        <translation type="unfinished">폴더 경로 없이 전체 파일 이름을 입력하십시오.</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]An error stopped setup, and its changes were undone.</source>
-        <translation>[DlgTitleFont]오류로 인해 설치가 중단되었으며 변경 사항은 원래대로 되돌려졌습니다.</translation>
+        <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
+        <translation type="unfinished">[DlgTitleFont]오류로 인해 설치가 중단되었으며 변경 사항은 원래대로 되돌려졌습니다.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -240,8 +240,8 @@
         <translation>이름</translation>
     </message>
     <message>
-        <source>Encrypt data transfer with SSL</source>
-        <translation>SSL로 데이터 전송 암호화</translation>
+        <source>Use an encrypted connection (TLS)</source>
+        <translation type="unfinished">SSL로 데이터 전송 암호화</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -276,8 +276,8 @@
         <translation>이 파일에는 아직 이전 버전이 없습니다. 파일을 변경하고 동기화하면 이전 버전이 만들어집니다.</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>연동 해제</translation>
+        <source>Disconnect</source>
+        <translation type="unfinished">연동 해제</translation>
     </message>
     <message>
         <source>Back</source>
@@ -316,8 +316,8 @@
         <translation>설정을 적용하는 중...</translation>
     </message>
     <message>
-        <source>Files that are not synced</source>
-        <translation>동기화하지 않는 파일</translation>
+        <source>Files excluded from syncing</source>
+        <translation type="unfinished">동기화하지 않는 파일</translation>
     </message>
     <message>
         <source>Created</source>
@@ -332,8 +332,8 @@
         <translation>인터넷</translation>
     </message>
     <message>
-        <source>Choose the shared folders to sync</source>
-        <translation>동기화할 공유 폴더 선택</translation>
+        <source>Choose shared folders to sync</source>
+        <translation type="unfinished">동기화할 공유 폴더 선택</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -360,8 +360,8 @@
         <translation>누락되었거나 손상된 파일과 바로 가기를 복원하여 [ProductName] 설치의 오류를 복구합니다.</translation>
     </message>
     <message>
-        <source>Blocked file extensions</source>
-        <translation>제외된 파일 확장자</translation>
+        <source>Excluded file extensions</source>
+        <translation type="unfinished">제외된 파일 확장자</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -376,16 +376,16 @@
         <translation>암호</translation>
     </message>
     <message>
-        <source>The volume that holds the sync folder is not mounted. Mount the volume, then resume syncing.</source>
-        <translation>동기화 폴더가 있는 볼륨이 마운트되지 않았습니다. 볼륨을 마운트한 다음 동기화를 재개하십시오.</translation>
+        <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
+        <translation type="unfinished">동기화 폴더가 있는 볼륨이 마운트되지 않았습니다. 볼륨을 마운트한 다음 동기화를 재개하십시오.</translation>
     </message>
     <message>
         <source>Edit</source>
         <translation>편집</translation>
     </message>
     <message>
-        <source>This computer has no free disk space.</source>
-        <translation>이 컴퓨터에 사용 가능한 디스크 공간이 없습니다.</translation>
+        <source>The drive that holds the sync folder is full.</source>
+        <translation type="unfinished">이 컴퓨터에 사용 가능한 디스크 공간이 없습니다.</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -400,8 +400,8 @@
         <translation>무시(&amp;I)</translation>
     </message>
     <message>
-        <source>A folder with this name already exists. Do you want to merge its files with those on the server?</source>
-        <translation>같은 이름의 폴더가 이미 있습니다. 이 폴더의 파일을 서버의 파일과 병합하시겠습니까?</translation>
+        <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
+        <translation type="unfinished">같은 이름의 폴더가 이미 있습니다. 이 폴더의 파일을 서버의 파일과 병합하시겠습니까?</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
@@ -448,12 +448,12 @@
         <translation>완료</translation>
     </message>
     <message>
-        <source>Syncing %1 files...</source>
-        <translation>파일 %1개 동기화 중...</translation>
+        <source>Files being synced: %1</source>
+        <translation type="unfinished">파일 %1개 동기화 중...</translation>
     </message>
     <message>
-        <source>Link again</source>
-        <translation>다시 연동</translation>
+        <source>Reconnect</source>
+        <translation type="unfinished">다시 연동</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -472,8 +472,8 @@
         <translation>시스템 기본값</translation>
     </message>
     <message>
-        <source>The folders and files you cleared will be removed from this computer. They will be kept on the server.</source>
-        <translation>선택을 취소한 폴더와 파일은 이 컴퓨터에서 제거됩니다. 서버에는 그대로 유지됩니다.</translation>
+        <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
+        <translation type="unfinished">선택을 취소한 폴더와 파일은 이 컴퓨터에서 제거됩니다. 서버에는 그대로 유지됩니다.</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
@@ -488,28 +488,28 @@
         <translation>남은 공간 없음</translation>
     </message>
     <message>
-        <source>Inactive</source>
-        <translation>비활성</translation>
+        <source>Disconnected</source>
+        <translation type="unfinished">비활성</translation>
     </message>
     <message>
-        <source>Your quota on the server is full.</source>
-        <translation>서버의 할당량을 모두 사용했습니다.</translation>
+        <source>You have used all of your space on the server.</source>
+        <translation type="unfinished">서버의 할당량을 모두 사용했습니다.</translation>
     </message>
     <message>
-        <source>Unlink this connection?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>이 연결의 연동을 해제하시겠습니까?\n파일은 이 컴퓨터와 서버에 유지되지만 더 이상 동기화되지 않습니다.</translation>
+        <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">이 연결의 연동을 해제하시겠습니까?\n파일은 이 컴퓨터와 서버에 유지되지만 더 이상 동기화되지 않습니다.</translation>
     </message>
     <message>
-        <source>The relay service has a problem. Try again later, or connect with the IP address of the server.</source>
-        <translation>중계 서비스에 문제가 있습니다. 나중에 다시 시도하거나 서버의 IP 주소로 연결하십시오.</translation>
+        <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
+        <translation type="unfinished">중계 서비스에 문제가 있습니다. 나중에 다시 시도하거나 서버의 IP 주소로 연결하십시오.</translation>
     </message>
     <message>
         <source>Server ID</source>
         <translation>서버 ID</translation>
     </message>
     <message>
-        <source>Blocked file names</source>
-        <translation>제외된 파일 이름</translation>
+        <source>Excluded file names</source>
+        <translation type="unfinished">제외된 파일 이름</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -520,20 +520,20 @@
         <translation>계속</translation>
     </message>
     <message>
-        <source>Enabled</source>
-        <translation>사용</translation>
+        <source>Turned on</source>
+        <translation type="unfinished">사용</translation>
     </message>
     <message>
-        <source>This computer has no free disk space. Free some space to continue syncing.</source>
-        <translation>이 컴퓨터에 사용 가능한 디스크 공간이 없습니다. 동기화를 계속하려면 공간을 확보하십시오.</translation>
+        <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
+        <translation type="unfinished">이 컴퓨터에 사용 가능한 디스크 공간이 없습니다. 동기화를 계속하려면 공간을 확보하십시오.</translation>
     </message>
     <message>
         <source>Folders to sync</source>
         <translation>동기화할 폴더</translation>
     </message>
     <message>
-        <source>Choose a sync folder</source>
-        <translation>동기화 폴더 선택</translation>
+        <source>Choose sync folder</source>
+        <translation type="unfinished">동기화 폴더 선택</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -548,8 +548,8 @@
         <translation>컴퓨터</translation>
     </message>
     <message>
-        <source>Your quota on the server is full. Delete files you do not need, or ask the server administrator for a larger quota.</source>
-        <translation>서버의 할당량을 모두 사용했습니다. 필요 없는 파일을 삭제하거나 서버 관리자에게 할당량을 늘려 달라고 요청하십시오.</translation>
+        <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
+        <translation type="unfinished">서버의 할당량을 모두 사용했습니다. 필요 없는 파일을 삭제하거나 서버 관리자에게 할당량을 늘려 달라고 요청하십시오.</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
@@ -564,12 +564,12 @@
         <translation>다음 프록시 서버 사용</translation>
     </message>
     <message>
-        <source>This file was changed in two places. Compare both copies, then keep the one you need.</source>
-        <translation>이 파일이 두 곳에서 변경되었습니다. 두 복사본을 비교한 다음 필요한 것을 보관하십시오.</translation>
+        <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
+        <translation type="unfinished">이 파일이 두 곳에서 변경되었습니다. 두 복사본을 비교한 다음 필요한 것을 보관하십시오.</translation>
     </message>
     <message>
-        <source>One place for your files on every computer, through a server of your own</source>
-        <translation>나만의 서버로 모든 컴퓨터의 파일을 한곳에</translation>
+        <source>All your files on every computer, kept on your own server</source>
+        <translation type="unfinished">나만의 서버로 모든 컴퓨터의 파일을 한곳에</translation>
     </message>
     <message>
         <source>OK</source>
@@ -580,8 +580,8 @@
         <translation>데스크톱 알림 표시</translation>
     </message>
     <message>
-        <source>The following applications use files that setup needs to update. Close them and click Retry, click Ignore to continue without closing them, or click Exit to leave setup.</source>
-        <translation>다음 응용 프로그램이 설치 프로그램에서 업데이트해야 하는 파일을 사용하고 있습니다. 응용 프로그램을 닫은 다음 ‘다시 시도’를 클릭하거나, 닫지 않고 계속하려면 ‘무시’를, 설치를 종료하려면 ‘종료’를 클릭하십시오.</translation>
+        <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
+        <translation type="unfinished">다음 응용 프로그램이 설치 프로그램에서 업데이트해야 하는 파일을 사용하고 있습니다. 응용 프로그램을 닫은 다음 ‘다시 시도’를 클릭하거나, 닫지 않고 계속하려면 ‘무시’를, 설치를 종료하려면 ‘종료’를 클릭하십시오.</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -596,12 +596,12 @@
         <translation>이 목록의 항목과 일치하는 파일은 동기화되지 않습니다.</translation>
     </message>
     <message>
-        <source>Edit connection</source>
-        <translation>연결 편집</translation>
+        <source>Edit connection...</source>
+        <translation type="unfinished">연결 편집</translation>
     </message>
     <message>
-        <source>Options</source>
-        <translation>옵션</translation>
+        <source>Settings</source>
+        <translation>설정</translation>
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
@@ -624,36 +624,32 @@
         <translation>일시 중지</translation>
     </message>
     <message>
-        <source>Show icon overlays on filtered files</source>
-        <translation>필터링된 파일에 오버레이 아이콘 표시</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>설정</translation>
+        <source>Show icon overlays on excluded files</source>
+        <translation type="unfinished">필터링된 파일에 오버레이 아이콘 표시</translation>
     </message>
     <message>
         <source>Loading...</source>
         <translation>불러오는 중...</translation>
     </message>
     <message>
-        <source>You can sync at most %1 shared folders. Stop syncing one of them before you add another.</source>
-        <translation>공유 폴더는 최대 %1개까지 동기화할 수 있습니다. 다른 폴더를 추가하려면 먼저 그중 하나의 동기화를 중지하십시오.</translation>
+        <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
+        <translation type="unfinished">공유 폴더는 최대 %1개까지 동기화할 수 있습니다. 다른 폴더를 추가하려면 먼저 그중 하나의 동기화를 중지하십시오.</translation>
     </message>
     <message>
-        <source>Unlink this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>이 동기화 작업의 연동을 해제하시겠습니까?\n파일은 이 컴퓨터와 서버에 유지되지만 더 이상 동기화되지 않습니다.</translation>
+        <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">이 동기화 작업의 연동을 해제하시겠습니까?\n파일은 이 컴퓨터와 서버에 유지되지만 더 이상 동기화되지 않습니다.</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
         <translation>Quillmere 시작 중...</translation>
     </message>
     <message>
-        <source>Quillmere could not be upgraded. Restart the computer, then try again.</source>
-        <translation>Quillmere 프로그램을 업그레이드할 수 없습니다. 컴퓨터를 다시 시작한 다음 다시 시도하십시오.</translation>
+        <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Quillmere 프로그램을 업그레이드할 수 없습니다. 컴퓨터를 다시 시작한 다음 다시 시도하십시오.</translation>
     </message>
     <message>
-        <source>Block names that begin with a dot</source>
-        <translation>점으로 시작하는 이름 제외</translation>
+        <source>Exclude names that begin with a dot</source>
+        <translation type="unfinished">점으로 시작하는 이름 제외</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -676,8 +672,8 @@
         <translation>서버에 연결되었습니다.</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}The [ProductName] Setup Wizard is complete</source>
-        <translation>{\VerdanaBold13}[ProductName] 설치 마법사 완료</translation>
+        <source>{\VerdanaBold13}[ProductName] setup is complete</source>
+        <translation type="unfinished">{\VerdanaBold13}[ProductName] 설치 마법사 완료</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -712,20 +708,20 @@
         <translation>공유 폴더</translation>
     </message>
     <message>
-        <source>Client options</source>
-        <translation>클라이언트 옵션</translation>
+        <source>Quillmere settings</source>
+        <translation type="unfinished">클라이언트 옵션</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
         <translation>공유 링크를 삭제할 수 없습니다. 서버와의 연결을 확인한 다음 다시 시도하십시오.</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified. Ask the server administrator to check the certificate.</source>
-        <translation>서버의 SSL 인증서를 검증할 수 없습니다. 서버 관리자에게 인증서 확인을 요청하십시오.</translation>
+        <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
+        <translation type="unfinished">서버의 SSL 인증서를 검증할 수 없습니다. 서버 관리자에게 인증서 확인을 요청하십시오.</translation>
     </message>
     <message>
-        <source>This is not the server the connection was linked to. Check the server address, or link again.</source>
-        <translation>이 서버는 원래 연동했던 서버가 아닙니다. 서버 주소를 확인하거나 다시 연동하십시오.</translation>
+        <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
+        <translation type="unfinished">이 서버는 원래 연동했던 서버가 아닙니다. 서버 주소를 확인하거나 다시 연동하십시오.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -764,16 +760,16 @@
         <translation>연결 관리</translation>
     </message>
     <message>
-        <source>Link to another server</source>
-        <translation>다른 서버와 연동</translation>
+        <source>Connect to another server...</source>
+        <translation type="unfinished">다른 서버와 연동</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
         <translation>오버레이 아이콘 표시</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]Setting up [ProductName]</source>
-        <translation>[DlgTitleFont][ProductName] 구성 중</translation>
+        <source>[DlgTitleFont]Making changes to [ProductName]</source>
+        <translation type="unfinished">[DlgTitleFont][ProductName] 구성 중</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -792,8 +788,8 @@
         <translation>설치(&amp;I)</translation>
     </message>
     <message>
-        <source>File filter</source>
-        <translation>파일 필터</translation>
+        <source>Files to exclude</source>
+        <translation type="unfinished">파일 필터</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -804,8 +800,8 @@
         <translation>사용권 계약의 조건에 동의하지 않습니다(&amp;D)</translation>
     </message>
     <message>
-        <source>Something went wrong. Try again, and contact the server administrator if the problem continues.</source>
-        <translation>문제가 발생했습니다. 다시 시도하고, 문제가 계속되면 서버 관리자에게 문의하십시오.</translation>
+        <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">문제가 발생했습니다. 다시 시도하고, 문제가 계속되면 서버 관리자에게 문의하십시오.</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -828,8 +824,8 @@
         <translation>프록시 설정</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator, so Quillmere might not install completely. Do you want to continue?</source>
-        <translation>관리자로 로그인하지 않았으므로 Quillmere 설치가 완전하지 않을 수 있습니다. 계속하시겠습니까?</translation>
+        <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
+        <translation type="unfinished">관리자로 로그인하지 않았으므로 Quillmere 설치가 완전하지 않을 수 있습니다. 계속하시겠습니까?</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
@@ -876,8 +872,8 @@
         <translation>폴더가 마운트 지점임</translation>
     </message>
     <message>
-        <source>Choose another folder</source>
-        <translation>다른 폴더 선택</translation>
+        <source>Choose another folder...</source>
+        <translation type="unfinished">다른 폴더 선택</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -900,12 +896,16 @@
         <translation>서버 주소와 서버에서 사용하는 계정을 입력하십시오.</translation>
     </message>
     <message>
-        <source>A different server was found at the server address.</source>
-        <translation>서버 주소에서 다른 서버가 발견되었습니다.</translation>
+        <source>Remove</source>
+        <translation type="unfinished">연동 해제</translation>
     </message>
     <message>
-        <source>Linking to the server...</source>
-        <translation>서버와 연동하는 중...</translation>
+        <source>Another server was found at the server address.</source>
+        <translation type="unfinished">서버 주소에서 다른 서버가 발견되었습니다.</translation>
+    </message>
+    <message>
+        <source>Connecting to the server...</source>
+        <translation type="unfinished">서버와 연동하는 중...</translation>
     </message>
     <message>
         <source>Port</source>
@@ -928,8 +928,8 @@
         <translation>시스템 프록시 설정 사용</translation>
     </message>
     <message>
-        <source>Change folder</source>
-        <translation>폴더 변경</translation>
+        <source>Change folder...</source>
+        <translation type="unfinished">폴더 변경</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -944,8 +944,8 @@
         <translation>다운로드 중...</translation>
     </message>
     <message>
-        <source>The file is locked</source>
-        <translation>파일이 잠겨 있음</translation>
+        <source>File locked</source>
+        <translation type="unfinished">파일이 잠겨 있음</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -956,8 +956,8 @@
         <translation>준비 중...</translation>
     </message>
     <message>
-        <source>Updating files...</source>
-        <translation>파일을 업데이트하는 중...</translation>
+        <source>Syncing files...</source>
+        <translation type="unfinished">파일을 업데이트하는 중...</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -968,8 +968,8 @@
         <translation>사용자 이름과 암호를 확인하는 중...</translation>
     </message>
     <message>
-        <source>Wait while the Setup Wizard sets up [ProductName]. This can take several minutes.</source>
-        <translation>설치 마법사가 [ProductName] 프로그램을 구성하는 동안 기다려 주십시오. 몇 분 정도 걸릴 수 있습니다.</translation>
+        <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
+        <translation type="unfinished">설치 마법사가 [ProductName] 프로그램을 구성하는 동안 기다려 주십시오. 몇 분 정도 걸릴 수 있습니다.</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1020,24 +1020,24 @@
         <translation>공유 링크가 클립보드에 복사되었습니다.</translation>
     </message>
     <message>
-        <source>The local sync folder was not found. Restore the folder or choose a different one.</source>
-        <translation>로컬 동기화 폴더를 찾을 수 없습니다. 폴더를 복원하거나 다른 폴더를 선택하십시오.</translation>
+        <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
+        <translation type="unfinished">로컬 동기화 폴더를 찾을 수 없습니다. 폴더를 복원하거나 다른 폴더를 선택하십시오.</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
         <translation>Quillmere 업그레이드</translation>
     </message>
     <message>
-        <source>Add sync task</source>
-        <translation>동기화 작업 추가</translation>
+        <source>Add sync task...</source>
+        <translation type="unfinished">동기화 작업 추가</translation>
     </message>
     <message>
-        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it.</source>
-        <translation>공유 폴더가 서버에 마운트되지 않았습니다. 서버 관리자에게 마운트를 요청하십시오.</translation>
+        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
+        <translation type="unfinished">공유 폴더가 서버에 마운트되지 않았습니다. 서버 관리자에게 마운트를 요청하십시오.</translation>
     </message>
     <message>
-        <source>The server sent an unexpected response. Upgrade the client and the server, then try again.</source>
-        <translation>서버에서 예기치 않은 응답을 보냈습니다. 클라이언트와 서버를 업그레이드한 다음 다시 시도하십시오.</translation>
+        <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">서버에서 예기치 않은 응답을 보냈습니다. 클라이언트와 서버를 업그레이드한 다음 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1052,8 +1052,8 @@
         <translation>%1 MB 이하의 크기를 입력하십시오.</translation>
     </message>
     <message>
-        <source>Checking the data...</source>
-        <translation>데이터를 확인하는 중...</translation>
+        <source>Checking files...</source>
+        <translation type="unfinished">데이터를 확인하는 중...</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
@@ -1064,8 +1064,8 @@
         <translation>[ProductName] 설치를 시작하려면 ‘설치’를 클릭하십시오. 선택 사항을 검토하려면 ‘뒤로’를 클릭하고, 설치 마법사를 종료하려면 ‘취소’를 클릭하십시오.</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}[ProductName] setup was interrupted</source>
-        <translation>{\VerdanaBold13}[ProductName] 설치 작업이 중단됨</translation>
+        <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
+        <translation type="unfinished">{\VerdanaBold13}[ProductName] 설치 작업이 중단됨</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1092,8 +1092,8 @@
         <translation>네트워크 설정</translation>
     </message>
     <message>
-        <source>This folder is already synced with another shared folder. Choose a different folder.</source>
-        <translation>이 폴더는 이미 다른 공유 폴더와 동기화되고 있습니다. 다른 폴더를 선택하십시오.</translation>
+        <source>This folder is already synced with another shared folder. Choose another folder.</source>
+        <translation type="unfinished">이 폴더는 이미 다른 공유 폴더와 동기화되고 있습니다. 다른 폴더를 선택하십시오.</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1132,24 +1132,24 @@
         <translation>이 컴퓨터에 로그인할 때 Quillmere 시작</translation>
     </message>
     <message>
-        <source>All files from both folders are kept. If two versions of a file differ, you get both.</source>
-        <translation>두 폴더의 모든 파일이 유지됩니다. 파일의 두 버전이 서로 다르면 두 버전이 모두 유지됩니다.</translation>
+        <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
+        <translation type="unfinished">두 폴더의 모든 파일이 유지됩니다. 파일의 두 버전이 서로 다르면 두 버전이 모두 유지됩니다.</translation>
     </message>
     <message>
         <source>Repair the installation</source>
         <translation>설치 복구</translation>
     </message>
     <message>
-        <source>Sync enabled</source>
-        <translation>동기화 사용 중</translation>
+        <source>Syncing turned on</source>
+        <translation type="unfinished">동기화 사용 중</translation>
     </message>
     <message>
-        <source>Quillmere could not start. Restart the computer, then start Quillmere again.</source>
-        <translation>Quillmere 프로그램을 시작할 수 없습니다. 컴퓨터를 다시 시작한 다음 Quillmere 프로그램을 다시 시작하십시오.</translation>
+        <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Quillmere 프로그램을 시작할 수 없습니다. 컴퓨터를 다시 시작한 다음 Quillmere 프로그램을 다시 시작하십시오.</translation>
     </message>
     <message>
-        <source>Do you want to cancel the setup of [ProductName]?</source>
-        <translation>[ProductName] 설치 작업을 취소하시겠습니까?</translation>
+        <source>Cancel the setup of [ProductName]?</source>
+        <translation type="unfinished">[ProductName] 설치 작업을 취소하시겠습니까?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1172,28 +1172,28 @@
         <translation>고급 설정</translation>
     </message>
     <message>
-        <source>Browse versions</source>
-        <translation>이전 버전 찾아보기</translation>
+        <source>Browse versions...</source>
+        <translation type="unfinished">이전 버전 찾아보기</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
         <translation>[DlgTitleFont]변경(&amp;C)</translation>
     </message>
     <message>
-        <source>This connection is inactive. Link it again to continue syncing.</source>
-        <translation>이 연결은 비활성 상태입니다. 동기화를 계속하려면 다시 연동하십시오.</translation>
+        <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
+        <translation type="unfinished">이 연결은 비활성 상태입니다. 동기화를 계속하려면 다시 연동하십시오.</translation>
     </message>
     <message>
         <source>Detecting...</source>
         <translation>감지 중...</translation>
     </message>
     <message>
-        <source>SSL warning</source>
-        <translation>SSL 경고</translation>
+        <source>Certificate warning</source>
+        <translation type="unfinished">SSL 경고</translation>
     </message>
     <message>
-        <source>The relay service cannot be reached. Check your Internet connection, then try again.</source>
-        <translation>중계 서비스에 연결할 수 없습니다. 인터넷 연결을 확인한 다음 다시 시도하십시오.</translation>
+        <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
+        <translation type="unfinished">중계 서비스에 연결할 수 없습니다. 인터넷 연결을 확인한 다음 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
@@ -1232,24 +1232,24 @@
         <translation>직접 연결</translation>
     </message>
     <message>
-        <source>The server volume that holds this folder is not mounted. Ask the server administrator to mount it.</source>
-        <translation>이 폴더가 있는 서버 볼륨이 마운트되지 않았습니다. 서버 관리자에게 마운트를 요청하십시오.</translation>
+        <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
+        <translation type="unfinished">이 폴더가 있는 서버 볼륨이 마운트되지 않았습니다. 서버 관리자에게 마운트를 요청하십시오.</translation>
     </message>
     <message>
-        <source>This version of Quillmere is already installed. Do you want to install it again?</source>
-        <translation>이 버전의 Quillmere 프로그램이 이미 설치되어 있습니다. 다시 설치하시겠습니까?</translation>
+        <source>This version of Quillmere is already installed. Install it again?</source>
+        <translation type="unfinished">이 버전의 Quillmere 프로그램이 이미 설치되어 있습니다. 다시 설치하시겠습니까?</translation>
     </message>
     <message>
-        <source>This client is too old for the server. Upgrade the client, then try again.</source>
-        <translation>이 클라이언트의 버전이 낮아 서버와 호환되지 않습니다. 클라이언트를 업그레이드한 다음 다시 시도하십시오.</translation>
+        <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
+        <translation type="unfinished">이 클라이언트의 버전이 낮아 서버와 호환되지 않습니다. 클라이언트를 업그레이드한 다음 다시 시도하십시오.</translation>
     </message>
     <message>
-        <source>The server is too old for this client.</source>
-        <translation>서버의 버전이 낮아 이 클라이언트와 호환되지 않습니다.</translation>
+        <source>Quillmere on the server is too old to work with this computer.</source>
+        <translation type="unfinished">서버의 버전이 낮아 이 클라이언트와 호환되지 않습니다.</translation>
     </message>
     <message>
-        <source>Disabled</source>
-        <translation>사용 안 함</translation>
+        <source>Turned off</source>
+        <translation type="unfinished">사용 안 함</translation>
     </message>
 </context>
 </TS>

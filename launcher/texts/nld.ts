@@ -40,8 +40,8 @@
         <translation>Verbindingsmodus</translation>
     </message>
     <message>
-        <source>The local database is damaged. Unlink the connection, then link it again to rebuild the database.</source>
-        <translation>De lokale database is beschadigd. Ontkoppel de verbinding en koppel deze daarna opnieuw om de database opnieuw op te bouwen.</translation>
+        <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">De lokale database is beschadigd. Ontkoppel de verbinding en koppel deze daarna opnieuw om de database opnieuw op te bouwen.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
@@ -56,8 +56,8 @@
         <translation>[DlgTitleFont]Gereed om [ProductName] te verwijderen</translation>
     </message>
     <message>
-        <source>The server has been replaced. Click here to link again.</source>
-        <translation>De server is vervangen. Klik hier om opnieuw te koppelen.</translation>
+        <source>The server has been replaced. Click here to reconnect.</source>
+        <translation type="unfinished">De server is vervangen. Klik hier om opnieuw te koppelen.</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -68,16 +68,16 @@
         <translation>Met de installatiewizard kunt u [ProductName] wijzigen, herstellen of verwijderen. Klik op ‘Volgende’ om door te gaan of op ‘Annuleren’ om de installatiewizard af te sluiten.</translation>
     </message>
     <message>
-        <source>Block list</source>
-        <translation>Uitsluitingslijst</translation>
+        <source>Exclusion list</source>
+        <translation type="unfinished">Uitsluitingslijst</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
         <translation>Deze deellink verwijderen?\nMensen die de link hebben, kunnen het bestand dan niet meer openen.</translation>
     </message>
     <message>
-        <source>This client is too old for the server.</source>
-        <translation>Deze client is te oud voor de server.</translation>
+        <source>Quillmere on this computer is too old to work with the server.</source>
+        <translation type="unfinished">Deze client is te oud voor de server.</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
@@ -96,16 +96,16 @@
         <translation>Verbinding wordt getest…</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server is not trusted, so others may be able to read the data you send. Do you want to continue?</source>
-        <translation>Het SSL-certificaat van de server wordt niet vertrouwd, waardoor anderen de gegevens die u verzendt mogelijk kunnen lezen. Wilt u doorgaan?</translation>
+        <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
+        <translation type="unfinished">Het SSL-certificaat van de server wordt niet vertrouwd, waardoor anderen de gegevens die u verzendt mogelijk kunnen lezen. Wilt u doorgaan?</translation>
     </message>
     <message>
         <source>New shared folder</source>
         <translation>Nieuwe gedeelde map</translation>
     </message>
     <message>
-        <source>About</source>
-        <translation>Info</translation>
+        <source>About Quillmere</source>
+        <translation type="unfinished">Info</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
@@ -120,8 +120,8 @@
         <translation>De installatiewizard is gereed om met het verwijderen te beginnen.</translation>
     </message>
     <message>
-        <source>This computer is already linked to this server. Edit the existing connection or enter a different server.</source>
-        <translation>Deze computer is al aan deze server gekoppeld. Bewerk de bestaande verbinding of voer een andere server in.</translation>
+        <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
+        <translation type="unfinished">Deze computer is al aan deze server gekoppeld. Bewerk de bestaande verbinding of voer een andere server in.</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -132,12 +132,12 @@
         <translation>De verbinding met de server is verbroken. Controleer de netwerkverbinding en probeer het opnieuw.</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified.</source>
-        <translation>Het SSL-certificaat van de server kan niet worden geverifieerd.</translation>
+        <source>The certificate of the server could not be verified.</source>
+        <translation type="unfinished">Het SSL-certificaat van de server kan niet worden geverifieerd.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
-        <translation>Een zwart-witpictogram in het systeemvak gebruiken</translation>
+        <source>Use a black-and-white tray icon</source>
+        <translation type="unfinished">Een zwart-witpictogram in het systeemvak gebruiken</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -152,20 +152,20 @@
         <translation>Synchronisatietaken</translation>
     </message>
     <message>
-        <source>Blocked files</source>
-        <translation>Uitgesloten bestanden</translation>
+        <source>Excluded files</source>
+        <translation type="unfinished">Uitgesloten bestanden</translation>
     </message>
     <message>
         <source>No permission</source>
         <translation>Geen toegangsrechten</translation>
     </message>
     <message>
-        <source>The server is too old for this client. Ask the server administrator to upgrade it.</source>
-        <translation>De server is te oud voor deze client. Vraag de serverbeheerder om de server bij te werken.</translation>
+        <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
+        <translation type="unfinished">De server is te oud voor deze client. Vraag de serverbeheerder om de server bij te werken.</translation>
     </message>
     <message>
-        <source>To try again, run setup again later. Click Finish to exit the Setup Wizard.</source>
-        <translation>Voer het installatieprogramma later opnieuw uit om het nogmaals te proberen. Klik op ‘Voltooien’ om de installatiewizard af te sluiten.</translation>
+        <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
+        <translation type="unfinished">Voer het installatieprogramma later opnieuw uit om het nogmaals te proberen. Klik op ‘Voltooien’ om de installatiewizard af te sluiten.</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -180,8 +180,8 @@
         <translation>Klik op ‘Herstellen’ om de installatie van [ProductName] te herstellen. Klik op ‘Vorige’ om uw keuzes te controleren of op ‘Annuleren’ om de installatiewizard af te sluiten.</translation>
     </message>
     <message>
-        <source>Some settings have not been saved. Do you want to save them?</source>
-        <translation>Sommige instellingen zijn niet opgeslagen. Wilt u ze opslaan?</translation>
+        <source>Some settings have not been saved. Save them?</source>
+        <translation type="unfinished">Sommige instellingen zijn niet opgeslagen. Wilt u ze opslaan?</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -192,8 +192,8 @@
         <translation>Actie</translation>
     </message>
     <message>
-        <source>This folder is already used by another sync program. Choose a different folder to avoid conflicts.</source>
-        <translation>Deze map wordt al gebruikt door een ander synchronisatieprogramma. Kies een andere map om conflicten te voorkomen.</translation>
+        <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
+        <translation type="unfinished">Deze map wordt al gebruikt door een ander synchronisatieprogramma. Kies een andere map om conflicten te voorkomen.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -204,16 +204,16 @@
         <translation>Incompatibele versie</translation>
     </message>
     <message>
-        <source>Change the sync folder</source>
-        <translation>Synchronisatiemap wijzigen</translation>
+        <source>Change sync folder</source>
+        <translation type="unfinished">Synchronisatiemap wijzigen</translation>
     </message>
     <message>
-        <source>Enter a complete file name without a folder path.</source>
-        <translation>Voer een volledige bestandsnaam in, zonder mappad.</translation>
+        <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
+        <translation type="unfinished">Voer een volledige bestandsnaam in, zonder mappad.</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]An error stopped setup, and its changes were undone.</source>
-        <translation>[DlgTitleFont]Het installatieprogramma is door een fout gestopt en de wijzigingen zijn ongedaan gemaakt.</translation>
+        <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
+        <translation type="unfinished">[DlgTitleFont]Het installatieprogramma is door een fout gestopt en de wijzigingen zijn ongedaan gemaakt.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -240,8 +240,8 @@
         <translation>Naam</translation>
     </message>
     <message>
-        <source>Encrypt data transfer with SSL</source>
-        <translation>Gegevensoverdracht met SSL versleutelen</translation>
+        <source>Use an encrypted connection (TLS)</source>
+        <translation type="unfinished">Gegevensoverdracht met SSL versleutelen</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -276,8 +276,8 @@
         <translation>Dit bestand heeft nog geen eerdere versies. Wijzig het bestand en laat het synchroniseren om er een te maken.</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>Ontkoppelen</translation>
+        <source>Disconnect</source>
+        <translation type="unfinished">Ontkoppelen</translation>
     </message>
     <message>
         <source>Back</source>
@@ -316,8 +316,8 @@
         <translation>Instellingen worden toegepast…</translation>
     </message>
     <message>
-        <source>Files that are not synced</source>
-        <translation>Bestanden die niet worden gesynchroniseerd</translation>
+        <source>Files excluded from syncing</source>
+        <translation type="unfinished">Bestanden die niet worden gesynchroniseerd</translation>
     </message>
     <message>
         <source>Created</source>
@@ -332,8 +332,8 @@
         <translation>Internet</translation>
     </message>
     <message>
-        <source>Choose the shared folders to sync</source>
-        <translation>Kies de gedeelde mappen die u wilt synchroniseren</translation>
+        <source>Choose shared folders to sync</source>
+        <translation type="unfinished">Kies de gedeelde mappen die u wilt synchroniseren</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -360,8 +360,8 @@
         <translation>Herstelt fouten in de installatie van [ProductName] door ontbrekende of beschadigde bestanden en snelkoppelingen terug te zetten.</translation>
     </message>
     <message>
-        <source>Blocked file extensions</source>
-        <translation>Uitgesloten bestandsextensies</translation>
+        <source>Excluded file extensions</source>
+        <translation type="unfinished">Uitgesloten bestandsextensies</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -376,16 +376,16 @@
         <translation>Wachtwoord</translation>
     </message>
     <message>
-        <source>The volume that holds the sync folder is not mounted. Mount the volume, then resume syncing.</source>
-        <translation>Het volume met de synchronisatiemap is niet aangekoppeld. Koppel het volume aan en hervat daarna de synchronisatie.</translation>
+        <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
+        <translation type="unfinished">Het volume met de synchronisatiemap is niet aangekoppeld. Koppel het volume aan en hervat daarna de synchronisatie.</translation>
     </message>
     <message>
         <source>Edit</source>
         <translation>Bewerken</translation>
     </message>
     <message>
-        <source>This computer has no free disk space.</source>
-        <translation>Deze computer heeft geen vrije schijfruimte meer.</translation>
+        <source>The drive that holds the sync folder is full.</source>
+        <translation type="unfinished">Deze computer heeft geen vrije schijfruimte meer.</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -400,8 +400,8 @@
         <translation>Ne&amp;geren</translation>
     </message>
     <message>
-        <source>A folder with this name already exists. Do you want to merge its files with those on the server?</source>
-        <translation>Er bestaat al een map met deze naam. Wilt u de bestanden hierin samenvoegen met die op de server?</translation>
+        <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
+        <translation type="unfinished">Er bestaat al een map met deze naam. Wilt u de bestanden hierin samenvoegen met die op de server?</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
@@ -448,12 +448,12 @@
         <translation>Gereed</translation>
     </message>
     <message>
-        <source>Syncing %1 files...</source>
-        <translation>Bestanden worden gesynchroniseerd (%1)…</translation>
+        <source>Files being synced: %1</source>
+        <translation type="unfinished">Bestanden worden gesynchroniseerd (%1)…</translation>
     </message>
     <message>
-        <source>Link again</source>
-        <translation>Opnieuw koppelen</translation>
+        <source>Reconnect</source>
+        <translation type="unfinished">Opnieuw koppelen</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -472,8 +472,8 @@
         <translation>Systeemstandaard</translation>
     </message>
     <message>
-        <source>The folders and files you cleared will be removed from this computer. They will be kept on the server.</source>
-        <translation>De mappen en bestanden die u hebt uitgevinkt, worden van deze computer verwijderd. Op de server blijven ze behouden.</translation>
+        <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
+        <translation type="unfinished">De mappen en bestanden die u hebt uitgevinkt, worden van deze computer verwijderd. Op de server blijven ze behouden.</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
@@ -488,28 +488,28 @@
         <translation>Geen ruimte meer</translation>
     </message>
     <message>
-        <source>Inactive</source>
-        <translation>Inactief</translation>
+        <source>Disconnected</source>
+        <translation type="unfinished">Inactief</translation>
     </message>
     <message>
-        <source>Your quota on the server is full.</source>
-        <translation>Uw opslagquotum op de server is volledig gebruikt.</translation>
+        <source>You have used all of your space on the server.</source>
+        <translation type="unfinished">Uw opslagquotum op de server is volledig gebruikt.</translation>
     </message>
     <message>
-        <source>Unlink this connection?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>Deze verbinding ontkoppelen?\nUw bestanden blijven op deze computer en op de server behouden, maar worden niet meer gesynchroniseerd.</translation>
+        <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">Deze verbinding ontkoppelen?\nUw bestanden blijven op deze computer en op de server behouden, maar worden niet meer gesynchroniseerd.</translation>
     </message>
     <message>
-        <source>The relay service has a problem. Try again later, or connect with the IP address of the server.</source>
-        <translation>Er is een probleem met de relayservice. Probeer het later opnieuw of maak verbinding via het IP-adres van de server.</translation>
+        <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
+        <translation type="unfinished">Er is een probleem met de relayservice. Probeer het later opnieuw of maak verbinding via het IP-adres van de server.</translation>
     </message>
     <message>
         <source>Server ID</source>
         <translation>Server-ID</translation>
     </message>
     <message>
-        <source>Blocked file names</source>
-        <translation>Uitgesloten bestandsnamen</translation>
+        <source>Excluded file names</source>
+        <translation type="unfinished">Uitgesloten bestandsnamen</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -520,20 +520,20 @@
         <translation>Doorgaan</translation>
     </message>
     <message>
-        <source>Enabled</source>
-        <translation>Ingeschakeld</translation>
+        <source>Turned on</source>
+        <translation type="unfinished">Ingeschakeld</translation>
     </message>
     <message>
-        <source>This computer has no free disk space. Free some space to continue syncing.</source>
-        <translation>Deze computer heeft geen vrije schijfruimte meer. Maak ruimte vrij om door te gaan met synchroniseren.</translation>
+        <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
+        <translation type="unfinished">Deze computer heeft geen vrije schijfruimte meer. Maak ruimte vrij om door te gaan met synchroniseren.</translation>
     </message>
     <message>
         <source>Folders to sync</source>
         <translation>Te synchroniseren mappen</translation>
     </message>
     <message>
-        <source>Choose a sync folder</source>
-        <translation>Kies een synchronisatiemap</translation>
+        <source>Choose sync folder</source>
+        <translation type="unfinished">Kies een synchronisatiemap</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -548,8 +548,8 @@
         <translation>Computer</translation>
     </message>
     <message>
-        <source>Your quota on the server is full. Delete files you do not need, or ask the server administrator for a larger quota.</source>
-        <translation>Uw opslagquotum op de server is volledig gebruikt. Verwijder bestanden die u niet nodig hebt of vraag de serverbeheerder om een groter quotum.</translation>
+        <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
+        <translation type="unfinished">Uw opslagquotum op de server is volledig gebruikt. Verwijder bestanden die u niet nodig hebt of vraag de serverbeheerder om een groter quotum.</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
@@ -564,12 +564,12 @@
         <translation>De volgende proxyserver gebruiken</translation>
     </message>
     <message>
-        <source>This file was changed in two places. Compare both copies, then keep the one you need.</source>
-        <translation>Dit bestand is op twee plaatsen gewijzigd. Vergelijk beide kopieën en behoud de kopie die u nodig hebt.</translation>
+        <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
+        <translation type="unfinished">Dit bestand is op twee plaatsen gewijzigd. Vergelijk beide kopieën en behoud de kopie die u nodig hebt.</translation>
     </message>
     <message>
-        <source>One place for your files on every computer, through a server of your own</source>
-        <translation>Eén plek voor uw bestanden op elke computer, via een eigen server</translation>
+        <source>All your files on every computer, kept on your own server</source>
+        <translation type="unfinished">Eén plek voor uw bestanden op elke computer, via een eigen server</translation>
     </message>
     <message>
         <source>OK</source>
@@ -580,8 +580,8 @@
         <translation>Bureaubladmeldingen tonen</translation>
     </message>
     <message>
-        <source>The following applications use files that setup needs to update. Close them and click Retry, click Ignore to continue without closing them, or click Exit to leave setup.</source>
-        <translation>De volgende toepassingen gebruiken bestanden die door het installatieprogramma moeten worden bijgewerkt. Sluit deze toepassingen en klik op ‘Opnieuw proberen’. Klik op ‘Negeren’ om door te gaan zonder ze te sluiten of op ‘Afsluiten’ om het installatieprogramma te verlaten.</translation>
+        <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
+        <translation type="unfinished">De volgende toepassingen gebruiken bestanden die door het installatieprogramma moeten worden bijgewerkt. Sluit deze toepassingen en klik op ‘Opnieuw proberen’. Klik op ‘Negeren’ om door te gaan zonder ze te sluiten of op ‘Afsluiten’ om het installatieprogramma te verlaten.</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -596,12 +596,12 @@
         <translation>Bestanden die met een vermelding in deze lijst overeenkomen, worden niet gesynchroniseerd.</translation>
     </message>
     <message>
-        <source>Edit connection</source>
-        <translation>Verbinding bewerken</translation>
+        <source>Edit connection...</source>
+        <translation type="unfinished">Verbinding bewerken</translation>
     </message>
     <message>
-        <source>Options</source>
-        <translation>Opties</translation>
+        <source>Settings</source>
+        <translation>Instellingen</translation>
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
@@ -624,36 +624,32 @@
         <translation>Pauzeren</translation>
     </message>
     <message>
-        <source>Show icon overlays on filtered files</source>
-        <translation>Pictogramoverlays tonen op gefilterde bestanden</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Instellingen</translation>
+        <source>Show icon overlays on excluded files</source>
+        <translation type="unfinished">Pictogramoverlays tonen op gefilterde bestanden</translation>
     </message>
     <message>
         <source>Loading...</source>
         <translation>Bezig met laden…</translation>
     </message>
     <message>
-        <source>You can sync at most %1 shared folders. Stop syncing one of them before you add another.</source>
-        <translation>Het aantal gedeelde mappen dat u kunt synchroniseren, is beperkt tot %1. Stop de synchronisatie van een van deze mappen voordat u een andere toevoegt.</translation>
+        <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
+        <translation type="unfinished">Het aantal gedeelde mappen dat u kunt synchroniseren, is beperkt tot %1. Stop de synchronisatie van een van deze mappen voordat u een andere toevoegt.</translation>
     </message>
     <message>
-        <source>Unlink this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>Deze synchronisatietaak ontkoppelen?\nDe bijbehorende bestanden blijven op deze computer en op de server behouden, maar worden niet meer gesynchroniseerd.</translation>
+        <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">Deze synchronisatietaak ontkoppelen?\nDe bijbehorende bestanden blijven op deze computer en op de server behouden, maar worden niet meer gesynchroniseerd.</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
         <translation>Quillmere wordt gestart…</translation>
     </message>
     <message>
-        <source>Quillmere could not be upgraded. Restart the computer, then try again.</source>
-        <translation>Quillmere kan niet worden bijgewerkt. Start de computer opnieuw op en probeer het opnieuw.</translation>
+        <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Quillmere kan niet worden bijgewerkt. Start de computer opnieuw op en probeer het opnieuw.</translation>
     </message>
     <message>
-        <source>Block names that begin with a dot</source>
-        <translation>Namen uitsluiten die met een punt beginnen</translation>
+        <source>Exclude names that begin with a dot</source>
+        <translation type="unfinished">Namen uitsluiten die met een punt beginnen</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -676,8 +672,8 @@
         <translation>Verbonden met de server.</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}The [ProductName] Setup Wizard is complete</source>
-        <translation>{\VerdanaBold13}De installatiewizard van [ProductName] is voltooid</translation>
+        <source>{\VerdanaBold13}[ProductName] setup is complete</source>
+        <translation type="unfinished">{\VerdanaBold13}De installatiewizard van [ProductName] is voltooid</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -712,20 +708,20 @@
         <translation>Gedeelde map</translation>
     </message>
     <message>
-        <source>Client options</source>
-        <translation>Clientopties</translation>
+        <source>Quillmere settings</source>
+        <translation type="unfinished">Clientopties</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
         <translation>De deellink kan niet worden verwijderd. Controleer de verbinding met de server en probeer het opnieuw.</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified. Ask the server administrator to check the certificate.</source>
-        <translation>Het SSL-certificaat van de server kan niet worden geverifieerd. Vraag de serverbeheerder om het certificaat te controleren.</translation>
+        <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
+        <translation type="unfinished">Het SSL-certificaat van de server kan niet worden geverifieerd. Vraag de serverbeheerder om het certificaat te controleren.</translation>
     </message>
     <message>
-        <source>This is not the server the connection was linked to. Check the server address, or link again.</source>
-        <translation>Dit is niet de server waaraan de verbinding is gekoppeld. Controleer het serveradres of koppel opnieuw.</translation>
+        <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
+        <translation type="unfinished">Dit is niet de server waaraan de verbinding is gekoppeld. Controleer het serveradres of koppel opnieuw.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -764,16 +760,16 @@
         <translation>Verbindingen beheren</translation>
     </message>
     <message>
-        <source>Link to another server</source>
-        <translation>Aan een andere server koppelen</translation>
+        <source>Connect to another server...</source>
+        <translation type="unfinished">Aan een andere server koppelen</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
         <translation>Pictogramoverlays tonen</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]Setting up [ProductName]</source>
-        <translation>[DlgTitleFont]Het installatieprogramma van [ProductName] is bezig</translation>
+        <source>[DlgTitleFont]Making changes to [ProductName]</source>
+        <translation type="unfinished">[DlgTitleFont]Het installatieprogramma van [ProductName] is bezig</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -792,8 +788,8 @@
         <translation>&amp;Installeren</translation>
     </message>
     <message>
-        <source>File filter</source>
-        <translation>Bestandsfilter</translation>
+        <source>Files to exclude</source>
+        <translation type="unfinished">Bestandsfilter</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -804,8 +800,8 @@
         <translation>Ik ga &amp;niet akkoord met de voorwaarden van de licentieovereenkomst</translation>
     </message>
     <message>
-        <source>Something went wrong. Try again, and contact the server administrator if the problem continues.</source>
-        <translation>Er is iets misgegaan. Probeer het opnieuw en neem contact op met de serverbeheerder als het probleem zich blijft voordoen.</translation>
+        <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Er is iets misgegaan. Probeer het opnieuw en neem contact op met de serverbeheerder als het probleem zich blijft voordoen.</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -828,8 +824,8 @@
         <translation>Proxyinstellingen</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator, so Quillmere might not install completely. Do you want to continue?</source>
-        <translation>U bent niet als beheerder aangemeld, waardoor Quillmere mogelijk niet volledig wordt geïnstalleerd. Wilt u doorgaan?</translation>
+        <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
+        <translation type="unfinished">U bent niet als beheerder aangemeld, waardoor Quillmere mogelijk niet volledig wordt geïnstalleerd. Wilt u doorgaan?</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
@@ -876,8 +872,8 @@
         <translation>Map is een aankoppelpunt</translation>
     </message>
     <message>
-        <source>Choose another folder</source>
-        <translation>Andere map kiezen</translation>
+        <source>Choose another folder...</source>
+        <translation type="unfinished">Andere map kiezen</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -900,12 +896,16 @@
         <translation>Voer het serveradres in en het account dat u op de server gebruikt.</translation>
     </message>
     <message>
-        <source>A different server was found at the server address.</source>
-        <translation>Op het serveradres is een andere server gevonden.</translation>
+        <source>Remove</source>
+        <translation type="unfinished">Ontkoppelen</translation>
     </message>
     <message>
-        <source>Linking to the server...</source>
-        <translation>Koppeling met de server wordt gemaakt…</translation>
+        <source>Another server was found at the server address.</source>
+        <translation type="unfinished">Op het serveradres is een andere server gevonden.</translation>
+    </message>
+    <message>
+        <source>Connecting to the server...</source>
+        <translation type="unfinished">Koppeling met de server wordt gemaakt…</translation>
     </message>
     <message>
         <source>Port</source>
@@ -928,8 +928,8 @@
         <translation>De proxyinstellingen van het systeem gebruiken</translation>
     </message>
     <message>
-        <source>Change folder</source>
-        <translation>Map wijzigen</translation>
+        <source>Change folder...</source>
+        <translation type="unfinished">Map wijzigen</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -944,8 +944,8 @@
         <translation>Bezig met downloaden…</translation>
     </message>
     <message>
-        <source>The file is locked</source>
-        <translation>Het bestand is vergrendeld</translation>
+        <source>File locked</source>
+        <translation type="unfinished">Het bestand is vergrendeld</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -956,8 +956,8 @@
         <translation>Bezig met voorbereiden…</translation>
     </message>
     <message>
-        <source>Updating files...</source>
-        <translation>Bestanden worden bijgewerkt…</translation>
+        <source>Syncing files...</source>
+        <translation type="unfinished">Bestanden worden bijgewerkt…</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -968,8 +968,8 @@
         <translation>Gebruikersnaam en wachtwoord worden gecontroleerd…</translation>
     </message>
     <message>
-        <source>Wait while the Setup Wizard sets up [ProductName]. This can take several minutes.</source>
-        <translation>Wacht tot de installatiewizard van [ProductName] klaar is. Dit kan enkele minuten duren.</translation>
+        <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
+        <translation type="unfinished">Wacht tot de installatiewizard van [ProductName] klaar is. Dit kan enkele minuten duren.</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1020,24 +1020,24 @@
         <translation>De deellink is naar het klembord gekopieerd.</translation>
     </message>
     <message>
-        <source>The local sync folder was not found. Restore the folder or choose a different one.</source>
-        <translation>De lokale synchronisatiemap is niet gevonden. Zet de map terug of kies een andere map.</translation>
+        <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
+        <translation type="unfinished">De lokale synchronisatiemap is niet gevonden. Zet de map terug of kies een andere map.</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
         <translation>Quillmere bijwerken</translation>
     </message>
     <message>
-        <source>Add sync task</source>
-        <translation>Synchronisatietaak toevoegen</translation>
+        <source>Add sync task...</source>
+        <translation type="unfinished">Synchronisatietaak toevoegen</translation>
     </message>
     <message>
-        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it.</source>
-        <translation>De gedeelde map is niet aangekoppeld op de server. Vraag de serverbeheerder om de map aan te koppelen.</translation>
+        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
+        <translation type="unfinished">De gedeelde map is niet aangekoppeld op de server. Vraag de serverbeheerder om de map aan te koppelen.</translation>
     </message>
     <message>
-        <source>The server sent an unexpected response. Upgrade the client and the server, then try again.</source>
-        <translation>De server heeft een onverwacht antwoord verzonden. Werk de client en de server bij en probeer het opnieuw.</translation>
+        <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">De server heeft een onverwacht antwoord verzonden. Werk de client en de server bij en probeer het opnieuw.</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1052,8 +1052,8 @@
         <translation>Voer een grootte van maximaal %1&#xa0;MB in.</translation>
     </message>
     <message>
-        <source>Checking the data...</source>
-        <translation>Gegevens worden gecontroleerd…</translation>
+        <source>Checking files...</source>
+        <translation type="unfinished">Gegevens worden gecontroleerd…</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
@@ -1064,8 +1064,8 @@
         <translation>Klik op ‘Installeren’ om met de installatie van [ProductName] te beginnen. Klik op ‘Vorige’ om uw keuzes te controleren of op ‘Annuleren’ om de installatiewizard af te sluiten.</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}[ProductName] setup was interrupted</source>
-        <translation>{\VerdanaBold13}Het installatieprogramma van [ProductName] is onderbroken</translation>
+        <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
+        <translation type="unfinished">{\VerdanaBold13}Het installatieprogramma van [ProductName] is onderbroken</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1092,8 +1092,8 @@
         <translation>Netwerkinstellingen</translation>
     </message>
     <message>
-        <source>This folder is already synced with another shared folder. Choose a different folder.</source>
-        <translation>Deze map wordt al met een andere gedeelde map gesynchroniseerd. Kies een andere map.</translation>
+        <source>This folder is already synced with another shared folder. Choose another folder.</source>
+        <translation type="unfinished">Deze map wordt al met een andere gedeelde map gesynchroniseerd. Kies een andere map.</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1132,24 +1132,24 @@
         <translation>Quillmere starten wanneer ik me bij deze computer aanmeld</translation>
     </message>
     <message>
-        <source>All files from both folders are kept. If two versions of a file differ, you get both.</source>
-        <translation>Alle bestanden uit beide mappen blijven behouden. Als twee versies van een bestand verschillen, krijgt u ze allebei.</translation>
+        <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
+        <translation type="unfinished">Alle bestanden uit beide mappen blijven behouden. Als twee versies van een bestand verschillen, krijgt u ze allebei.</translation>
     </message>
     <message>
         <source>Repair the installation</source>
         <translation>De installatie herstellen</translation>
     </message>
     <message>
-        <source>Sync enabled</source>
-        <translation>Synchronisatie ingeschakeld</translation>
+        <source>Syncing turned on</source>
+        <translation type="unfinished">Synchronisatie ingeschakeld</translation>
     </message>
     <message>
-        <source>Quillmere could not start. Restart the computer, then start Quillmere again.</source>
-        <translation>Quillmere kan niet worden gestart. Start de computer opnieuw op en start daarna Quillmere opnieuw.</translation>
+        <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Quillmere kan niet worden gestart. Start de computer opnieuw op en start daarna Quillmere opnieuw.</translation>
     </message>
     <message>
-        <source>Do you want to cancel the setup of [ProductName]?</source>
-        <translation>Wilt u het installatieprogramma van [ProductName] afbreken?</translation>
+        <source>Cancel the setup of [ProductName]?</source>
+        <translation type="unfinished">Wilt u het installatieprogramma van [ProductName] afbreken?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1172,28 +1172,28 @@
         <translation>Geavanceerde instellingen</translation>
     </message>
     <message>
-        <source>Browse versions</source>
-        <translation>Versies bekijken</translation>
+        <source>Browse versions...</source>
+        <translation type="unfinished">Versies bekijken</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
         <translation>[DlgTitleFont]&amp;Wijzigen</translation>
     </message>
     <message>
-        <source>This connection is inactive. Link it again to continue syncing.</source>
-        <translation>Deze verbinding is inactief. Koppel de verbinding opnieuw om door te gaan met synchroniseren.</translation>
+        <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
+        <translation type="unfinished">Deze verbinding is inactief. Koppel de verbinding opnieuw om door te gaan met synchroniseren.</translation>
     </message>
     <message>
         <source>Detecting...</source>
         <translation>Bezig met detecteren…</translation>
     </message>
     <message>
-        <source>SSL warning</source>
-        <translation>SSL-waarschuwing</translation>
+        <source>Certificate warning</source>
+        <translation type="unfinished">SSL-waarschuwing</translation>
     </message>
     <message>
-        <source>The relay service cannot be reached. Check your Internet connection, then try again.</source>
-        <translation>De relayservice is niet bereikbaar. Controleer uw internetverbinding en probeer het opnieuw.</translation>
+        <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
+        <translation type="unfinished">De relayservice is niet bereikbaar. Controleer uw internetverbinding en probeer het opnieuw.</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
@@ -1232,24 +1232,24 @@
         <translation>Directe verbinding</translation>
     </message>
     <message>
-        <source>The server volume that holds this folder is not mounted. Ask the server administrator to mount it.</source>
-        <translation>Het servervolume waarop deze map staat, is niet aangekoppeld. Vraag de serverbeheerder om het volume aan te koppelen.</translation>
+        <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
+        <translation type="unfinished">Het servervolume waarop deze map staat, is niet aangekoppeld. Vraag de serverbeheerder om het volume aan te koppelen.</translation>
     </message>
     <message>
-        <source>This version of Quillmere is already installed. Do you want to install it again?</source>
-        <translation>Deze versie van Quillmere is al geïnstalleerd. Wilt u deze opnieuw installeren?</translation>
+        <source>This version of Quillmere is already installed. Install it again?</source>
+        <translation type="unfinished">Deze versie van Quillmere is al geïnstalleerd. Wilt u deze opnieuw installeren?</translation>
     </message>
     <message>
-        <source>This client is too old for the server. Upgrade the client, then try again.</source>
-        <translation>Deze client is te oud voor de server. Werk de client bij en probeer het opnieuw.</translation>
+        <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
+        <translation type="unfinished">Deze client is te oud voor de server. Werk de client bij en probeer het opnieuw.</translation>
     </message>
     <message>
-        <source>The server is too old for this client.</source>
-        <translation>De server is te oud voor deze client.</translation>
+        <source>Quillmere on the server is too old to work with this computer.</source>
+        <translation type="unfinished">De server is te oud voor deze client.</translation>
     </message>
     <message>
-        <source>Disabled</source>
-        <translation>Uitgeschakeld</translation>
+        <source>Turned off</source>
+        <translation type="unfinished">Uitgeschakeld</translation>
     </message>
 </context>
 </TS>

@@ -40,8 +40,8 @@
         <translation>Tilkoblingsmodus</translation>
     </message>
     <message>
-        <source>The local database is damaged. Unlink the connection, then link it again to rebuild the database.</source>
-        <translation>Den lokale databasen er skadet. Fjern tilknytningen til serveren, og opprett den på nytt for å bygge opp databasen igjen.</translation>
+        <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Den lokale databasen er skadet. Fjern tilknytningen til serveren, og opprett den på nytt for å bygge opp databasen igjen.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
@@ -56,8 +56,8 @@
         <translation>[DlgTitleFont]Klar til å fjerne [ProductName]</translation>
     </message>
     <message>
-        <source>The server has been replaced. Click here to link again.</source>
-        <translation>Serveren er byttet ut. Klikk her for å opprette tilknytningen på nytt.</translation>
+        <source>The server has been replaced. Click here to reconnect.</source>
+        <translation type="unfinished">Serveren er byttet ut. Klikk her for å opprette tilknytningen på nytt.</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -68,16 +68,16 @@
         <translation>Med installasjonsveiviseren kan du endre, reparere eller fjerne [ProductName]. Klikk på «Neste» for å fortsette, eller klikk på «Avbryt» for å avslutte installasjonsveiviseren.</translation>
     </message>
     <message>
-        <source>Block list</source>
-        <translation>Unntaksliste</translation>
+        <source>Exclusion list</source>
+        <translation type="unfinished">Unntaksliste</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
         <translation>Vil du slette denne delingslenken?\nPersoner som har lenken, vil ikke lenger kunne åpne filen.</translation>
     </message>
     <message>
-        <source>This client is too old for the server.</source>
-        <translation>Denne klienten er for gammel for serveren.</translation>
+        <source>Quillmere on this computer is too old to work with the server.</source>
+        <translation type="unfinished">Denne klienten er for gammel for serveren.</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
@@ -96,16 +96,16 @@
         <translation>Tester tilkoblingen…</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server is not trusted, so others may be able to read the data you send. Do you want to continue?</source>
-        <translation>SSL-sertifikatet til serveren er ikke klarert, så andre kan kanskje lese dataene du sender. Vil du fortsette?</translation>
+        <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
+        <translation type="unfinished">SSL-sertifikatet til serveren er ikke klarert, så andre kan kanskje lese dataene du sender. Vil du fortsette?</translation>
     </message>
     <message>
         <source>New shared folder</source>
         <translation>Ny delt mappe</translation>
     </message>
     <message>
-        <source>About</source>
-        <translation>Om</translation>
+        <source>About Quillmere</source>
+        <translation type="unfinished">Om</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
@@ -120,8 +120,8 @@
         <translation>Installasjonsveiviseren er klar til å starte fjerningen.</translation>
     </message>
     <message>
-        <source>This computer is already linked to this server. Edit the existing connection or enter a different server.</source>
-        <translation>Denne datamaskinen er allerede knyttet til denne serveren. Rediger den eksisterende tilkoblingen, eller angi en annen server.</translation>
+        <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
+        <translation type="unfinished">Denne datamaskinen er allerede knyttet til denne serveren. Rediger den eksisterende tilkoblingen, eller angi en annen server.</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -132,12 +132,12 @@
         <translation>Tilkoblingen til serveren ble brutt. Kontroller nettverkstilkoblingen, og prøv på nytt.</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified.</source>
-        <translation>SSL-sertifikatet til serveren kunne ikke verifiseres.</translation>
+        <source>The certificate of the server could not be verified.</source>
+        <translation type="unfinished">SSL-sertifikatet til serveren kunne ikke verifiseres.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
-        <translation>Bruk svart-hvitt ikon i systemstatusfeltet</translation>
+        <source>Use a black-and-white tray icon</source>
+        <translation type="unfinished">Bruk svart-hvitt ikon i systemstatusfeltet</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -152,20 +152,20 @@
         <translation>Synkroniseringsoppgaver</translation>
     </message>
     <message>
-        <source>Blocked files</source>
-        <translation>Unntatte filer</translation>
+        <source>Excluded files</source>
+        <translation type="unfinished">Unntatte filer</translation>
     </message>
     <message>
         <source>No permission</source>
         <translation>Ingen tillatelse</translation>
     </message>
     <message>
-        <source>The server is too old for this client. Ask the server administrator to upgrade it.</source>
-        <translation>Serveren er for gammel for denne klienten. Be serveradministratoren om å oppgradere den.</translation>
+        <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
+        <translation type="unfinished">Serveren er for gammel for denne klienten. Be serveradministratoren om å oppgradere den.</translation>
     </message>
     <message>
-        <source>To try again, run setup again later. Click Finish to exit the Setup Wizard.</source>
-        <translation>Kjør installasjonsprogrammet på nytt senere for å prøve igjen. Klikk på «Fullfør» for å avslutte installasjonsveiviseren.</translation>
+        <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
+        <translation type="unfinished">Kjør installasjonsprogrammet på nytt senere for å prøve igjen. Klikk på «Fullfør» for å avslutte installasjonsveiviseren.</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -180,8 +180,8 @@
         <translation>Klikk på «Reparer» for å reparere installasjonen av [ProductName]. Klikk på «Tilbake» for å se gjennom valgene dine, eller klikk på «Avbryt» for å avslutte installasjonsveiviseren.</translation>
     </message>
     <message>
-        <source>Some settings have not been saved. Do you want to save them?</source>
-        <translation>Noen innstillinger er ikke lagret. Vil du lagre dem?</translation>
+        <source>Some settings have not been saved. Save them?</source>
+        <translation type="unfinished">Noen innstillinger er ikke lagret. Vil du lagre dem?</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -192,8 +192,8 @@
         <translation>Handling</translation>
     </message>
     <message>
-        <source>This folder is already used by another sync program. Choose a different folder to avoid conflicts.</source>
-        <translation>Denne mappen brukes allerede av et annet synkroniseringsprogram. Velg en annen mappe for å unngå konflikter.</translation>
+        <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
+        <translation type="unfinished">Denne mappen brukes allerede av et annet synkroniseringsprogram. Velg en annen mappe for å unngå konflikter.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -204,16 +204,16 @@
         <translation>Inkompatibel versjon</translation>
     </message>
     <message>
-        <source>Change the sync folder</source>
-        <translation>Bytt synkroniseringsmappe</translation>
+        <source>Change sync folder</source>
+        <translation type="unfinished">Bytt synkroniseringsmappe</translation>
     </message>
     <message>
-        <source>Enter a complete file name without a folder path.</source>
-        <translation>Skriv inn et fullstendig filnavn uten mappebane.</translation>
+        <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
+        <translation type="unfinished">Skriv inn et fullstendig filnavn uten mappebane.</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]An error stopped setup, and its changes were undone.</source>
-        <translation>[DlgTitleFont]En feil stoppet installasjonsprogrammet, og endringene er tilbakeført.</translation>
+        <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
+        <translation type="unfinished">[DlgTitleFont]En feil stoppet installasjonsprogrammet, og endringene er tilbakeført.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -240,8 +240,8 @@
         <translation>Navn</translation>
     </message>
     <message>
-        <source>Encrypt data transfer with SSL</source>
-        <translation>Krypter dataoverføring med SSL</translation>
+        <source>Use an encrypted connection (TLS)</source>
+        <translation type="unfinished">Krypter dataoverføring med SSL</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -276,8 +276,8 @@
         <translation>Denne filen har ingen tidligere versjoner ennå. Endre filen, og la den bli synkronisert for å opprette en.</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>Fjern tilknytning</translation>
+        <source>Disconnect</source>
+        <translation type="unfinished">Fjern tilknytning</translation>
     </message>
     <message>
         <source>Back</source>
@@ -316,8 +316,8 @@
         <translation>Tar i bruk innstillingene…</translation>
     </message>
     <message>
-        <source>Files that are not synced</source>
-        <translation>Filer som ikke synkroniseres</translation>
+        <source>Files excluded from syncing</source>
+        <translation type="unfinished">Filer som ikke synkroniseres</translation>
     </message>
     <message>
         <source>Created</source>
@@ -332,8 +332,8 @@
         <translation>Internett</translation>
     </message>
     <message>
-        <source>Choose the shared folders to sync</source>
-        <translation>Velg de delte mappene som skal synkroniseres</translation>
+        <source>Choose shared folders to sync</source>
+        <translation type="unfinished">Velg de delte mappene som skal synkroniseres</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -360,8 +360,8 @@
         <translation>Reparerer feil i installasjonen av [ProductName] ved å gjenopprette manglende eller skadede filer og snarveier.</translation>
     </message>
     <message>
-        <source>Blocked file extensions</source>
-        <translation>Unntatte filendelser</translation>
+        <source>Excluded file extensions</source>
+        <translation type="unfinished">Unntatte filendelser</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -376,16 +376,16 @@
         <translation>Passord</translation>
     </message>
     <message>
-        <source>The volume that holds the sync folder is not mounted. Mount the volume, then resume syncing.</source>
-        <translation>Volumet med synkroniseringsmappen er ikke montert. Monter volumet, og gjenoppta deretter synkroniseringen.</translation>
+        <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
+        <translation type="unfinished">Volumet med synkroniseringsmappen er ikke montert. Monter volumet, og gjenoppta deretter synkroniseringen.</translation>
     </message>
     <message>
         <source>Edit</source>
         <translation>Rediger</translation>
     </message>
     <message>
-        <source>This computer has no free disk space.</source>
-        <translation>Denne datamaskinen har ingen ledig diskplass.</translation>
+        <source>The drive that holds the sync folder is full.</source>
+        <translation type="unfinished">Denne datamaskinen har ingen ledig diskplass.</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -400,8 +400,8 @@
         <translation>&amp;Ignorer</translation>
     </message>
     <message>
-        <source>A folder with this name already exists. Do you want to merge its files with those on the server?</source>
-        <translation>Det finnes allerede en mappe med dette navnet. Vil du flette filene i den med filene på serveren?</translation>
+        <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
+        <translation type="unfinished">Det finnes allerede en mappe med dette navnet. Vil du flette filene i den med filene på serveren?</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
@@ -448,12 +448,12 @@
         <translation>Ferdig</translation>
     </message>
     <message>
-        <source>Syncing %1 files...</source>
-        <translation>Synkroniserer filer (%1)…</translation>
+        <source>Files being synced: %1</source>
+        <translation type="unfinished">Synkroniserer filer (%1)…</translation>
     </message>
     <message>
-        <source>Link again</source>
-        <translation>Opprett tilknytningen på nytt</translation>
+        <source>Reconnect</source>
+        <translation type="unfinished">Opprett tilknytningen på nytt</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -472,8 +472,8 @@
         <translation>Systemstandard</translation>
     </message>
     <message>
-        <source>The folders and files you cleared will be removed from this computer. They will be kept on the server.</source>
-        <translation>Mappene og filene du fjernet avmerkingen for, blir fjernet fra denne datamaskinen. De beholdes på serveren.</translation>
+        <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
+        <translation type="unfinished">Mappene og filene du fjernet avmerkingen for, blir fjernet fra denne datamaskinen. De beholdes på serveren.</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
@@ -488,28 +488,28 @@
         <translation>Ingen plass igjen</translation>
     </message>
     <message>
-        <source>Inactive</source>
-        <translation>Inaktiv</translation>
+        <source>Disconnected</source>
+        <translation type="unfinished">Inaktiv</translation>
     </message>
     <message>
-        <source>Your quota on the server is full.</source>
-        <translation>Kvoten din på serveren er brukt opp.</translation>
+        <source>You have used all of your space on the server.</source>
+        <translation type="unfinished">Kvoten din på serveren er brukt opp.</translation>
     </message>
     <message>
-        <source>Unlink this connection?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>Vil du fjerne tilknytningen for denne tilkoblingen?\nFilene dine beholdes på denne datamaskinen og på serveren, men de blir ikke lenger synkronisert.</translation>
+        <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">Vil du fjerne tilknytningen for denne tilkoblingen?\nFilene dine beholdes på denne datamaskinen og på serveren, men de blir ikke lenger synkronisert.</translation>
     </message>
     <message>
-        <source>The relay service has a problem. Try again later, or connect with the IP address of the server.</source>
-        <translation>Det er et problem med relétjenesten. Prøv igjen senere, eller koble til med IP-adressen til serveren.</translation>
+        <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
+        <translation type="unfinished">Det er et problem med relétjenesten. Prøv igjen senere, eller koble til med IP-adressen til serveren.</translation>
     </message>
     <message>
         <source>Server ID</source>
         <translation>Server-ID</translation>
     </message>
     <message>
-        <source>Blocked file names</source>
-        <translation>Unntatte filnavn</translation>
+        <source>Excluded file names</source>
+        <translation type="unfinished">Unntatte filnavn</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -520,20 +520,20 @@
         <translation>Fortsett</translation>
     </message>
     <message>
-        <source>Enabled</source>
-        <translation>Aktivert</translation>
+        <source>Turned on</source>
+        <translation type="unfinished">Aktivert</translation>
     </message>
     <message>
-        <source>This computer has no free disk space. Free some space to continue syncing.</source>
-        <translation>Denne datamaskinen har ingen ledig diskplass. Frigjør plass for å fortsette synkroniseringen.</translation>
+        <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
+        <translation type="unfinished">Denne datamaskinen har ingen ledig diskplass. Frigjør plass for å fortsette synkroniseringen.</translation>
     </message>
     <message>
         <source>Folders to sync</source>
         <translation>Mapper som skal synkroniseres</translation>
     </message>
     <message>
-        <source>Choose a sync folder</source>
-        <translation>Velg en synkroniseringsmappe</translation>
+        <source>Choose sync folder</source>
+        <translation type="unfinished">Velg en synkroniseringsmappe</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -548,8 +548,8 @@
         <translation>Datamaskin</translation>
     </message>
     <message>
-        <source>Your quota on the server is full. Delete files you do not need, or ask the server administrator for a larger quota.</source>
-        <translation>Kvoten din på serveren er brukt opp. Slett filer du ikke trenger, eller be serveradministratoren om en større kvote.</translation>
+        <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
+        <translation type="unfinished">Kvoten din på serveren er brukt opp. Slett filer du ikke trenger, eller be serveradministratoren om en større kvote.</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
@@ -564,12 +564,12 @@
         <translation>Bruk følgende proxyserver</translation>
     </message>
     <message>
-        <source>This file was changed in two places. Compare both copies, then keep the one you need.</source>
-        <translation>Denne filen ble endret to steder. Sammenlign de to kopiene, og behold den du trenger.</translation>
+        <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
+        <translation type="unfinished">Denne filen ble endret to steder. Sammenlign de to kopiene, og behold den du trenger.</translation>
     </message>
     <message>
-        <source>One place for your files on every computer, through a server of your own</source>
-        <translation>Ett sted for filene dine på alle datamaskiner, via din egen server</translation>
+        <source>All your files on every computer, kept on your own server</source>
+        <translation type="unfinished">Ett sted for filene dine på alle datamaskiner, via din egen server</translation>
     </message>
     <message>
         <source>OK</source>
@@ -580,8 +580,8 @@
         <translation>Vis skrivebordsvarsler</translation>
     </message>
     <message>
-        <source>The following applications use files that setup needs to update. Close them and click Retry, click Ignore to continue without closing them, or click Exit to leave setup.</source>
-        <translation>Følgende programmer bruker filer som installasjonsprogrammet må oppdatere. Lukk dem, og klikk på «Prøv på nytt». Klikk på «Ignorer» for å fortsette uten å lukke dem, eller klikk på «Avslutt» for å forlate installasjonsprogrammet.</translation>
+        <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
+        <translation type="unfinished">Følgende programmer bruker filer som installasjonsprogrammet må oppdatere. Lukk dem, og klikk på «Prøv på nytt». Klikk på «Ignorer» for å fortsette uten å lukke dem, eller klikk på «Avslutt» for å forlate installasjonsprogrammet.</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -596,12 +596,12 @@
         <translation>Filer som samsvarer med en oppføring i denne listen, synkroniseres ikke.</translation>
     </message>
     <message>
-        <source>Edit connection</source>
-        <translation>Rediger tilkobling</translation>
+        <source>Edit connection...</source>
+        <translation type="unfinished">Rediger tilkobling</translation>
     </message>
     <message>
-        <source>Options</source>
-        <translation>Alternativer</translation>
+        <source>Settings</source>
+        <translation>Innstillinger</translation>
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
@@ -624,36 +624,32 @@
         <translation>Sett på pause</translation>
     </message>
     <message>
-        <source>Show icon overlays on filtered files</source>
-        <translation>Vis ikonoverlegg på bortfiltrerte filer</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Innstillinger</translation>
+        <source>Show icon overlays on excluded files</source>
+        <translation type="unfinished">Vis ikonoverlegg på bortfiltrerte filer</translation>
     </message>
     <message>
         <source>Loading...</source>
         <translation>Laster inn…</translation>
     </message>
     <message>
-        <source>You can sync at most %1 shared folders. Stop syncing one of them before you add another.</source>
-        <translation>Antallet delte mapper du kan synkronisere, er begrenset til %1. Stopp synkroniseringen av en av dem før du legger til en ny.</translation>
+        <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
+        <translation type="unfinished">Antallet delte mapper du kan synkronisere, er begrenset til %1. Stopp synkroniseringen av en av dem før du legger til en ny.</translation>
     </message>
     <message>
-        <source>Unlink this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>Vil du fjerne tilknytningen for denne synkroniseringsoppgaven?\nFilene i den beholdes på denne datamaskinen og på serveren, men de blir ikke lenger synkronisert.</translation>
+        <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">Vil du fjerne tilknytningen for denne synkroniseringsoppgaven?\nFilene i den beholdes på denne datamaskinen og på serveren, men de blir ikke lenger synkronisert.</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
         <translation>Starter Quillmere…</translation>
     </message>
     <message>
-        <source>Quillmere could not be upgraded. Restart the computer, then try again.</source>
-        <translation>Quillmere kunne ikke oppgraderes. Start datamaskinen på nytt, og prøv igjen.</translation>
+        <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Quillmere kunne ikke oppgraderes. Start datamaskinen på nytt, og prøv igjen.</translation>
     </message>
     <message>
-        <source>Block names that begin with a dot</source>
-        <translation>Unnta navn som begynner med punktum</translation>
+        <source>Exclude names that begin with a dot</source>
+        <translation type="unfinished">Unnta navn som begynner med punktum</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -676,8 +672,8 @@
         <translation>Koblet til serveren.</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}The [ProductName] Setup Wizard is complete</source>
-        <translation>{\VerdanaBold13}Installasjonsveiviseren for [ProductName] er ferdig</translation>
+        <source>{\VerdanaBold13}[ProductName] setup is complete</source>
+        <translation type="unfinished">{\VerdanaBold13}Installasjonsveiviseren for [ProductName] er ferdig</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -712,20 +708,20 @@
         <translation>Delt mappe</translation>
     </message>
     <message>
-        <source>Client options</source>
-        <translation>Klientalternativer</translation>
+        <source>Quillmere settings</source>
+        <translation type="unfinished">Klientalternativer</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
         <translation>Delingslenken kunne ikke slettes. Kontroller tilkoblingen til serveren, og prøv på nytt.</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified. Ask the server administrator to check the certificate.</source>
-        <translation>SSL-sertifikatet til serveren kunne ikke verifiseres. Be serveradministratoren om å kontrollere sertifikatet.</translation>
+        <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
+        <translation type="unfinished">SSL-sertifikatet til serveren kunne ikke verifiseres. Be serveradministratoren om å kontrollere sertifikatet.</translation>
     </message>
     <message>
-        <source>This is not the server the connection was linked to. Check the server address, or link again.</source>
-        <translation>Dette er ikke serveren som tilkoblingen ble knyttet til. Kontroller serveradressen, eller opprett tilknytningen på nytt.</translation>
+        <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
+        <translation type="unfinished">Dette er ikke serveren som tilkoblingen ble knyttet til. Kontroller serveradressen, eller opprett tilknytningen på nytt.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -764,16 +760,16 @@
         <translation>Administrer tilkoblinger</translation>
     </message>
     <message>
-        <source>Link to another server</source>
-        <translation>Knytt til en annen server</translation>
+        <source>Connect to another server...</source>
+        <translation type="unfinished">Knytt til en annen server</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
         <translation>Vis ikonoverlegg</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]Setting up [ProductName]</source>
-        <translation>[DlgTitleFont]Installasjonsprogrammet for [ProductName] arbeider</translation>
+        <source>[DlgTitleFont]Making changes to [ProductName]</source>
+        <translation type="unfinished">[DlgTitleFont]Installasjonsprogrammet for [ProductName] arbeider</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -792,8 +788,8 @@
         <translation>&amp;Installer</translation>
     </message>
     <message>
-        <source>File filter</source>
-        <translation>Filfilter</translation>
+        <source>Files to exclude</source>
+        <translation type="unfinished">Filfilter</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -804,8 +800,8 @@
         <translation>Jeg godtar &amp;ikke vilkårene i lisensavtalen</translation>
     </message>
     <message>
-        <source>Something went wrong. Try again, and contact the server administrator if the problem continues.</source>
-        <translation>Noe gikk galt. Prøv på nytt, og kontakt serveradministratoren hvis problemet vedvarer.</translation>
+        <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Noe gikk galt. Prøv på nytt, og kontakt serveradministratoren hvis problemet vedvarer.</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -828,8 +824,8 @@
         <translation>Proxyinnstillinger</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator, so Quillmere might not install completely. Do you want to continue?</source>
-        <translation>Du er ikke pålogget som administrator, så Quillmere blir kanskje ikke fullstendig installert. Vil du fortsette?</translation>
+        <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
+        <translation type="unfinished">Du er ikke pålogget som administrator, så Quillmere blir kanskje ikke fullstendig installert. Vil du fortsette?</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
@@ -876,8 +872,8 @@
         <translation>Mappen er et monteringspunkt</translation>
     </message>
     <message>
-        <source>Choose another folder</source>
-        <translation>Velg en annen mappe</translation>
+        <source>Choose another folder...</source>
+        <translation type="unfinished">Velg en annen mappe</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -900,12 +896,16 @@
         <translation>Skriv inn serveradressen og kontoen du bruker på serveren.</translation>
     </message>
     <message>
-        <source>A different server was found at the server address.</source>
-        <translation>En annen server ble funnet på serveradressen.</translation>
+        <source>Remove</source>
+        <translation type="unfinished">Fjern tilknytning</translation>
     </message>
     <message>
-        <source>Linking to the server...</source>
-        <translation>Knytter til serveren…</translation>
+        <source>Another server was found at the server address.</source>
+        <translation type="unfinished">En annen server ble funnet på serveradressen.</translation>
+    </message>
+    <message>
+        <source>Connecting to the server...</source>
+        <translation type="unfinished">Knytter til serveren…</translation>
     </message>
     <message>
         <source>Port</source>
@@ -928,8 +928,8 @@
         <translation>Bruk proxyinnstillingene for systemet</translation>
     </message>
     <message>
-        <source>Change folder</source>
-        <translation>Bytt mappe</translation>
+        <source>Change folder...</source>
+        <translation type="unfinished">Bytt mappe</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -944,8 +944,8 @@
         <translation>Laster ned…</translation>
     </message>
     <message>
-        <source>The file is locked</source>
-        <translation>Filen er låst</translation>
+        <source>File locked</source>
+        <translation type="unfinished">Filen er låst</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -956,8 +956,8 @@
         <translation>Forbereder…</translation>
     </message>
     <message>
-        <source>Updating files...</source>
-        <translation>Oppdaterer filer…</translation>
+        <source>Syncing files...</source>
+        <translation type="unfinished">Oppdaterer filer…</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -968,8 +968,8 @@
         <translation>Kontrollerer brukernavn og passord…</translation>
     </message>
     <message>
-        <source>Wait while the Setup Wizard sets up [ProductName]. This can take several minutes.</source>
-        <translation>Vent mens installasjonsveiviseren arbeider med [ProductName]. Dette kan ta flere minutter.</translation>
+        <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
+        <translation type="unfinished">Vent mens installasjonsveiviseren arbeider med [ProductName]. Dette kan ta flere minutter.</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1020,24 +1020,24 @@
         <translation>Delingslenken ble kopiert til utklippstavlen.</translation>
     </message>
     <message>
-        <source>The local sync folder was not found. Restore the folder or choose a different one.</source>
-        <translation>Den lokale synkroniseringsmappen ble ikke funnet. Gjenopprett mappen, eller velg en annen.</translation>
+        <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
+        <translation type="unfinished">Den lokale synkroniseringsmappen ble ikke funnet. Gjenopprett mappen, eller velg en annen.</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
         <translation>Oppgrader Quillmere</translation>
     </message>
     <message>
-        <source>Add sync task</source>
-        <translation>Legg til synkroniseringsoppgave</translation>
+        <source>Add sync task...</source>
+        <translation type="unfinished">Legg til synkroniseringsoppgave</translation>
     </message>
     <message>
-        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it.</source>
-        <translation>Den delte mappen er ikke montert på serveren. Be serveradministratoren om å montere den.</translation>
+        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
+        <translation type="unfinished">Den delte mappen er ikke montert på serveren. Be serveradministratoren om å montere den.</translation>
     </message>
     <message>
-        <source>The server sent an unexpected response. Upgrade the client and the server, then try again.</source>
-        <translation>Serveren sendte et uventet svar. Oppgrader klienten og serveren, og prøv på nytt.</translation>
+        <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Serveren sendte et uventet svar. Oppgrader klienten og serveren, og prøv på nytt.</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1052,8 +1052,8 @@
         <translation>Skriv inn en størrelse på høyst %1&#xa0;MB.</translation>
     </message>
     <message>
-        <source>Checking the data...</source>
-        <translation>Kontrollerer dataene…</translation>
+        <source>Checking files...</source>
+        <translation type="unfinished">Kontrollerer dataene…</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
@@ -1064,8 +1064,8 @@
         <translation>Klikk på «Installer» for å starte installasjonen av [ProductName]. Klikk på «Tilbake» for å se gjennom valgene dine, eller klikk på «Avbryt» for å avslutte installasjonsveiviseren.</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}[ProductName] setup was interrupted</source>
-        <translation>{\VerdanaBold13}Installasjonsprogrammet for [ProductName] ble avbrutt</translation>
+        <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
+        <translation type="unfinished">{\VerdanaBold13}Installasjonsprogrammet for [ProductName] ble avbrutt</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1092,8 +1092,8 @@
         <translation>Nettverksinnstillinger</translation>
     </message>
     <message>
-        <source>This folder is already synced with another shared folder. Choose a different folder.</source>
-        <translation>Denne mappen synkroniseres allerede med en annen delt mappe. Velg en annen mappe.</translation>
+        <source>This folder is already synced with another shared folder. Choose another folder.</source>
+        <translation type="unfinished">Denne mappen synkroniseres allerede med en annen delt mappe. Velg en annen mappe.</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1132,24 +1132,24 @@
         <translation>Start Quillmere når jeg logger på denne datamaskinen</translation>
     </message>
     <message>
-        <source>All files from both folders are kept. If two versions of a file differ, you get both.</source>
-        <translation>Alle filene fra begge mappene beholdes. Hvis to versjoner av en fil er forskjellige, får du begge.</translation>
+        <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
+        <translation type="unfinished">Alle filene fra begge mappene beholdes. Hvis to versjoner av en fil er forskjellige, får du begge.</translation>
     </message>
     <message>
         <source>Repair the installation</source>
         <translation>Reparer installasjonen</translation>
     </message>
     <message>
-        <source>Sync enabled</source>
-        <translation>Synkronisering aktivert</translation>
+        <source>Syncing turned on</source>
+        <translation type="unfinished">Synkronisering aktivert</translation>
     </message>
     <message>
-        <source>Quillmere could not start. Restart the computer, then start Quillmere again.</source>
-        <translation>Quillmere kunne ikke starte. Start datamaskinen på nytt, og start deretter Quillmere igjen.</translation>
+        <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Quillmere kunne ikke starte. Start datamaskinen på nytt, og start deretter Quillmere igjen.</translation>
     </message>
     <message>
-        <source>Do you want to cancel the setup of [ProductName]?</source>
-        <translation>Vil du avbryte installasjonsprogrammet for [ProductName]?</translation>
+        <source>Cancel the setup of [ProductName]?</source>
+        <translation type="unfinished">Vil du avbryte installasjonsprogrammet for [ProductName]?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1172,28 +1172,28 @@
         <translation>Avanserte innstillinger</translation>
     </message>
     <message>
-        <source>Browse versions</source>
-        <translation>Bla gjennom versjoner</translation>
+        <source>Browse versions...</source>
+        <translation type="unfinished">Bla gjennom versjoner</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
         <translation>[DlgTitleFont]&amp;Endre</translation>
     </message>
     <message>
-        <source>This connection is inactive. Link it again to continue syncing.</source>
-        <translation>Denne tilkoblingen er inaktiv. Opprett tilknytningen på nytt for å fortsette synkroniseringen.</translation>
+        <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
+        <translation type="unfinished">Denne tilkoblingen er inaktiv. Opprett tilknytningen på nytt for å fortsette synkroniseringen.</translation>
     </message>
     <message>
         <source>Detecting...</source>
         <translation>Undersøker…</translation>
     </message>
     <message>
-        <source>SSL warning</source>
-        <translation>SSL-advarsel</translation>
+        <source>Certificate warning</source>
+        <translation type="unfinished">SSL-advarsel</translation>
     </message>
     <message>
-        <source>The relay service cannot be reached. Check your Internet connection, then try again.</source>
-        <translation>Relétjenesten kan ikke nås. Kontroller internettilkoblingen, og prøv på nytt.</translation>
+        <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
+        <translation type="unfinished">Relétjenesten kan ikke nås. Kontroller internettilkoblingen, og prøv på nytt.</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
@@ -1232,24 +1232,24 @@
         <translation>Direkte tilkobling</translation>
     </message>
     <message>
-        <source>The server volume that holds this folder is not mounted. Ask the server administrator to mount it.</source>
-        <translation>Servervolumet som inneholder denne mappen, er ikke montert. Be serveradministratoren om å montere det.</translation>
+        <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
+        <translation type="unfinished">Servervolumet som inneholder denne mappen, er ikke montert. Be serveradministratoren om å montere det.</translation>
     </message>
     <message>
-        <source>This version of Quillmere is already installed. Do you want to install it again?</source>
-        <translation>Denne versjonen av Quillmere er allerede installert. Vil du installere den på nytt?</translation>
+        <source>This version of Quillmere is already installed. Install it again?</source>
+        <translation type="unfinished">Denne versjonen av Quillmere er allerede installert. Vil du installere den på nytt?</translation>
     </message>
     <message>
-        <source>This client is too old for the server. Upgrade the client, then try again.</source>
-        <translation>Denne klienten er for gammel for serveren. Oppgrader klienten, og prøv på nytt.</translation>
+        <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
+        <translation type="unfinished">Denne klienten er for gammel for serveren. Oppgrader klienten, og prøv på nytt.</translation>
     </message>
     <message>
-        <source>The server is too old for this client.</source>
-        <translation>Serveren er for gammel for denne klienten.</translation>
+        <source>Quillmere on the server is too old to work with this computer.</source>
+        <translation type="unfinished">Serveren er for gammel for denne klienten.</translation>
     </message>
     <message>
-        <source>Disabled</source>
-        <translation>Deaktivert</translation>
+        <source>Turned off</source>
+        <translation type="unfinished">Deaktivert</translation>
     </message>
 </context>
 </TS>

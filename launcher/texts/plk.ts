@@ -40,8 +40,8 @@
         <translation>Tryb połączenia</translation>
     </message>
     <message>
-        <source>The local database is damaged. Unlink the connection, then link it again to rebuild the database.</source>
-        <translation>Lokalna baza danych jest uszkodzona. Usuń powiązanie tego połączenia, a następnie powiąż je ponownie, aby odbudować bazę danych.</translation>
+        <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Lokalna baza danych jest uszkodzona. Usuń powiązanie tego połączenia, a następnie powiąż je ponownie, aby odbudować bazę danych.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
@@ -56,8 +56,8 @@
         <translation>[DlgTitleFont]Wszystko gotowe do usunięcia programu [ProductName]</translation>
     </message>
     <message>
-        <source>The server has been replaced. Click here to link again.</source>
-        <translation>Serwer został zastąpiony innym. Kliknij tutaj, aby utworzyć powiązanie ponownie.</translation>
+        <source>The server has been replaced. Click here to reconnect.</source>
+        <translation type="unfinished">Serwer został zastąpiony innym. Kliknij tutaj, aby utworzyć powiązanie ponownie.</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -68,16 +68,16 @@
         <translation>Kreator instalacji umożliwia zmianę, naprawę lub usunięcie programu [ProductName]. Kliknij przycisk „Dalej”, aby kontynuować, lub przycisk „Anuluj”, aby zamknąć kreator instalacji.</translation>
     </message>
     <message>
-        <source>Block list</source>
-        <translation>Lista wykluczeń</translation>
+        <source>Exclusion list</source>
+        <translation type="unfinished">Lista wykluczeń</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
         <translation>Czy usunąć ten link udostępniania?\nOsoby, które mają ten link, nie będą już mogły otworzyć pliku.</translation>
     </message>
     <message>
-        <source>This client is too old for the server.</source>
-        <translation>Wersja tego klienta jest za stara dla serwera.</translation>
+        <source>Quillmere on this computer is too old to work with the server.</source>
+        <translation type="unfinished">Wersja tego klienta jest za stara dla serwera.</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
@@ -96,16 +96,16 @@
         <translation>Testowanie połączenia…</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server is not trusted, so others may be able to read the data you send. Do you want to continue?</source>
-        <translation>Certyfikat SSL serwera nie jest zaufany, więc wysyłane dane mogą zostać odczytane przez inne osoby. Czy chcesz kontynuować?</translation>
+        <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
+        <translation type="unfinished">Certyfikat SSL serwera nie jest zaufany, więc wysyłane dane mogą zostać odczytane przez inne osoby. Czy chcesz kontynuować?</translation>
     </message>
     <message>
         <source>New shared folder</source>
         <translation>Nowy folder udostępniony</translation>
     </message>
     <message>
-        <source>About</source>
-        <translation>O programie</translation>
+        <source>About Quillmere</source>
+        <translation type="unfinished">O programie</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
@@ -120,8 +120,8 @@
         <translation>Kreator instalacji jest gotowy do rozpoczęcia usuwania.</translation>
     </message>
     <message>
-        <source>This computer is already linked to this server. Edit the existing connection or enter a different server.</source>
-        <translation>Ten komputer jest już powiązany z tym serwerem. Edytuj istniejące połączenie lub podaj inny serwer.</translation>
+        <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
+        <translation type="unfinished">Ten komputer jest już powiązany z tym serwerem. Edytuj istniejące połączenie lub podaj inny serwer.</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -132,12 +132,12 @@
         <translation>Połączenie z serwerem zostało utracone. Sprawdź połączenie sieciowe, a następnie spróbuj ponownie.</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified.</source>
-        <translation>Nie udało się zweryfikować certyfikatu SSL serwera.</translation>
+        <source>The certificate of the server could not be verified.</source>
+        <translation type="unfinished">Nie udało się zweryfikować certyfikatu SSL serwera.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
-        <translation>Używaj czarno-białej ikony w zasobniku systemowym</translation>
+        <source>Use a black-and-white tray icon</source>
+        <translation type="unfinished">Używaj czarno-białej ikony w zasobniku systemowym</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -152,20 +152,20 @@
         <translation>Zadania synchronizacji</translation>
     </message>
     <message>
-        <source>Blocked files</source>
-        <translation>Wykluczone pliki</translation>
+        <source>Excluded files</source>
+        <translation type="unfinished">Wykluczone pliki</translation>
     </message>
     <message>
         <source>No permission</source>
         <translation>Brak uprawnień</translation>
     </message>
     <message>
-        <source>The server is too old for this client. Ask the server administrator to upgrade it.</source>
-        <translation>Wersja serwera jest za stara dla tego klienta. Poproś administratora o uaktualnienie serwera.</translation>
+        <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
+        <translation type="unfinished">Wersja serwera jest za stara dla tego klienta. Poproś administratora o uaktualnienie serwera.</translation>
     </message>
     <message>
-        <source>To try again, run setup again later. Click Finish to exit the Setup Wizard.</source>
-        <translation>Aby spróbować ponownie, uruchom instalator później. Kliknij przycisk „Zakończ”, aby zamknąć kreator instalacji.</translation>
+        <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
+        <translation type="unfinished">Aby spróbować ponownie, uruchom instalator później. Kliknij przycisk „Zakończ”, aby zamknąć kreator instalacji.</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -180,8 +180,8 @@
         <translation>Kliknij przycisk „Napraw”, aby naprawić instalację programu [ProductName]. Kliknij przycisk „Wstecz”, aby przejrzeć wybrane opcje, lub przycisk „Anuluj”, aby zamknąć kreator instalacji.</translation>
     </message>
     <message>
-        <source>Some settings have not been saved. Do you want to save them?</source>
-        <translation>Niektóre ustawienia nie zostały zapisane. Czy chcesz je zapisać?</translation>
+        <source>Some settings have not been saved. Save them?</source>
+        <translation type="unfinished">Niektóre ustawienia nie zostały zapisane. Czy chcesz je zapisać?</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -192,8 +192,8 @@
         <translation>Działanie</translation>
     </message>
     <message>
-        <source>This folder is already used by another sync program. Choose a different folder to avoid conflicts.</source>
-        <translation>Ten folder jest już używany przez inny program do synchronizacji. Wybierz inny folder, aby uniknąć konfliktów.</translation>
+        <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
+        <translation type="unfinished">Ten folder jest już używany przez inny program do synchronizacji. Wybierz inny folder, aby uniknąć konfliktów.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -204,16 +204,16 @@
         <translation>Niezgodna wersja</translation>
     </message>
     <message>
-        <source>Change the sync folder</source>
-        <translation>Zmiana folderu synchronizacji</translation>
+        <source>Change sync folder</source>
+        <translation type="unfinished">Zmiana folderu synchronizacji</translation>
     </message>
     <message>
-        <source>Enter a complete file name without a folder path.</source>
-        <translation>Wpisz pełną nazwę pliku bez ścieżki do folderu.</translation>
+        <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
+        <translation type="unfinished">Wpisz pełną nazwę pliku bez ścieżki do folderu.</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]An error stopped setup, and its changes were undone.</source>
-        <translation>[DlgTitleFont]Instalacja została przerwana przez błąd, a wprowadzone zmiany cofnięto.</translation>
+        <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
+        <translation type="unfinished">[DlgTitleFont]Instalacja została przerwana przez błąd, a wprowadzone zmiany cofnięto.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -240,8 +240,8 @@
         <translation>Nazwa</translation>
     </message>
     <message>
-        <source>Encrypt data transfer with SSL</source>
-        <translation>Szyfruj przesyłane dane za pomocą SSL</translation>
+        <source>Use an encrypted connection (TLS)</source>
+        <translation type="unfinished">Szyfruj przesyłane dane za pomocą SSL</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -276,8 +276,8 @@
         <translation>Ten plik nie ma jeszcze wcześniejszych wersji. Aby utworzyć wersję, zmień plik i poczekaj na jego synchronizację.</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>Usuń powiązanie</translation>
+        <source>Disconnect</source>
+        <translation type="unfinished">Usuń powiązanie</translation>
     </message>
     <message>
         <source>Back</source>
@@ -316,8 +316,8 @@
         <translation>Stosowanie ustawień…</translation>
     </message>
     <message>
-        <source>Files that are not synced</source>
-        <translation>Pliki, które nie są synchronizowane</translation>
+        <source>Files excluded from syncing</source>
+        <translation type="unfinished">Pliki, które nie są synchronizowane</translation>
     </message>
     <message>
         <source>Created</source>
@@ -332,8 +332,8 @@
         <translation>Internet</translation>
     </message>
     <message>
-        <source>Choose the shared folders to sync</source>
-        <translation>Wybierz foldery udostępnione do synchronizacji</translation>
+        <source>Choose shared folders to sync</source>
+        <translation type="unfinished">Wybierz foldery udostępnione do synchronizacji</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -360,8 +360,8 @@
         <translation>Naprawia błędy instalacji programu [ProductName], przywracając brakujące lub uszkodzone pliki i skróty.</translation>
     </message>
     <message>
-        <source>Blocked file extensions</source>
-        <translation>Wykluczone rozszerzenia plików</translation>
+        <source>Excluded file extensions</source>
+        <translation type="unfinished">Wykluczone rozszerzenia plików</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -376,16 +376,16 @@
         <translation>Hasło</translation>
     </message>
     <message>
-        <source>The volume that holds the sync folder is not mounted. Mount the volume, then resume syncing.</source>
-        <translation>Wolumin, na którym znajduje się folder synchronizacji, nie jest zamontowany. Zamontuj wolumin, a następnie wznów synchronizację.</translation>
+        <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
+        <translation type="unfinished">Wolumin, na którym znajduje się folder synchronizacji, nie jest zamontowany. Zamontuj wolumin, a następnie wznów synchronizację.</translation>
     </message>
     <message>
         <source>Edit</source>
         <translation>Edytuj</translation>
     </message>
     <message>
-        <source>This computer has no free disk space.</source>
-        <translation>Na tym komputerze nie ma wolnego miejsca na dysku.</translation>
+        <source>The drive that holds the sync folder is full.</source>
+        <translation type="unfinished">Na tym komputerze nie ma wolnego miejsca na dysku.</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -400,8 +400,8 @@
         <translation>&amp;Ignoruj</translation>
     </message>
     <message>
-        <source>A folder with this name already exists. Do you want to merge its files with those on the server?</source>
-        <translation>Folder o tej nazwie już istnieje. Czy chcesz scalić jego pliki z plikami na serwerze?</translation>
+        <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
+        <translation type="unfinished">Folder o tej nazwie już istnieje. Czy chcesz scalić jego pliki z plikami na serwerze?</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
@@ -448,12 +448,12 @@
         <translation>Gotowe</translation>
     </message>
     <message>
-        <source>Syncing %1 files...</source>
-        <translation>Synchronizowanie plików (%1)…</translation>
+        <source>Files being synced: %1</source>
+        <translation type="unfinished">Synchronizowanie plików (%1)…</translation>
     </message>
     <message>
-        <source>Link again</source>
-        <translation>Powiąż ponownie</translation>
+        <source>Reconnect</source>
+        <translation type="unfinished">Powiąż ponownie</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -472,8 +472,8 @@
         <translation>Domyślny język systemu</translation>
     </message>
     <message>
-        <source>The folders and files you cleared will be removed from this computer. They will be kept on the server.</source>
-        <translation>Odznaczone foldery i pliki zostaną usunięte z tego komputera. Pozostaną one na serwerze.</translation>
+        <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
+        <translation type="unfinished">Odznaczone foldery i pliki zostaną usunięte z tego komputera. Pozostaną one na serwerze.</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
@@ -488,28 +488,28 @@
         <translation>Brak wolnego miejsca</translation>
     </message>
     <message>
-        <source>Inactive</source>
-        <translation>Nieaktywne</translation>
+        <source>Disconnected</source>
+        <translation type="unfinished">Nieaktywne</translation>
     </message>
     <message>
-        <source>Your quota on the server is full.</source>
-        <translation>Twój przydział miejsca na serwerze jest wyczerpany.</translation>
+        <source>You have used all of your space on the server.</source>
+        <translation type="unfinished">Twój przydział miejsca na serwerze jest wyczerpany.</translation>
     </message>
     <message>
-        <source>Unlink this connection?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>Czy usunąć powiązanie tego połączenia?\nTwoje pliki pozostaną na tym komputerze i na serwerze, ale nie będą już synchronizowane.</translation>
+        <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">Czy usunąć powiązanie tego połączenia?\nTwoje pliki pozostaną na tym komputerze i na serwerze, ale nie będą już synchronizowane.</translation>
     </message>
     <message>
-        <source>The relay service has a problem. Try again later, or connect with the IP address of the server.</source>
-        <translation>Wystąpił problem z usługą przekazywania. Spróbuj ponownie później lub połącz się, używając adresu IP serwera.</translation>
+        <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
+        <translation type="unfinished">Wystąpił problem z usługą przekazywania. Spróbuj ponownie później lub połącz się, używając adresu IP serwera.</translation>
     </message>
     <message>
         <source>Server ID</source>
         <translation>Identyfikator serwera</translation>
     </message>
     <message>
-        <source>Blocked file names</source>
-        <translation>Wykluczone nazwy plików</translation>
+        <source>Excluded file names</source>
+        <translation type="unfinished">Wykluczone nazwy plików</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -520,20 +520,20 @@
         <translation>Kontynuuj</translation>
     </message>
     <message>
-        <source>Enabled</source>
-        <translation>Włączone</translation>
+        <source>Turned on</source>
+        <translation type="unfinished">Włączone</translation>
     </message>
     <message>
-        <source>This computer has no free disk space. Free some space to continue syncing.</source>
-        <translation>Na tym komputerze nie ma wolnego miejsca na dysku. Zwolnij miejsce, aby kontynuować synchronizację.</translation>
+        <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
+        <translation type="unfinished">Na tym komputerze nie ma wolnego miejsca na dysku. Zwolnij miejsce, aby kontynuować synchronizację.</translation>
     </message>
     <message>
         <source>Folders to sync</source>
         <translation>Foldery do synchronizacji</translation>
     </message>
     <message>
-        <source>Choose a sync folder</source>
-        <translation>Wybierz folder synchronizacji</translation>
+        <source>Choose sync folder</source>
+        <translation type="unfinished">Wybierz folder synchronizacji</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -548,8 +548,8 @@
         <translation>Komputer</translation>
     </message>
     <message>
-        <source>Your quota on the server is full. Delete files you do not need, or ask the server administrator for a larger quota.</source>
-        <translation>Twój przydział miejsca na serwerze jest wyczerpany. Usuń niepotrzebne pliki lub poproś administratora serwera o zwiększenie przydziału.</translation>
+        <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
+        <translation type="unfinished">Twój przydział miejsca na serwerze jest wyczerpany. Usuń niepotrzebne pliki lub poproś administratora serwera o zwiększenie przydziału.</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
@@ -564,12 +564,12 @@
         <translation>Używaj następującego serwera proxy</translation>
     </message>
     <message>
-        <source>This file was changed in two places. Compare both copies, then keep the one you need.</source>
-        <translation>Ten plik został zmieniony w dwóch miejscach. Porównaj obie kopie, a następnie zachowaj tę, której potrzebujesz.</translation>
+        <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
+        <translation type="unfinished">Ten plik został zmieniony w dwóch miejscach. Porównaj obie kopie, a następnie zachowaj tę, której potrzebujesz.</translation>
     </message>
     <message>
-        <source>One place for your files on every computer, through a server of your own</source>
-        <translation>Jedno miejsce na Twoje pliki na każdym komputerze – dzięki własnemu serwerowi</translation>
+        <source>All your files on every computer, kept on your own server</source>
+        <translation type="unfinished">Jedno miejsce na Twoje pliki na każdym komputerze – dzięki własnemu serwerowi</translation>
     </message>
     <message>
         <source>OK</source>
@@ -580,8 +580,8 @@
         <translation>Pokazuj powiadomienia na pulpicie</translation>
     </message>
     <message>
-        <source>The following applications use files that setup needs to update. Close them and click Retry, click Ignore to continue without closing them, or click Exit to leave setup.</source>
-        <translation>Następujące aplikacje używają plików, które instalator musi zaktualizować. Zamknij je i kliknij przycisk „Ponów próbę”, kliknij przycisk „Ignoruj”, aby kontynuować bez ich zamykania, lub przycisk „Wyjdź”, aby przerwać instalację.</translation>
+        <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
+        <translation type="unfinished">Następujące aplikacje używają plików, które instalator musi zaktualizować. Zamknij je i kliknij przycisk „Ponów próbę”, kliknij przycisk „Ignoruj”, aby kontynuować bez ich zamykania, lub przycisk „Wyjdź”, aby przerwać instalację.</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -596,12 +596,12 @@
         <translation>Pliki pasujące do wpisów na tej liście nie są synchronizowane.</translation>
     </message>
     <message>
-        <source>Edit connection</source>
-        <translation>Edytuj połączenie</translation>
+        <source>Edit connection...</source>
+        <translation type="unfinished">Edytuj połączenie</translation>
     </message>
     <message>
-        <source>Options</source>
-        <translation>Opcje</translation>
+        <source>Settings</source>
+        <translation>Ustawienia</translation>
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
@@ -624,36 +624,32 @@
         <translation>Wstrzymaj</translation>
     </message>
     <message>
-        <source>Show icon overlays on filtered files</source>
-        <translation>Pokazuj nakładki na ikonach odfiltrowanych plików</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Ustawienia</translation>
+        <source>Show icon overlays on excluded files</source>
+        <translation type="unfinished">Pokazuj nakładki na ikonach odfiltrowanych plików</translation>
     </message>
     <message>
         <source>Loading...</source>
         <translation>Wczytywanie…</translation>
     </message>
     <message>
-        <source>You can sync at most %1 shared folders. Stop syncing one of them before you add another.</source>
-        <translation>Maksymalna liczba synchronizowanych folderów udostępnionych: %1. Zanim dodasz kolejny, zatrzymaj synchronizację jednego z nich.</translation>
+        <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
+        <translation type="unfinished">Maksymalna liczba synchronizowanych folderów udostępnionych: %1. Zanim dodasz kolejny, zatrzymaj synchronizację jednego z nich.</translation>
     </message>
     <message>
-        <source>Unlink this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>Czy usunąć powiązanie tego zadania synchronizacji?\nJego pliki pozostaną na tym komputerze i na serwerze, ale nie będą już synchronizowane.</translation>
+        <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">Czy usunąć powiązanie tego zadania synchronizacji?\nJego pliki pozostaną na tym komputerze i na serwerze, ale nie będą już synchronizowane.</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
         <translation>Uruchamianie programu Quillmere…</translation>
     </message>
     <message>
-        <source>Quillmere could not be upgraded. Restart the computer, then try again.</source>
-        <translation>Nie udało się uaktualnić programu Quillmere. Uruchom ponownie komputer, a następnie spróbuj jeszcze raz.</translation>
+        <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Nie udało się uaktualnić programu Quillmere. Uruchom ponownie komputer, a następnie spróbuj jeszcze raz.</translation>
     </message>
     <message>
-        <source>Block names that begin with a dot</source>
-        <translation>Wykluczaj nazwy zaczynające się od kropki</translation>
+        <source>Exclude names that begin with a dot</source>
+        <translation type="unfinished">Wykluczaj nazwy zaczynające się od kropki</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -676,8 +672,8 @@
         <translation>Połączono z serwerem.</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}The [ProductName] Setup Wizard is complete</source>
-        <translation>{\VerdanaBold13}Kreator instalacji programu [ProductName] zakończył pracę</translation>
+        <source>{\VerdanaBold13}[ProductName] setup is complete</source>
+        <translation type="unfinished">{\VerdanaBold13}Kreator instalacji programu [ProductName] zakończył pracę</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -712,20 +708,20 @@
         <translation>Folder udostępniony</translation>
     </message>
     <message>
-        <source>Client options</source>
-        <translation>Opcje klienta</translation>
+        <source>Quillmere settings</source>
+        <translation type="unfinished">Opcje klienta</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
         <translation>Nie udało się usunąć linku udostępniania. Sprawdź połączenie z serwerem, a następnie spróbuj ponownie.</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified. Ask the server administrator to check the certificate.</source>
-        <translation>Nie udało się zweryfikować certyfikatu SSL serwera. Poproś administratora serwera o sprawdzenie certyfikatu.</translation>
+        <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
+        <translation type="unfinished">Nie udało się zweryfikować certyfikatu SSL serwera. Poproś administratora serwera o sprawdzenie certyfikatu.</translation>
     </message>
     <message>
-        <source>This is not the server the connection was linked to. Check the server address, or link again.</source>
-        <translation>To nie jest serwer, z którym powiązano to połączenie. Sprawdź adres serwera lub utwórz powiązanie ponownie.</translation>
+        <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
+        <translation type="unfinished">To nie jest serwer, z którym powiązano to połączenie. Sprawdź adres serwera lub utwórz powiązanie ponownie.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -764,16 +760,16 @@
         <translation>Zarządzaj połączeniami</translation>
     </message>
     <message>
-        <source>Link to another server</source>
-        <translation>Powiąż z innym serwerem</translation>
+        <source>Connect to another server...</source>
+        <translation type="unfinished">Powiąż z innym serwerem</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
         <translation>Pokazuj nakładki na ikonach plików</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]Setting up [ProductName]</source>
-        <translation>[DlgTitleFont]Konfigurowanie programu [ProductName]</translation>
+        <source>[DlgTitleFont]Making changes to [ProductName]</source>
+        <translation type="unfinished">[DlgTitleFont]Konfigurowanie programu [ProductName]</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -792,8 +788,8 @@
         <translation>&amp;Zainstaluj</translation>
     </message>
     <message>
-        <source>File filter</source>
-        <translation>Filtr plików</translation>
+        <source>Files to exclude</source>
+        <translation type="unfinished">Filtr plików</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -804,8 +800,8 @@
         <translation>&amp;Nie akceptuję warunków umowy licencyjnej</translation>
     </message>
     <message>
-        <source>Something went wrong. Try again, and contact the server administrator if the problem continues.</source>
-        <translation>Coś poszło nie tak. Spróbuj ponownie, a jeśli problem będzie się powtarzał, skontaktuj się z administratorem serwera.</translation>
+        <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Coś poszło nie tak. Spróbuj ponownie, a jeśli problem będzie się powtarzał, skontaktuj się z administratorem serwera.</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -828,8 +824,8 @@
         <translation>Ustawienia serwera proxy</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator, so Quillmere might not install completely. Do you want to continue?</source>
-        <translation>Nie zalogowano się jako administrator, więc program Quillmere może nie zostać zainstalowany w całości. Czy chcesz kontynuować?</translation>
+        <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
+        <translation type="unfinished">Nie zalogowano się jako administrator, więc program Quillmere może nie zostać zainstalowany w całości. Czy chcesz kontynuować?</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
@@ -876,8 +872,8 @@
         <translation>Folder jest punktem montowania</translation>
     </message>
     <message>
-        <source>Choose another folder</source>
-        <translation>Wybierz inny folder</translation>
+        <source>Choose another folder...</source>
+        <translation type="unfinished">Wybierz inny folder</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -900,12 +896,16 @@
         <translation>Podaj adres serwera oraz konto, którego używasz na serwerze.</translation>
     </message>
     <message>
-        <source>A different server was found at the server address.</source>
-        <translation>Pod adresem serwera znaleziono inny serwer.</translation>
+        <source>Remove</source>
+        <translation type="unfinished">Usuń powiązanie</translation>
     </message>
     <message>
-        <source>Linking to the server...</source>
-        <translation>Tworzenie powiązania z serwerem…</translation>
+        <source>Another server was found at the server address.</source>
+        <translation type="unfinished">Pod adresem serwera znaleziono inny serwer.</translation>
+    </message>
+    <message>
+        <source>Connecting to the server...</source>
+        <translation type="unfinished">Tworzenie powiązania z serwerem…</translation>
     </message>
     <message>
         <source>Port</source>
@@ -928,8 +928,8 @@
         <translation>Używaj systemowych ustawień serwera proxy</translation>
     </message>
     <message>
-        <source>Change folder</source>
-        <translation>Zmień folder</translation>
+        <source>Change folder...</source>
+        <translation type="unfinished">Zmień folder</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -944,8 +944,8 @@
         <translation>Pobieranie…</translation>
     </message>
     <message>
-        <source>The file is locked</source>
-        <translation>Plik jest zablokowany</translation>
+        <source>File locked</source>
+        <translation type="unfinished">Plik jest zablokowany</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -956,8 +956,8 @@
         <translation>Przygotowywanie…</translation>
     </message>
     <message>
-        <source>Updating files...</source>
-        <translation>Aktualizowanie plików…</translation>
+        <source>Syncing files...</source>
+        <translation type="unfinished">Aktualizowanie plików…</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -968,8 +968,8 @@
         <translation>Sprawdzanie nazwy użytkownika i hasła…</translation>
     </message>
     <message>
-        <source>Wait while the Setup Wizard sets up [ProductName]. This can take several minutes.</source>
-        <translation>Poczekaj, aż kreator instalacji skonfiguruje program [ProductName]. Może to potrwać kilka minut.</translation>
+        <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
+        <translation type="unfinished">Poczekaj, aż kreator instalacji skonfiguruje program [ProductName]. Może to potrwać kilka minut.</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1020,24 +1020,24 @@
         <translation>Link udostępniania został skopiowany do schowka.</translation>
     </message>
     <message>
-        <source>The local sync folder was not found. Restore the folder or choose a different one.</source>
-        <translation>Nie znaleziono lokalnego folderu synchronizacji. Przywróć ten folder lub wybierz inny.</translation>
+        <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
+        <translation type="unfinished">Nie znaleziono lokalnego folderu synchronizacji. Przywróć ten folder lub wybierz inny.</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
         <translation>Uaktualnianie programu Quillmere</translation>
     </message>
     <message>
-        <source>Add sync task</source>
-        <translation>Dodaj zadanie synchronizacji</translation>
+        <source>Add sync task...</source>
+        <translation type="unfinished">Dodaj zadanie synchronizacji</translation>
     </message>
     <message>
-        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it.</source>
-        <translation>Ten folder udostępniony nie jest zamontowany na serwerze. Poproś administratora serwera o jego zamontowanie.</translation>
+        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
+        <translation type="unfinished">Ten folder udostępniony nie jest zamontowany na serwerze. Poproś administratora serwera o jego zamontowanie.</translation>
     </message>
     <message>
-        <source>The server sent an unexpected response. Upgrade the client and the server, then try again.</source>
-        <translation>Serwer wysłał nieoczekiwaną odpowiedź. Uaktualnij klienta i serwer, a następnie spróbuj ponownie.</translation>
+        <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Serwer wysłał nieoczekiwaną odpowiedź. Uaktualnij klienta i serwer, a następnie spróbuj ponownie.</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1052,8 +1052,8 @@
         <translation>Podaj rozmiar nie większy niż %1&#xa0;MB.</translation>
     </message>
     <message>
-        <source>Checking the data...</source>
-        <translation>Sprawdzanie danych…</translation>
+        <source>Checking files...</source>
+        <translation type="unfinished">Sprawdzanie danych…</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
@@ -1064,8 +1064,8 @@
         <translation>Kliknij przycisk „Zainstaluj”, aby rozpocząć instalację programu [ProductName]. Kliknij przycisk „Wstecz”, aby przejrzeć wybrane opcje, lub przycisk „Anuluj”, aby zamknąć kreator instalacji.</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}[ProductName] setup was interrupted</source>
-        <translation>{\VerdanaBold13}Instalacja programu [ProductName] została przerwana</translation>
+        <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
+        <translation type="unfinished">{\VerdanaBold13}Instalacja programu [ProductName] została przerwana</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1092,8 +1092,8 @@
         <translation>Ustawienia sieci</translation>
     </message>
     <message>
-        <source>This folder is already synced with another shared folder. Choose a different folder.</source>
-        <translation>Ten folder jest już synchronizowany z innym folderem udostępnionym. Wybierz inny folder.</translation>
+        <source>This folder is already synced with another shared folder. Choose another folder.</source>
+        <translation type="unfinished">Ten folder jest już synchronizowany z innym folderem udostępnionym. Wybierz inny folder.</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1132,24 +1132,24 @@
         <translation>Uruchamiaj program Quillmere po zalogowaniu na tym komputerze</translation>
     </message>
     <message>
-        <source>All files from both folders are kept. If two versions of a file differ, you get both.</source>
-        <translation>Zachowywane są wszystkie pliki z obu folderów. Jeśli dwie wersje pliku się różnią, zachowane zostaną obie.</translation>
+        <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
+        <translation type="unfinished">Zachowywane są wszystkie pliki z obu folderów. Jeśli dwie wersje pliku się różnią, zachowane zostaną obie.</translation>
     </message>
     <message>
         <source>Repair the installation</source>
         <translation>Napraw instalację</translation>
     </message>
     <message>
-        <source>Sync enabled</source>
-        <translation>Synchronizacja włączona</translation>
+        <source>Syncing turned on</source>
+        <translation type="unfinished">Synchronizacja włączona</translation>
     </message>
     <message>
-        <source>Quillmere could not start. Restart the computer, then start Quillmere again.</source>
-        <translation>Nie udało się uruchomić programu Quillmere. Uruchom ponownie komputer, a następnie uruchom program Quillmere jeszcze raz.</translation>
+        <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Nie udało się uruchomić programu Quillmere. Uruchom ponownie komputer, a następnie uruchom program Quillmere jeszcze raz.</translation>
     </message>
     <message>
-        <source>Do you want to cancel the setup of [ProductName]?</source>
-        <translation>Czy chcesz anulować instalację programu [ProductName]?</translation>
+        <source>Cancel the setup of [ProductName]?</source>
+        <translation type="unfinished">Czy chcesz anulować instalację programu [ProductName]?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1172,28 +1172,28 @@
         <translation>Ustawienia zaawansowane</translation>
     </message>
     <message>
-        <source>Browse versions</source>
-        <translation>Przeglądaj wersje</translation>
+        <source>Browse versions...</source>
+        <translation type="unfinished">Przeglądaj wersje</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
         <translation>[DlgTitleFont]Z&amp;mień</translation>
     </message>
     <message>
-        <source>This connection is inactive. Link it again to continue syncing.</source>
-        <translation>To połączenie jest nieaktywne. Powiąż je ponownie, aby kontynuować synchronizację.</translation>
+        <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
+        <translation type="unfinished">To połączenie jest nieaktywne. Powiąż je ponownie, aby kontynuować synchronizację.</translation>
     </message>
     <message>
         <source>Detecting...</source>
         <translation>Wykrywanie…</translation>
     </message>
     <message>
-        <source>SSL warning</source>
-        <translation>Ostrzeżenie SSL</translation>
+        <source>Certificate warning</source>
+        <translation type="unfinished">Ostrzeżenie SSL</translation>
     </message>
     <message>
-        <source>The relay service cannot be reached. Check your Internet connection, then try again.</source>
-        <translation>Nie można połączyć się z usługą przekazywania. Sprawdź połączenie z Internetem, a następnie spróbuj ponownie.</translation>
+        <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
+        <translation type="unfinished">Nie można połączyć się z usługą przekazywania. Sprawdź połączenie z Internetem, a następnie spróbuj ponownie.</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
@@ -1232,24 +1232,24 @@
         <translation>Połączenie bezpośrednie</translation>
     </message>
     <message>
-        <source>The server volume that holds this folder is not mounted. Ask the server administrator to mount it.</source>
-        <translation>Wolumin serwera, na którym znajduje się ten folder, nie jest zamontowany. Poproś administratora serwera o jego zamontowanie.</translation>
+        <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
+        <translation type="unfinished">Wolumin serwera, na którym znajduje się ten folder, nie jest zamontowany. Poproś administratora serwera o jego zamontowanie.</translation>
     </message>
     <message>
-        <source>This version of Quillmere is already installed. Do you want to install it again?</source>
-        <translation>Ta wersja programu Quillmere jest już zainstalowana. Czy chcesz zainstalować ją ponownie?</translation>
+        <source>This version of Quillmere is already installed. Install it again?</source>
+        <translation type="unfinished">Ta wersja programu Quillmere jest już zainstalowana. Czy chcesz zainstalować ją ponownie?</translation>
     </message>
     <message>
-        <source>This client is too old for the server. Upgrade the client, then try again.</source>
-        <translation>Wersja tego klienta jest za stara dla serwera. Uaktualnij klienta, a następnie spróbuj ponownie.</translation>
+        <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
+        <translation type="unfinished">Wersja tego klienta jest za stara dla serwera. Uaktualnij klienta, a następnie spróbuj ponownie.</translation>
     </message>
     <message>
-        <source>The server is too old for this client.</source>
-        <translation>Wersja serwera jest za stara dla tego klienta.</translation>
+        <source>Quillmere on the server is too old to work with this computer.</source>
+        <translation type="unfinished">Wersja serwera jest za stara dla tego klienta.</translation>
     </message>
     <message>
-        <source>Disabled</source>
-        <translation>Wyłączone</translation>
+        <source>Turned off</source>
+        <translation type="unfinished">Wyłączone</translation>
     </message>
 </context>
 </TS>

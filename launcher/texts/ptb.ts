@@ -40,8 +40,8 @@
         <translation>Modo de conexão</translation>
     </message>
     <message>
-        <source>The local database is damaged. Unlink the connection, then link it again to rebuild the database.</source>
-        <translation>O banco de dados local está danificado. Desvincule a conexão e vincule-a novamente para recriar o banco de dados.</translation>
+        <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">O banco de dados local está danificado. Desvincule a conexão e vincule-a novamente para recriar o banco de dados.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
@@ -56,8 +56,8 @@
         <translation>[DlgTitleFont]Pronto para remover o [ProductName]</translation>
     </message>
     <message>
-        <source>The server has been replaced. Click here to link again.</source>
-        <translation>O servidor foi substituído. Clique aqui para vincular novamente.</translation>
+        <source>The server has been replaced. Click here to reconnect.</source>
+        <translation type="unfinished">O servidor foi substituído. Clique aqui para vincular novamente.</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -68,16 +68,16 @@
         <translation>O Assistente de Instalação permite alterar, reparar ou remover o [ProductName]. Clique em Avançar para continuar ou em Cancelar para sair do Assistente de Instalação.</translation>
     </message>
     <message>
-        <source>Block list</source>
-        <translation>Lista de bloqueio</translation>
+        <source>Exclusion list</source>
+        <translation type="unfinished">Lista de bloqueio</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
         <translation>Excluir este link de compartilhamento?\nQuem tem o link não poderá mais abrir o arquivo.</translation>
     </message>
     <message>
-        <source>This client is too old for the server.</source>
-        <translation>Este cliente é muito antigo para o servidor.</translation>
+        <source>Quillmere on this computer is too old to work with the server.</source>
+        <translation type="unfinished">Este cliente é muito antigo para o servidor.</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
@@ -96,16 +96,16 @@
         <translation>Testando a conexão...</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server is not trusted, so others may be able to read the data you send. Do you want to continue?</source>
-        <translation>O certificado SSL do servidor não é confiável; portanto, outras pessoas talvez possam ler os dados que você envia. Deseja continuar?</translation>
+        <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
+        <translation type="unfinished">O certificado SSL do servidor não é confiável; portanto, outras pessoas talvez possam ler os dados que você envia. Deseja continuar?</translation>
     </message>
     <message>
         <source>New shared folder</source>
         <translation>Nova pasta compartilhada</translation>
     </message>
     <message>
-        <source>About</source>
-        <translation>Sobre</translation>
+        <source>About Quillmere</source>
+        <translation type="unfinished">Sobre</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
@@ -120,8 +120,8 @@
         <translation>O Assistente de Instalação está pronto para iniciar a remoção.</translation>
     </message>
     <message>
-        <source>This computer is already linked to this server. Edit the existing connection or enter a different server.</source>
-        <translation>Este computador já está vinculado a este servidor. Edite a conexão existente ou insira outro servidor.</translation>
+        <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
+        <translation type="unfinished">Este computador já está vinculado a este servidor. Edite a conexão existente ou insira outro servidor.</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -132,12 +132,12 @@
         <translation>A conexão com o servidor foi perdida. Verifique a conexão de rede e tente novamente.</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified.</source>
-        <translation>Não foi possível verificar o certificado SSL do servidor.</translation>
+        <source>The certificate of the server could not be verified.</source>
+        <translation type="unfinished">Não foi possível verificar o certificado SSL do servidor.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
-        <translation>Usar um ícone em preto e branco na bandeja</translation>
+        <source>Use a black-and-white tray icon</source>
+        <translation type="unfinished">Usar um ícone em preto e branco na bandeja</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -152,20 +152,20 @@
         <translation>Tarefas de sincronização</translation>
     </message>
     <message>
-        <source>Blocked files</source>
-        <translation>Arquivos bloqueados</translation>
+        <source>Excluded files</source>
+        <translation type="unfinished">Arquivos bloqueados</translation>
     </message>
     <message>
         <source>No permission</source>
         <translation>Sem permissão</translation>
     </message>
     <message>
-        <source>The server is too old for this client. Ask the server administrator to upgrade it.</source>
-        <translation>O servidor é muito antigo para este cliente. Peça ao administrador do servidor que o atualize.</translation>
+        <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
+        <translation type="unfinished">O servidor é muito antigo para este cliente. Peça ao administrador do servidor que o atualize.</translation>
     </message>
     <message>
-        <source>To try again, run setup again later. Click Finish to exit the Setup Wizard.</source>
-        <translation>Para tentar novamente, execute a instalação mais tarde. Clique em Concluir para sair do Assistente de Instalação.</translation>
+        <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
+        <translation type="unfinished">Para tentar novamente, execute a instalação mais tarde. Clique em Concluir para sair do Assistente de Instalação.</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -180,8 +180,8 @@
         <translation>Clique em Reparar para reparar a instalação do [ProductName]. Clique em Voltar para rever suas escolhas ou em Cancelar para sair do Assistente de Instalação.</translation>
     </message>
     <message>
-        <source>Some settings have not been saved. Do you want to save them?</source>
-        <translation>Algumas configurações não foram salvas. Deseja salvá-las?</translation>
+        <source>Some settings have not been saved. Save them?</source>
+        <translation type="unfinished">Algumas configurações não foram salvas. Deseja salvá-las?</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -192,8 +192,8 @@
         <translation>Ação</translation>
     </message>
     <message>
-        <source>This folder is already used by another sync program. Choose a different folder to avoid conflicts.</source>
-        <translation>Esta pasta já é usada por outro programa de sincronização. Escolha outra pasta para evitar conflitos.</translation>
+        <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
+        <translation type="unfinished">Esta pasta já é usada por outro programa de sincronização. Escolha outra pasta para evitar conflitos.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -204,16 +204,16 @@
         <translation>Versão incompatível</translation>
     </message>
     <message>
-        <source>Change the sync folder</source>
-        <translation>Alterar a pasta de sincronização</translation>
+        <source>Change sync folder</source>
+        <translation type="unfinished">Alterar a pasta de sincronização</translation>
     </message>
     <message>
-        <source>Enter a complete file name without a folder path.</source>
-        <translation>Insira um nome de arquivo completo, sem o caminho da pasta.</translation>
+        <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
+        <translation type="unfinished">Insira um nome de arquivo completo, sem o caminho da pasta.</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]An error stopped setup, and its changes were undone.</source>
-        <translation>[DlgTitleFont]Um erro interrompeu a instalação, e as alterações foram desfeitas.</translation>
+        <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
+        <translation type="unfinished">[DlgTitleFont]Um erro interrompeu a instalação, e as alterações foram desfeitas.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -240,8 +240,8 @@
         <translation>Nome</translation>
     </message>
     <message>
-        <source>Encrypt data transfer with SSL</source>
-        <translation>Criptografar a transferência de dados com SSL</translation>
+        <source>Use an encrypted connection (TLS)</source>
+        <translation type="unfinished">Criptografar a transferência de dados com SSL</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -276,8 +276,8 @@
         <translation>Este arquivo ainda não tem versões anteriores. Altere o arquivo e aguarde a sincronização para criar uma.</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>Desvincular</translation>
+        <source>Disconnect</source>
+        <translation type="unfinished">Desvincular</translation>
     </message>
     <message>
         <source>Back</source>
@@ -316,8 +316,8 @@
         <translation>Aplicando as configurações...</translation>
     </message>
     <message>
-        <source>Files that are not synced</source>
-        <translation>Arquivos que não são sincronizados</translation>
+        <source>Files excluded from syncing</source>
+        <translation type="unfinished">Arquivos que não são sincronizados</translation>
     </message>
     <message>
         <source>Created</source>
@@ -332,8 +332,8 @@
         <translation>Internet</translation>
     </message>
     <message>
-        <source>Choose the shared folders to sync</source>
-        <translation>Escolha as pastas compartilhadas para sincronizar</translation>
+        <source>Choose shared folders to sync</source>
+        <translation type="unfinished">Escolha as pastas compartilhadas para sincronizar</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -360,8 +360,8 @@
         <translation>Repara erros na instalação do [ProductName] restaurando arquivos e atalhos ausentes ou danificados.</translation>
     </message>
     <message>
-        <source>Blocked file extensions</source>
-        <translation>Extensões de arquivo bloqueadas</translation>
+        <source>Excluded file extensions</source>
+        <translation type="unfinished">Extensões de arquivo bloqueadas</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -376,16 +376,16 @@
         <translation>Senha</translation>
     </message>
     <message>
-        <source>The volume that holds the sync folder is not mounted. Mount the volume, then resume syncing.</source>
-        <translation>O volume que contém a pasta de sincronização não está montado. Monte o volume e retome a sincronização.</translation>
+        <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
+        <translation type="unfinished">O volume que contém a pasta de sincronização não está montado. Monte o volume e retome a sincronização.</translation>
     </message>
     <message>
         <source>Edit</source>
         <translation>Editar</translation>
     </message>
     <message>
-        <source>This computer has no free disk space.</source>
-        <translation>Este computador não tem espaço livre em disco.</translation>
+        <source>The drive that holds the sync folder is full.</source>
+        <translation type="unfinished">Este computador não tem espaço livre em disco.</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -400,8 +400,8 @@
         <translation>&amp;Ignorar</translation>
     </message>
     <message>
-        <source>A folder with this name already exists. Do you want to merge its files with those on the server?</source>
-        <translation>Já existe uma pasta com este nome. Deseja mesclar os arquivos dela com os do servidor?</translation>
+        <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
+        <translation type="unfinished">Já existe uma pasta com este nome. Deseja mesclar os arquivos dela com os do servidor?</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
@@ -448,12 +448,12 @@
         <translation>Concluir</translation>
     </message>
     <message>
-        <source>Syncing %1 files...</source>
-        <translation>Sincronizando arquivos (%1)...</translation>
+        <source>Files being synced: %1</source>
+        <translation type="unfinished">Sincronizando arquivos (%1)...</translation>
     </message>
     <message>
-        <source>Link again</source>
-        <translation>Vincular novamente</translation>
+        <source>Reconnect</source>
+        <translation type="unfinished">Vincular novamente</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -472,8 +472,8 @@
         <translation>Padrão do sistema</translation>
     </message>
     <message>
-        <source>The folders and files you cleared will be removed from this computer. They will be kept on the server.</source>
-        <translation>As pastas e os arquivos que você desmarcou serão removidos deste computador. Eles serão mantidos no servidor.</translation>
+        <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
+        <translation type="unfinished">As pastas e os arquivos que você desmarcou serão removidos deste computador. Eles serão mantidos no servidor.</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
@@ -488,28 +488,28 @@
         <translation>Sem espaço livre</translation>
     </message>
     <message>
-        <source>Inactive</source>
-        <translation>Inativa</translation>
+        <source>Disconnected</source>
+        <translation type="unfinished">Inativa</translation>
     </message>
     <message>
-        <source>Your quota on the server is full.</source>
-        <translation>Sua cota no servidor está esgotada.</translation>
+        <source>You have used all of your space on the server.</source>
+        <translation type="unfinished">Sua cota no servidor está esgotada.</translation>
     </message>
     <message>
-        <source>Unlink this connection?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>Desvincular esta conexão?\nSeus arquivos serão mantidos neste computador e no servidor, mas não serão mais sincronizados.</translation>
+        <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">Desvincular esta conexão?\nSeus arquivos serão mantidos neste computador e no servidor, mas não serão mais sincronizados.</translation>
     </message>
     <message>
-        <source>The relay service has a problem. Try again later, or connect with the IP address of the server.</source>
-        <translation>Ocorreu um problema no serviço de retransmissão. Tente novamente mais tarde ou conecte-se usando o endereço IP do servidor.</translation>
+        <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
+        <translation type="unfinished">Ocorreu um problema no serviço de retransmissão. Tente novamente mais tarde ou conecte-se usando o endereço IP do servidor.</translation>
     </message>
     <message>
         <source>Server ID</source>
         <translation>ID do servidor</translation>
     </message>
     <message>
-        <source>Blocked file names</source>
-        <translation>Nomes de arquivo bloqueados</translation>
+        <source>Excluded file names</source>
+        <translation type="unfinished">Nomes de arquivo bloqueados</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -520,20 +520,20 @@
         <translation>Continuar</translation>
     </message>
     <message>
-        <source>Enabled</source>
-        <translation>Ativado</translation>
+        <source>Turned on</source>
+        <translation type="unfinished">Ativado</translation>
     </message>
     <message>
-        <source>This computer has no free disk space. Free some space to continue syncing.</source>
-        <translation>Este computador não tem espaço livre em disco. Libere espaço para continuar a sincronização.</translation>
+        <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
+        <translation type="unfinished">Este computador não tem espaço livre em disco. Libere espaço para continuar a sincronização.</translation>
     </message>
     <message>
         <source>Folders to sync</source>
         <translation>Pastas para sincronizar</translation>
     </message>
     <message>
-        <source>Choose a sync folder</source>
-        <translation>Escolha uma pasta de sincronização</translation>
+        <source>Choose sync folder</source>
+        <translation type="unfinished">Escolha uma pasta de sincronização</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -548,8 +548,8 @@
         <translation>Computador</translation>
     </message>
     <message>
-        <source>Your quota on the server is full. Delete files you do not need, or ask the server administrator for a larger quota.</source>
-        <translation>Sua cota no servidor está esgotada. Exclua arquivos desnecessários ou peça uma cota maior ao administrador do servidor.</translation>
+        <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
+        <translation type="unfinished">Sua cota no servidor está esgotada. Exclua arquivos desnecessários ou peça uma cota maior ao administrador do servidor.</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
@@ -564,12 +564,12 @@
         <translation>Usar o seguinte servidor proxy</translation>
     </message>
     <message>
-        <source>This file was changed in two places. Compare both copies, then keep the one you need.</source>
-        <translation>Este arquivo foi alterado em dois lugares. Compare as duas cópias e mantenha aquela de que você precisa.</translation>
+        <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
+        <translation type="unfinished">Este arquivo foi alterado em dois lugares. Compare as duas cópias e mantenha aquela de que você precisa.</translation>
     </message>
     <message>
-        <source>One place for your files on every computer, through a server of your own</source>
-        <translation>Um só lugar para seus arquivos em todos os computadores, por meio do seu próprio servidor</translation>
+        <source>All your files on every computer, kept on your own server</source>
+        <translation type="unfinished">Um só lugar para seus arquivos em todos os computadores, por meio do seu próprio servidor</translation>
     </message>
     <message>
         <source>OK</source>
@@ -580,8 +580,8 @@
         <translation>Mostrar notificações na área de trabalho</translation>
     </message>
     <message>
-        <source>The following applications use files that setup needs to update. Close them and click Retry, click Ignore to continue without closing them, or click Exit to leave setup.</source>
-        <translation>Os aplicativos a seguir usam arquivos que a instalação precisa atualizar. Feche-os e clique em Tentar novamente, clique em Ignorar para continuar sem fechá-los ou clique em Sair para encerrar a instalação.</translation>
+        <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
+        <translation type="unfinished">Os aplicativos a seguir usam arquivos que a instalação precisa atualizar. Feche-os e clique em Tentar novamente, clique em Ignorar para continuar sem fechá-los ou clique em Sair para encerrar a instalação.</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -596,12 +596,12 @@
         <translation>Os arquivos que correspondem a um item desta lista não são sincronizados.</translation>
     </message>
     <message>
-        <source>Edit connection</source>
-        <translation>Editar conexão</translation>
+        <source>Edit connection...</source>
+        <translation type="unfinished">Editar conexão</translation>
     </message>
     <message>
-        <source>Options</source>
-        <translation>Opções</translation>
+        <source>Settings</source>
+        <translation>Configurações</translation>
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
@@ -624,36 +624,32 @@
         <translation>Pausar</translation>
     </message>
     <message>
-        <source>Show icon overlays on filtered files</source>
-        <translation>Mostrar sobreposições de ícones nos arquivos filtrados</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Configurações</translation>
+        <source>Show icon overlays on excluded files</source>
+        <translation type="unfinished">Mostrar sobreposições de ícones nos arquivos filtrados</translation>
     </message>
     <message>
         <source>Loading...</source>
         <translation>Carregando...</translation>
     </message>
     <message>
-        <source>You can sync at most %1 shared folders. Stop syncing one of them before you add another.</source>
-        <translation>O número máximo de pastas compartilhadas que podem ser sincronizadas é %1. Pare de sincronizar uma delas antes de adicionar outra.</translation>
+        <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
+        <translation type="unfinished">O número máximo de pastas compartilhadas que podem ser sincronizadas é %1. Pare de sincronizar uma delas antes de adicionar outra.</translation>
     </message>
     <message>
-        <source>Unlink this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>Desvincular esta tarefa de sincronização?\nOs arquivos dela serão mantidos neste computador e no servidor, mas não serão mais sincronizados.</translation>
+        <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">Desvincular esta tarefa de sincronização?\nOs arquivos dela serão mantidos neste computador e no servidor, mas não serão mais sincronizados.</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
         <translation>Iniciando o Quillmere...</translation>
     </message>
     <message>
-        <source>Quillmere could not be upgraded. Restart the computer, then try again.</source>
-        <translation>Não foi possível atualizar o Quillmere. Reinicie o computador e tente novamente.</translation>
+        <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Não foi possível atualizar o Quillmere. Reinicie o computador e tente novamente.</translation>
     </message>
     <message>
-        <source>Block names that begin with a dot</source>
-        <translation>Bloquear nomes que começam com ponto</translation>
+        <source>Exclude names that begin with a dot</source>
+        <translation type="unfinished">Bloquear nomes que começam com ponto</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -676,8 +672,8 @@
         <translation>Conectado ao servidor.</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}The [ProductName] Setup Wizard is complete</source>
-        <translation>{\VerdanaBold13}O Assistente de Instalação do [ProductName] foi concluído</translation>
+        <source>{\VerdanaBold13}[ProductName] setup is complete</source>
+        <translation type="unfinished">{\VerdanaBold13}O Assistente de Instalação do [ProductName] foi concluído</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -712,20 +708,20 @@
         <translation>Pasta compartilhada</translation>
     </message>
     <message>
-        <source>Client options</source>
-        <translation>Opções do cliente</translation>
+        <source>Quillmere settings</source>
+        <translation type="unfinished">Opções do cliente</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
         <translation>Não foi possível excluir o link de compartilhamento. Verifique a conexão com o servidor e tente novamente.</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified. Ask the server administrator to check the certificate.</source>
-        <translation>Não foi possível verificar o certificado SSL do servidor. Peça ao administrador do servidor que verifique o certificado.</translation>
+        <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
+        <translation type="unfinished">Não foi possível verificar o certificado SSL do servidor. Peça ao administrador do servidor que verifique o certificado.</translation>
     </message>
     <message>
-        <source>This is not the server the connection was linked to. Check the server address, or link again.</source>
-        <translation>Este não é o servidor ao qual a conexão foi vinculada. Verifique o endereço do servidor ou vincule-a novamente.</translation>
+        <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
+        <translation type="unfinished">Este não é o servidor ao qual a conexão foi vinculada. Verifique o endereço do servidor ou vincule-a novamente.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -764,16 +760,16 @@
         <translation>Gerenciar conexões</translation>
     </message>
     <message>
-        <source>Link to another server</source>
-        <translation>Vincular a outro servidor</translation>
+        <source>Connect to another server...</source>
+        <translation type="unfinished">Vincular a outro servidor</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
         <translation>Mostrar sobreposições de ícones</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]Setting up [ProductName]</source>
-        <translation>[DlgTitleFont]Configurando o [ProductName]</translation>
+        <source>[DlgTitleFont]Making changes to [ProductName]</source>
+        <translation type="unfinished">[DlgTitleFont]Configurando o [ProductName]</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -792,8 +788,8 @@
         <translation>&amp;Instalar</translation>
     </message>
     <message>
-        <source>File filter</source>
-        <translation>Filtro de arquivos</translation>
+        <source>Files to exclude</source>
+        <translation type="unfinished">Filtro de arquivos</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -804,8 +800,8 @@
         <translation>&amp;Não aceito os termos do contrato de licença</translation>
     </message>
     <message>
-        <source>Something went wrong. Try again, and contact the server administrator if the problem continues.</source>
-        <translation>Algo deu errado. Tente novamente e, se o problema persistir, entre em contato com o administrador do servidor.</translation>
+        <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Algo deu errado. Tente novamente e, se o problema persistir, entre em contato com o administrador do servidor.</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -828,8 +824,8 @@
         <translation>Configurações de proxy</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator, so Quillmere might not install completely. Do you want to continue?</source>
-        <translation>Você não fez login como administrador; por isso, talvez o Quillmere não seja instalado por completo. Deseja continuar?</translation>
+        <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
+        <translation type="unfinished">Você não fez login como administrador; por isso, talvez o Quillmere não seja instalado por completo. Deseja continuar?</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
@@ -876,8 +872,8 @@
         <translation>A pasta é um ponto de montagem</translation>
     </message>
     <message>
-        <source>Choose another folder</source>
-        <translation>Escolher outra pasta</translation>
+        <source>Choose another folder...</source>
+        <translation type="unfinished">Escolher outra pasta</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -900,12 +896,16 @@
         <translation>Insira o endereço do servidor e a conta que você usa no servidor.</translation>
     </message>
     <message>
-        <source>A different server was found at the server address.</source>
-        <translation>Um servidor diferente foi encontrado no endereço do servidor.</translation>
+        <source>Remove</source>
+        <translation type="unfinished">Desvincular</translation>
     </message>
     <message>
-        <source>Linking to the server...</source>
-        <translation>Vinculando ao servidor...</translation>
+        <source>Another server was found at the server address.</source>
+        <translation type="unfinished">Um servidor diferente foi encontrado no endereço do servidor.</translation>
+    </message>
+    <message>
+        <source>Connecting to the server...</source>
+        <translation type="unfinished">Vinculando ao servidor...</translation>
     </message>
     <message>
         <source>Port</source>
@@ -928,8 +928,8 @@
         <translation>Usar as configurações de proxy do sistema</translation>
     </message>
     <message>
-        <source>Change folder</source>
-        <translation>Alterar pasta</translation>
+        <source>Change folder...</source>
+        <translation type="unfinished">Alterar pasta</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -944,8 +944,8 @@
         <translation>Baixando...</translation>
     </message>
     <message>
-        <source>The file is locked</source>
-        <translation>O arquivo está bloqueado por um programa</translation>
+        <source>File locked</source>
+        <translation type="unfinished">O arquivo está bloqueado por um programa</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -956,8 +956,8 @@
         <translation>Preparando...</translation>
     </message>
     <message>
-        <source>Updating files...</source>
-        <translation>Atualizando arquivos...</translation>
+        <source>Syncing files...</source>
+        <translation type="unfinished">Atualizando arquivos...</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -968,8 +968,8 @@
         <translation>Verificando o nome de usuário e a senha...</translation>
     </message>
     <message>
-        <source>Wait while the Setup Wizard sets up [ProductName]. This can take several minutes.</source>
-        <translation>Aguarde enquanto o Assistente de Instalação configura o [ProductName]. Isso pode levar vários minutos.</translation>
+        <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
+        <translation type="unfinished">Aguarde enquanto o Assistente de Instalação configura o [ProductName]. Isso pode levar vários minutos.</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1020,24 +1020,24 @@
         <translation>O link de compartilhamento foi copiado para a área de transferência.</translation>
     </message>
     <message>
-        <source>The local sync folder was not found. Restore the folder or choose a different one.</source>
-        <translation>A pasta de sincronização local não foi encontrada. Restaure a pasta ou escolha outra.</translation>
+        <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
+        <translation type="unfinished">A pasta de sincronização local não foi encontrada. Restaure a pasta ou escolha outra.</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
         <translation>Atualizar o Quillmere</translation>
     </message>
     <message>
-        <source>Add sync task</source>
-        <translation>Adicionar tarefa de sincronização</translation>
+        <source>Add sync task...</source>
+        <translation type="unfinished">Adicionar tarefa de sincronização</translation>
     </message>
     <message>
-        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it.</source>
-        <translation>A pasta compartilhada não está montada no servidor. Peça ao administrador do servidor que a monte.</translation>
+        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
+        <translation type="unfinished">A pasta compartilhada não está montada no servidor. Peça ao administrador do servidor que a monte.</translation>
     </message>
     <message>
-        <source>The server sent an unexpected response. Upgrade the client and the server, then try again.</source>
-        <translation>O servidor enviou uma resposta inesperada. Atualize o cliente e o servidor e tente novamente.</translation>
+        <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">O servidor enviou uma resposta inesperada. Atualize o cliente e o servidor e tente novamente.</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1052,8 +1052,8 @@
         <translation>Insira um tamanho de no máximo %1&#xa0;MB.</translation>
     </message>
     <message>
-        <source>Checking the data...</source>
-        <translation>Verificando os dados...</translation>
+        <source>Checking files...</source>
+        <translation type="unfinished">Verificando os dados...</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
@@ -1064,8 +1064,8 @@
         <translation>Clique em Instalar para iniciar a instalação do [ProductName]. Clique em Voltar para rever suas escolhas ou em Cancelar para sair do Assistente de Instalação.</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}[ProductName] setup was interrupted</source>
-        <translation>{\VerdanaBold13}A instalação do [ProductName] foi interrompida</translation>
+        <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
+        <translation type="unfinished">{\VerdanaBold13}A instalação do [ProductName] foi interrompida</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1092,8 +1092,8 @@
         <translation>Configurações de rede</translation>
     </message>
     <message>
-        <source>This folder is already synced with another shared folder. Choose a different folder.</source>
-        <translation>Esta pasta já está sincronizada com outra pasta compartilhada. Escolha uma pasta diferente.</translation>
+        <source>This folder is already synced with another shared folder. Choose another folder.</source>
+        <translation type="unfinished">Esta pasta já está sincronizada com outra pasta compartilhada. Escolha uma pasta diferente.</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1132,24 +1132,24 @@
         <translation>Iniciar o Quillmere quando eu fizer login neste computador</translation>
     </message>
     <message>
-        <source>All files from both folders are kept. If two versions of a file differ, you get both.</source>
-        <translation>Todos os arquivos de ambas as pastas são mantidos. Se duas versões de um arquivo forem diferentes, você ficará com ambas.</translation>
+        <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
+        <translation type="unfinished">Todos os arquivos de ambas as pastas são mantidos. Se duas versões de um arquivo forem diferentes, você ficará com ambas.</translation>
     </message>
     <message>
         <source>Repair the installation</source>
         <translation>Reparar a instalação</translation>
     </message>
     <message>
-        <source>Sync enabled</source>
-        <translation>Sincronização ativada</translation>
+        <source>Syncing turned on</source>
+        <translation type="unfinished">Sincronização ativada</translation>
     </message>
     <message>
-        <source>Quillmere could not start. Restart the computer, then start Quillmere again.</source>
-        <translation>Não foi possível iniciar o Quillmere. Reinicie o computador e inicie o Quillmere novamente.</translation>
+        <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Não foi possível iniciar o Quillmere. Reinicie o computador e inicie o Quillmere novamente.</translation>
     </message>
     <message>
-        <source>Do you want to cancel the setup of [ProductName]?</source>
-        <translation>Deseja cancelar a instalação do [ProductName]?</translation>
+        <source>Cancel the setup of [ProductName]?</source>
+        <translation type="unfinished">Deseja cancelar a instalação do [ProductName]?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1172,28 +1172,28 @@
         <translation>Configurações avançadas</translation>
     </message>
     <message>
-        <source>Browse versions</source>
-        <translation>Ver versões</translation>
+        <source>Browse versions...</source>
+        <translation type="unfinished">Ver versões</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
         <translation>[DlgTitleFont]A&amp;lterar</translation>
     </message>
     <message>
-        <source>This connection is inactive. Link it again to continue syncing.</source>
-        <translation>Esta conexão está inativa. Vincule-a novamente para continuar a sincronização.</translation>
+        <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
+        <translation type="unfinished">Esta conexão está inativa. Vincule-a novamente para continuar a sincronização.</translation>
     </message>
     <message>
         <source>Detecting...</source>
         <translation>Detectando...</translation>
     </message>
     <message>
-        <source>SSL warning</source>
-        <translation>Aviso de SSL</translation>
+        <source>Certificate warning</source>
+        <translation type="unfinished">Aviso de SSL</translation>
     </message>
     <message>
-        <source>The relay service cannot be reached. Check your Internet connection, then try again.</source>
-        <translation>Não foi possível acessar o serviço de retransmissão. Verifique sua conexão com a Internet e tente novamente.</translation>
+        <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
+        <translation type="unfinished">Não foi possível acessar o serviço de retransmissão. Verifique sua conexão com a Internet e tente novamente.</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
@@ -1232,24 +1232,24 @@
         <translation>Conexão direta</translation>
     </message>
     <message>
-        <source>The server volume that holds this folder is not mounted. Ask the server administrator to mount it.</source>
-        <translation>O volume do servidor que contém esta pasta não está montado. Peça ao administrador do servidor que o monte.</translation>
+        <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
+        <translation type="unfinished">O volume do servidor que contém esta pasta não está montado. Peça ao administrador do servidor que o monte.</translation>
     </message>
     <message>
-        <source>This version of Quillmere is already installed. Do you want to install it again?</source>
-        <translation>Esta versão do Quillmere já está instalada. Deseja instalá-la novamente?</translation>
+        <source>This version of Quillmere is already installed. Install it again?</source>
+        <translation type="unfinished">Esta versão do Quillmere já está instalada. Deseja instalá-la novamente?</translation>
     </message>
     <message>
-        <source>This client is too old for the server. Upgrade the client, then try again.</source>
-        <translation>Este cliente é muito antigo para o servidor. Atualize o cliente e tente novamente.</translation>
+        <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
+        <translation type="unfinished">Este cliente é muito antigo para o servidor. Atualize o cliente e tente novamente.</translation>
     </message>
     <message>
-        <source>The server is too old for this client.</source>
-        <translation>O servidor é muito antigo para este cliente.</translation>
+        <source>Quillmere on the server is too old to work with this computer.</source>
+        <translation type="unfinished">O servidor é muito antigo para este cliente.</translation>
     </message>
     <message>
-        <source>Disabled</source>
-        <translation>Desativado</translation>
+        <source>Turned off</source>
+        <translation type="unfinished">Desativado</translation>
     </message>
 </context>
 </TS>

@@ -40,8 +40,8 @@
         <translation>Режим подключения</translation>
     </message>
     <message>
-        <source>The local database is damaged. Unlink the connection, then link it again to rebuild the database.</source>
-        <translation>Локальная база данных повреждена. Разорвите связь для этого подключения и установите связь заново, чтобы база данных была создана повторно.</translation>
+        <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Локальная база данных повреждена. Разорвите связь для этого подключения и установите связь заново, чтобы база данных была создана повторно.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
@@ -56,8 +56,8 @@
         <translation>[DlgTitleFont]Всё готово к удалению [ProductName]</translation>
     </message>
     <message>
-        <source>The server has been replaced. Click here to link again.</source>
-        <translation>Сервер был заменён. Щёлкните здесь, чтобы установить связь заново.</translation>
+        <source>The server has been replaced. Click here to reconnect.</source>
+        <translation type="unfinished">Сервер был заменён. Щёлкните здесь, чтобы установить связь заново.</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -68,16 +68,16 @@
         <translation>Мастер установки позволяет изменить, восстановить или удалить [ProductName]. Нажмите кнопку «Далее», чтобы продолжить, или кнопку «Отмена», чтобы выйти из мастера установки.</translation>
     </message>
     <message>
-        <source>Block list</source>
-        <translation>Список исключений</translation>
+        <source>Exclusion list</source>
+        <translation type="unfinished">Список исключений</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
         <translation>Удалить эту ссылку общего доступа?\nТе, у кого есть ссылка, больше не смогут открыть файл.</translation>
     </message>
     <message>
-        <source>This client is too old for the server.</source>
-        <translation>Версия этого клиента слишком старая для сервера.</translation>
+        <source>Quillmere on this computer is too old to work with the server.</source>
+        <translation type="unfinished">Версия этого клиента слишком старая для сервера.</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
@@ -96,16 +96,16 @@
         <translation>Проверка подключения…</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server is not trusted, so others may be able to read the data you send. Do you want to continue?</source>
-        <translation>SSL-сертификат сервера не является доверенным, поэтому отправляемые данные могут прочитать посторонние. Продолжить?</translation>
+        <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
+        <translation type="unfinished">SSL-сертификат сервера не является доверенным, поэтому отправляемые данные могут прочитать посторонние. Продолжить?</translation>
     </message>
     <message>
         <source>New shared folder</source>
         <translation>Новая общая папка</translation>
     </message>
     <message>
-        <source>About</source>
-        <translation>О программе</translation>
+        <source>About Quillmere</source>
+        <translation type="unfinished">О программе</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
@@ -120,8 +120,8 @@
         <translation>Мастер установки готов начать удаление.</translation>
     </message>
     <message>
-        <source>This computer is already linked to this server. Edit the existing connection or enter a different server.</source>
-        <translation>Этот компьютер уже связан с этим сервером. Измените существующее подключение или укажите другой сервер.</translation>
+        <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
+        <translation type="unfinished">Этот компьютер уже связан с этим сервером. Измените существующее подключение или укажите другой сервер.</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -132,12 +132,12 @@
         <translation>Соединение с сервером потеряно. Проверьте подключение к сети и повторите попытку.</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified.</source>
-        <translation>Не удалось проверить SSL-сертификат сервера.</translation>
+        <source>The certificate of the server could not be verified.</source>
+        <translation type="unfinished">Не удалось проверить SSL-сертификат сервера.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
-        <translation>Использовать чёрно-белый значок в области уведомлений</translation>
+        <source>Use a black-and-white tray icon</source>
+        <translation type="unfinished">Использовать чёрно-белый значок в области уведомлений</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -152,20 +152,20 @@
         <translation>Задания синхронизации</translation>
     </message>
     <message>
-        <source>Blocked files</source>
-        <translation>Исключённые файлы</translation>
+        <source>Excluded files</source>
+        <translation type="unfinished">Исключённые файлы</translation>
     </message>
     <message>
         <source>No permission</source>
         <translation>Нет прав доступа</translation>
     </message>
     <message>
-        <source>The server is too old for this client. Ask the server administrator to upgrade it.</source>
-        <translation>Версия сервера слишком старая для этого клиента. Попросите администратора обновить сервер.</translation>
+        <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
+        <translation type="unfinished">Версия сервера слишком старая для этого клиента. Попросите администратора обновить сервер.</translation>
     </message>
     <message>
-        <source>To try again, run setup again later. Click Finish to exit the Setup Wizard.</source>
-        <translation>Чтобы повторить попытку, запустите установку позже. Нажмите кнопку «Завершить», чтобы выйти из мастера установки.</translation>
+        <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
+        <translation type="unfinished">Чтобы повторить попытку, запустите установку позже. Нажмите кнопку «Завершить», чтобы выйти из мастера установки.</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -180,8 +180,8 @@
         <translation>Нажмите кнопку «Восстановить», чтобы исправить установку [ProductName]. Нажмите кнопку «Назад», чтобы проверить выбранные параметры, или кнопку «Отмена», чтобы выйти из мастера установки.</translation>
     </message>
     <message>
-        <source>Some settings have not been saved. Do you want to save them?</source>
-        <translation>Некоторые параметры не сохранены. Сохранить их?</translation>
+        <source>Some settings have not been saved. Save them?</source>
+        <translation type="unfinished">Некоторые параметры не сохранены. Сохранить их?</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -192,8 +192,8 @@
         <translation>Действие</translation>
     </message>
     <message>
-        <source>This folder is already used by another sync program. Choose a different folder to avoid conflicts.</source>
-        <translation>Эта папка уже используется другой программой синхронизации. Чтобы избежать конфликтов, выберите другую папку.</translation>
+        <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
+        <translation type="unfinished">Эта папка уже используется другой программой синхронизации. Чтобы избежать конфликтов, выберите другую папку.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -204,16 +204,16 @@
         <translation>Несовместимая версия</translation>
     </message>
     <message>
-        <source>Change the sync folder</source>
-        <translation>Смена папки синхронизации</translation>
+        <source>Change sync folder</source>
+        <translation type="unfinished">Смена папки синхронизации</translation>
     </message>
     <message>
-        <source>Enter a complete file name without a folder path.</source>
-        <translation>Введите имя файла целиком, без пути к папке.</translation>
+        <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
+        <translation type="unfinished">Введите имя файла целиком, без пути к папке.</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]An error stopped setup, and its changes were undone.</source>
-        <translation>[DlgTitleFont]Установка прервана из-за ошибки, внесённые изменения отменены.</translation>
+        <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
+        <translation type="unfinished">[DlgTitleFont]Установка прервана из-за ошибки, внесённые изменения отменены.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -240,8 +240,8 @@
         <translation>Имя</translation>
     </message>
     <message>
-        <source>Encrypt data transfer with SSL</source>
-        <translation>Шифровать передаваемые данные с помощью SSL</translation>
+        <source>Use an encrypted connection (TLS)</source>
+        <translation type="unfinished">Шифровать передаваемые данные с помощью SSL</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -276,8 +276,8 @@
         <translation>У этого файла ещё нет предыдущих версий. Чтобы создать версию, измените файл и дождитесь его синхронизации.</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>Разорвать связь</translation>
+        <source>Disconnect</source>
+        <translation type="unfinished">Разорвать связь</translation>
     </message>
     <message>
         <source>Back</source>
@@ -316,8 +316,8 @@
         <translation>Применение параметров…</translation>
     </message>
     <message>
-        <source>Files that are not synced</source>
-        <translation>Файлы, которые не синхронизируются</translation>
+        <source>Files excluded from syncing</source>
+        <translation type="unfinished">Файлы, которые не синхронизируются</translation>
     </message>
     <message>
         <source>Created</source>
@@ -332,8 +332,8 @@
         <translation>Интернет</translation>
     </message>
     <message>
-        <source>Choose the shared folders to sync</source>
-        <translation>Выберите общие папки для синхронизации</translation>
+        <source>Choose shared folders to sync</source>
+        <translation type="unfinished">Выберите общие папки для синхронизации</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -360,8 +360,8 @@
         <translation>Исправляет ошибки установки [ProductName], восстанавливая отсутствующие или повреждённые файлы и ярлыки.</translation>
     </message>
     <message>
-        <source>Blocked file extensions</source>
-        <translation>Исключённые расширения файлов</translation>
+        <source>Excluded file extensions</source>
+        <translation type="unfinished">Исключённые расширения файлов</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -376,16 +376,16 @@
         <translation>Пароль</translation>
     </message>
     <message>
-        <source>The volume that holds the sync folder is not mounted. Mount the volume, then resume syncing.</source>
-        <translation>Том, на котором находится папка синхронизации, не смонтирован. Смонтируйте том и возобновите синхронизацию.</translation>
+        <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
+        <translation type="unfinished">Том, на котором находится папка синхронизации, не смонтирован. Смонтируйте том и возобновите синхронизацию.</translation>
     </message>
     <message>
         <source>Edit</source>
         <translation>Изменить</translation>
     </message>
     <message>
-        <source>This computer has no free disk space.</source>
-        <translation>На этом компьютере нет свободного места на диске.</translation>
+        <source>The drive that holds the sync folder is full.</source>
+        <translation type="unfinished">На этом компьютере нет свободного места на диске.</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -400,8 +400,8 @@
         <translation>П&amp;ропустить</translation>
     </message>
     <message>
-        <source>A folder with this name already exists. Do you want to merge its files with those on the server?</source>
-        <translation>Папка с таким именем уже существует. Объединить её файлы с файлами на сервере?</translation>
+        <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
+        <translation type="unfinished">Папка с таким именем уже существует. Объединить её файлы с файлами на сервере?</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
@@ -448,12 +448,12 @@
         <translation>Готово</translation>
     </message>
     <message>
-        <source>Syncing %1 files...</source>
-        <translation>Синхронизация файлов (%1)…</translation>
+        <source>Files being synced: %1</source>
+        <translation type="unfinished">Синхронизация файлов (%1)…</translation>
     </message>
     <message>
-        <source>Link again</source>
-        <translation>Установить связь заново</translation>
+        <source>Reconnect</source>
+        <translation type="unfinished">Установить связь заново</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -472,8 +472,8 @@
         <translation>Как в системе</translation>
     </message>
     <message>
-        <source>The folders and files you cleared will be removed from this computer. They will be kept on the server.</source>
-        <translation>Папки и файлы, с которых снят флажок, будут удалены с этого компьютера. На сервере они сохранятся.</translation>
+        <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
+        <translation type="unfinished">Папки и файлы, с которых снят флажок, будут удалены с этого компьютера. На сервере они сохранятся.</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
@@ -488,28 +488,28 @@
         <translation>Нет свободного места</translation>
     </message>
     <message>
-        <source>Inactive</source>
-        <translation>Неактивно</translation>
+        <source>Disconnected</source>
+        <translation type="unfinished">Неактивно</translation>
     </message>
     <message>
-        <source>Your quota on the server is full.</source>
-        <translation>Ваша квота на сервере исчерпана.</translation>
+        <source>You have used all of your space on the server.</source>
+        <translation type="unfinished">Ваша квота на сервере исчерпана.</translation>
     </message>
     <message>
-        <source>Unlink this connection?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>Разорвать связь для этого подключения?\nФайлы останутся на этом компьютере и на сервере, но больше не будут синхронизироваться.</translation>
+        <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">Разорвать связь для этого подключения?\nФайлы останутся на этом компьютере и на сервере, но больше не будут синхронизироваться.</translation>
     </message>
     <message>
-        <source>The relay service has a problem. Try again later, or connect with the IP address of the server.</source>
-        <translation>В работе службы ретрансляции возникла проблема. Повторите попытку позже или подключитесь по IP-адресу сервера.</translation>
+        <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
+        <translation type="unfinished">В работе службы ретрансляции возникла проблема. Повторите попытку позже или подключитесь по IP-адресу сервера.</translation>
     </message>
     <message>
         <source>Server ID</source>
         <translation>ID сервера</translation>
     </message>
     <message>
-        <source>Blocked file names</source>
-        <translation>Исключённые имена файлов</translation>
+        <source>Excluded file names</source>
+        <translation type="unfinished">Исключённые имена файлов</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -520,20 +520,20 @@
         <translation>Продолжить</translation>
     </message>
     <message>
-        <source>Enabled</source>
-        <translation>Включено</translation>
+        <source>Turned on</source>
+        <translation type="unfinished">Включено</translation>
     </message>
     <message>
-        <source>This computer has no free disk space. Free some space to continue syncing.</source>
-        <translation>На этом компьютере нет свободного места на диске. Чтобы продолжить синхронизацию, освободите место.</translation>
+        <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
+        <translation type="unfinished">На этом компьютере нет свободного места на диске. Чтобы продолжить синхронизацию, освободите место.</translation>
     </message>
     <message>
         <source>Folders to sync</source>
         <translation>Папки для синхронизации</translation>
     </message>
     <message>
-        <source>Choose a sync folder</source>
-        <translation>Выберите папку синхронизации</translation>
+        <source>Choose sync folder</source>
+        <translation type="unfinished">Выберите папку синхронизации</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -548,8 +548,8 @@
         <translation>Компьютер</translation>
     </message>
     <message>
-        <source>Your quota on the server is full. Delete files you do not need, or ask the server administrator for a larger quota.</source>
-        <translation>Ваша квота на сервере исчерпана. Удалите ненужные файлы или попросите администратора сервера увеличить квоту.</translation>
+        <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
+        <translation type="unfinished">Ваша квота на сервере исчерпана. Удалите ненужные файлы или попросите администратора сервера увеличить квоту.</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
@@ -564,12 +564,12 @@
         <translation>Использовать следующий прокси-сервер</translation>
     </message>
     <message>
-        <source>This file was changed in two places. Compare both copies, then keep the one you need.</source>
-        <translation>Этот файл был изменён в двух местах. Сравните обе копии и оставьте нужную.</translation>
+        <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
+        <translation type="unfinished">Этот файл был изменён в двух местах. Сравните обе копии и оставьте нужную.</translation>
     </message>
     <message>
-        <source>One place for your files on every computer, through a server of your own</source>
-        <translation>Единое место для файлов на всех ваших компьютерах&#xa0;— через собственный сервер</translation>
+        <source>All your files on every computer, kept on your own server</source>
+        <translation type="unfinished">Единое место для файлов на всех ваших компьютерах&#xa0;— через собственный сервер</translation>
     </message>
     <message>
         <source>OK</source>
@@ -580,8 +580,8 @@
         <translation>Показывать уведомления на рабочем столе</translation>
     </message>
     <message>
-        <source>The following applications use files that setup needs to update. Close them and click Retry, click Ignore to continue without closing them, or click Exit to leave setup.</source>
-        <translation>Следующие приложения используют файлы, которые требуется обновить. Закройте их и нажмите кнопку «Повторить». Чтобы продолжить, не закрывая приложения, нажмите кнопку «Пропустить», а чтобы прервать установку&#xa0;— кнопку «Выход».</translation>
+        <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
+        <translation type="unfinished">Следующие приложения используют файлы, которые требуется обновить. Закройте их и нажмите кнопку «Повторить». Чтобы продолжить, не закрывая приложения, нажмите кнопку «Пропустить», а чтобы прервать установку&#xa0;— кнопку «Выход».</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -596,12 +596,12 @@
         <translation>Файлы, соответствующие записям в этом списке, не синхронизируются.</translation>
     </message>
     <message>
-        <source>Edit connection</source>
-        <translation>Изменить подключение</translation>
+        <source>Edit connection...</source>
+        <translation type="unfinished">Изменить подключение</translation>
     </message>
     <message>
-        <source>Options</source>
-        <translation>Параметры</translation>
+        <source>Settings</source>
+        <translation>Настройки</translation>
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
@@ -624,36 +624,32 @@
         <translation>Приостановить</translation>
     </message>
     <message>
-        <source>Show icon overlays on filtered files</source>
-        <translation>Показывать значки состояния на отфильтрованных файлах</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Настройки</translation>
+        <source>Show icon overlays on excluded files</source>
+        <translation type="unfinished">Показывать значки состояния на отфильтрованных файлах</translation>
     </message>
     <message>
         <source>Loading...</source>
         <translation>Загрузка…</translation>
     </message>
     <message>
-        <source>You can sync at most %1 shared folders. Stop syncing one of them before you add another.</source>
-        <translation>Количество синхронизируемых общих папок не может превышать %1. Прежде чем добавить новую, отключите синхронизацию одной из них.</translation>
+        <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
+        <translation type="unfinished">Количество синхронизируемых общих папок не может превышать %1. Прежде чем добавить новую, отключите синхронизацию одной из них.</translation>
     </message>
     <message>
-        <source>Unlink this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>Разорвать связь для этого задания синхронизации?\nЕго файлы останутся на этом компьютере и на сервере, но больше не будут синхронизироваться.</translation>
+        <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">Разорвать связь для этого задания синхронизации?\nЕго файлы останутся на этом компьютере и на сервере, но больше не будут синхронизироваться.</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
         <translation>Запуск Quillmere…</translation>
     </message>
     <message>
-        <source>Quillmere could not be upgraded. Restart the computer, then try again.</source>
-        <translation>Не удалось обновить Quillmere. Перезагрузите компьютер и повторите попытку.</translation>
+        <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Не удалось обновить Quillmere. Перезагрузите компьютер и повторите попытку.</translation>
     </message>
     <message>
-        <source>Block names that begin with a dot</source>
-        <translation>Исключать имена, начинающиеся с точки</translation>
+        <source>Exclude names that begin with a dot</source>
+        <translation type="unfinished">Исключать имена, начинающиеся с точки</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -676,8 +672,8 @@
         <translation>Соединение с сервером установлено.</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}The [ProductName] Setup Wizard is complete</source>
-        <translation>{\VerdanaBold13}Мастер установки [ProductName] завершил работу</translation>
+        <source>{\VerdanaBold13}[ProductName] setup is complete</source>
+        <translation type="unfinished">{\VerdanaBold13}Мастер установки [ProductName] завершил работу</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -712,20 +708,20 @@
         <translation>Общая папка</translation>
     </message>
     <message>
-        <source>Client options</source>
-        <translation>Параметры клиента</translation>
+        <source>Quillmere settings</source>
+        <translation type="unfinished">Параметры клиента</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
         <translation>Не удалось удалить ссылку общего доступа. Проверьте соединение с сервером и повторите попытку.</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified. Ask the server administrator to check the certificate.</source>
-        <translation>Не удалось проверить SSL-сертификат сервера. Попросите администратора сервера проверить сертификат.</translation>
+        <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
+        <translation type="unfinished">Не удалось проверить SSL-сертификат сервера. Попросите администратора сервера проверить сертификат.</translation>
     </message>
     <message>
-        <source>This is not the server the connection was linked to. Check the server address, or link again.</source>
-        <translation>Это не тот сервер, с которым связано подключение. Проверьте адрес сервера или установите связь заново.</translation>
+        <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
+        <translation type="unfinished">Это не тот сервер, с которым связано подключение. Проверьте адрес сервера или установите связь заново.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -764,16 +760,16 @@
         <translation>Управление подключениями</translation>
     </message>
     <message>
-        <source>Link to another server</source>
-        <translation>Связать с другим сервером</translation>
+        <source>Connect to another server...</source>
+        <translation type="unfinished">Связать с другим сервером</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
         <translation>Показывать значки состояния на файлах</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]Setting up [ProductName]</source>
-        <translation>[DlgTitleFont]Настройка [ProductName]</translation>
+        <source>[DlgTitleFont]Making changes to [ProductName]</source>
+        <translation type="unfinished">[DlgTitleFont]Настройка [ProductName]</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -792,8 +788,8 @@
         <translation>&amp;Установить</translation>
     </message>
     <message>
-        <source>File filter</source>
-        <translation>Фильтр файлов</translation>
+        <source>Files to exclude</source>
+        <translation type="unfinished">Фильтр файлов</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -804,8 +800,8 @@
         <translation>Я н&amp;е принимаю условия лицензионного соглашения</translation>
     </message>
     <message>
-        <source>Something went wrong. Try again, and contact the server administrator if the problem continues.</source>
-        <translation>Произошла ошибка. Повторите попытку, а если проблема не исчезнет, обратитесь к администратору сервера.</translation>
+        <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Произошла ошибка. Повторите попытку, а если проблема не исчезнет, обратитесь к администратору сервера.</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -828,8 +824,8 @@
         <translation>Параметры прокси-сервера</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator, so Quillmere might not install completely. Do you want to continue?</source>
-        <translation>Вы вошли в систему без прав администратора, поэтому программа Quillmere может установиться не полностью. Продолжить?</translation>
+        <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
+        <translation type="unfinished">Вы вошли в систему без прав администратора, поэтому программа Quillmere может установиться не полностью. Продолжить?</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
@@ -876,8 +872,8 @@
         <translation>Папка является точкой монтирования</translation>
     </message>
     <message>
-        <source>Choose another folder</source>
-        <translation>Выбрать другую папку</translation>
+        <source>Choose another folder...</source>
+        <translation type="unfinished">Выбрать другую папку</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -900,12 +896,16 @@
         <translation>Введите адрес сервера и данные своей учётной записи на сервере.</translation>
     </message>
     <message>
-        <source>A different server was found at the server address.</source>
-        <translation>По адресу сервера обнаружен другой сервер.</translation>
+        <source>Remove</source>
+        <translation type="unfinished">Разорвать связь</translation>
     </message>
     <message>
-        <source>Linking to the server...</source>
-        <translation>Установка связи с сервером…</translation>
+        <source>Another server was found at the server address.</source>
+        <translation type="unfinished">По адресу сервера обнаружен другой сервер.</translation>
+    </message>
+    <message>
+        <source>Connecting to the server...</source>
+        <translation type="unfinished">Установка связи с сервером…</translation>
     </message>
     <message>
         <source>Port</source>
@@ -928,8 +928,8 @@
         <translation>Использовать системные параметры прокси-сервера</translation>
     </message>
     <message>
-        <source>Change folder</source>
-        <translation>Сменить папку</translation>
+        <source>Change folder...</source>
+        <translation type="unfinished">Сменить папку</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -944,8 +944,8 @@
         <translation>Скачивание…</translation>
     </message>
     <message>
-        <source>The file is locked</source>
-        <translation>Файл заблокирован</translation>
+        <source>File locked</source>
+        <translation type="unfinished">Файл заблокирован</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -956,8 +956,8 @@
         <translation>Подготовка…</translation>
     </message>
     <message>
-        <source>Updating files...</source>
-        <translation>Обновление файлов…</translation>
+        <source>Syncing files...</source>
+        <translation type="unfinished">Обновление файлов…</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -968,8 +968,8 @@
         <translation>Проверка имени пользователя и пароля…</translation>
     </message>
     <message>
-        <source>Wait while the Setup Wizard sets up [ProductName]. This can take several minutes.</source>
-        <translation>Подождите, пока мастер установки настроит [ProductName]. Это может занять несколько минут.</translation>
+        <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
+        <translation type="unfinished">Подождите, пока мастер установки настроит [ProductName]. Это может занять несколько минут.</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1020,24 +1020,24 @@
         <translation>Ссылка общего доступа скопирована в буфер обмена.</translation>
     </message>
     <message>
-        <source>The local sync folder was not found. Restore the folder or choose a different one.</source>
-        <translation>Локальная папка синхронизации не найдена. Восстановите папку или выберите другую.</translation>
+        <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
+        <translation type="unfinished">Локальная папка синхронизации не найдена. Восстановите папку или выберите другую.</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
         <translation>Обновление Quillmere</translation>
     </message>
     <message>
-        <source>Add sync task</source>
-        <translation>Добавить задание синхронизации</translation>
+        <source>Add sync task...</source>
+        <translation type="unfinished">Добавить задание синхронизации</translation>
     </message>
     <message>
-        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it.</source>
-        <translation>Общая папка не смонтирована на сервере. Попросите администратора сервера смонтировать её.</translation>
+        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
+        <translation type="unfinished">Общая папка не смонтирована на сервере. Попросите администратора сервера смонтировать её.</translation>
     </message>
     <message>
-        <source>The server sent an unexpected response. Upgrade the client and the server, then try again.</source>
-        <translation>Получен неожиданный ответ сервера. Обновите клиент и сервер, затем повторите попытку.</translation>
+        <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Получен неожиданный ответ сервера. Обновите клиент и сервер, затем повторите попытку.</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1052,8 +1052,8 @@
         <translation>Укажите размер не более %1&#xa0;МБ.</translation>
     </message>
     <message>
-        <source>Checking the data...</source>
-        <translation>Проверка данных…</translation>
+        <source>Checking files...</source>
+        <translation type="unfinished">Проверка данных…</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
@@ -1064,8 +1064,8 @@
         <translation>Нажмите кнопку «Установить», чтобы начать установку [ProductName]. Нажмите кнопку «Назад», чтобы проверить выбранные параметры, или кнопку «Отмена», чтобы выйти из мастера установки.</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}[ProductName] setup was interrupted</source>
-        <translation>{\VerdanaBold13}Установка [ProductName] прервана</translation>
+        <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
+        <translation type="unfinished">{\VerdanaBold13}Установка [ProductName] прервана</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1092,8 +1092,8 @@
         <translation>Параметры сети</translation>
     </message>
     <message>
-        <source>This folder is already synced with another shared folder. Choose a different folder.</source>
-        <translation>Эта папка уже синхронизируется с другой общей папкой. Выберите другую папку.</translation>
+        <source>This folder is already synced with another shared folder. Choose another folder.</source>
+        <translation type="unfinished">Эта папка уже синхронизируется с другой общей папкой. Выберите другую папку.</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1132,24 +1132,24 @@
         <translation>Запускать Quillmere при входе в систему на этом компьютере</translation>
     </message>
     <message>
-        <source>All files from both folders are kept. If two versions of a file differ, you get both.</source>
-        <translation>Сохраняются все файлы из обеих папок. Если две версии файла различаются, останутся обе.</translation>
+        <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
+        <translation type="unfinished">Сохраняются все файлы из обеих папок. Если две версии файла различаются, останутся обе.</translation>
     </message>
     <message>
         <source>Repair the installation</source>
         <translation>Восстановить установленную программу</translation>
     </message>
     <message>
-        <source>Sync enabled</source>
-        <translation>Синхронизация включена</translation>
+        <source>Syncing turned on</source>
+        <translation type="unfinished">Синхронизация включена</translation>
     </message>
     <message>
-        <source>Quillmere could not start. Restart the computer, then start Quillmere again.</source>
-        <translation>Не удалось запустить Quillmere. Перезагрузите компьютер и запустите Quillmere снова.</translation>
+        <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Не удалось запустить Quillmere. Перезагрузите компьютер и запустите Quillmere снова.</translation>
     </message>
     <message>
-        <source>Do you want to cancel the setup of [ProductName]?</source>
-        <translation>Отменить установку [ProductName]?</translation>
+        <source>Cancel the setup of [ProductName]?</source>
+        <translation type="unfinished">Отменить установку [ProductName]?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1172,28 +1172,28 @@
         <translation>Дополнительные параметры</translation>
     </message>
     <message>
-        <source>Browse versions</source>
-        <translation>Просмотреть версии</translation>
+        <source>Browse versions...</source>
+        <translation type="unfinished">Просмотреть версии</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
         <translation>[DlgTitleFont]&amp;Изменить</translation>
     </message>
     <message>
-        <source>This connection is inactive. Link it again to continue syncing.</source>
-        <translation>Это подключение неактивно. Чтобы продолжить синхронизацию, установите связь заново.</translation>
+        <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
+        <translation type="unfinished">Это подключение неактивно. Чтобы продолжить синхронизацию, установите связь заново.</translation>
     </message>
     <message>
         <source>Detecting...</source>
         <translation>Определение…</translation>
     </message>
     <message>
-        <source>SSL warning</source>
-        <translation>Предупреждение SSL</translation>
+        <source>Certificate warning</source>
+        <translation type="unfinished">Предупреждение SSL</translation>
     </message>
     <message>
-        <source>The relay service cannot be reached. Check your Internet connection, then try again.</source>
-        <translation>Служба ретрансляции недоступна. Проверьте подключение к Интернету и повторите попытку.</translation>
+        <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
+        <translation type="unfinished">Служба ретрансляции недоступна. Проверьте подключение к Интернету и повторите попытку.</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
@@ -1232,24 +1232,24 @@
         <translation>Прямое подключение</translation>
     </message>
     <message>
-        <source>The server volume that holds this folder is not mounted. Ask the server administrator to mount it.</source>
-        <translation>Том сервера, на котором находится эта папка, не смонтирован. Попросите администратора сервера смонтировать его.</translation>
+        <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
+        <translation type="unfinished">Том сервера, на котором находится эта папка, не смонтирован. Попросите администратора сервера смонтировать его.</translation>
     </message>
     <message>
-        <source>This version of Quillmere is already installed. Do you want to install it again?</source>
-        <translation>Эта версия Quillmere уже установлена. Установить её ещё раз?</translation>
+        <source>This version of Quillmere is already installed. Install it again?</source>
+        <translation type="unfinished">Эта версия Quillmere уже установлена. Установить её ещё раз?</translation>
     </message>
     <message>
-        <source>This client is too old for the server. Upgrade the client, then try again.</source>
-        <translation>Версия этого клиента слишком старая для сервера. Обновите клиент и повторите попытку.</translation>
+        <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
+        <translation type="unfinished">Версия этого клиента слишком старая для сервера. Обновите клиент и повторите попытку.</translation>
     </message>
     <message>
-        <source>The server is too old for this client.</source>
-        <translation>Версия сервера слишком старая для этого клиента.</translation>
+        <source>Quillmere on the server is too old to work with this computer.</source>
+        <translation type="unfinished">Версия сервера слишком старая для этого клиента.</translation>
     </message>
     <message>
-        <source>Disabled</source>
-        <translation>Отключено</translation>
+        <source>Turned off</source>
+        <translation type="unfinished">Отключено</translation>
     </message>
 </context>
 </TS>

@@ -40,8 +40,8 @@
         <translation>Anslutningsläge</translation>
     </message>
     <message>
-        <source>The local database is damaged. Unlink the connection, then link it again to rebuild the database.</source>
-        <translation>Den lokala databasen är skadad. Avlänka anslutningen och länka den igen för att återskapa databasen.</translation>
+        <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Den lokala databasen är skadad. Avlänka anslutningen och länka den igen för att återskapa databasen.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
@@ -56,8 +56,8 @@
         <translation>[DlgTitleFont]Redo att ta bort [ProductName]</translation>
     </message>
     <message>
-        <source>The server has been replaced. Click here to link again.</source>
-        <translation>Servern har bytts ut. Klicka här för att länka igen.</translation>
+        <source>The server has been replaced. Click here to reconnect.</source>
+        <translation type="unfinished">Servern har bytts ut. Klicka här för att länka igen.</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -68,16 +68,16 @@
         <translation>Med installationsguiden kan du ändra, reparera eller ta bort [ProductName]. Klicka på Nästa för att fortsätta eller på Avbryt för att avsluta installationsguiden.</translation>
     </message>
     <message>
-        <source>Block list</source>
-        <translation>Blockeringslista</translation>
+        <source>Exclusion list</source>
+        <translation type="unfinished">Blockeringslista</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
         <translation>Vill du ta bort delningslänken?\nPersoner som har länken kan då inte längre öppna filen.</translation>
     </message>
     <message>
-        <source>This client is too old for the server.</source>
-        <translation>Klienten är för gammal för servern.</translation>
+        <source>Quillmere on this computer is too old to work with the server.</source>
+        <translation type="unfinished">Klienten är för gammal för servern.</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
@@ -96,16 +96,16 @@
         <translation>Testar anslutningen...</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server is not trusted, so others may be able to read the data you send. Do you want to continue?</source>
-        <translation>Serverns SSL-certifikat är inte betrott, och andra kan därför eventuellt läsa de data du skickar. Vill du fortsätta?</translation>
+        <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
+        <translation type="unfinished">Serverns SSL-certifikat är inte betrott, och andra kan därför eventuellt läsa de data du skickar. Vill du fortsätta?</translation>
     </message>
     <message>
         <source>New shared folder</source>
         <translation>Ny delad mapp</translation>
     </message>
     <message>
-        <source>About</source>
-        <translation>Om</translation>
+        <source>About Quillmere</source>
+        <translation type="unfinished">Om</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
@@ -120,8 +120,8 @@
         <translation>Installationsguiden är redo att påbörja borttagningen.</translation>
     </message>
     <message>
-        <source>This computer is already linked to this server. Edit the existing connection or enter a different server.</source>
-        <translation>Den här datorn är redan länkad till servern. Redigera den befintliga anslutningen eller ange en annan server.</translation>
+        <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
+        <translation type="unfinished">Den här datorn är redan länkad till servern. Redigera den befintliga anslutningen eller ange en annan server.</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -132,12 +132,12 @@
         <translation>Anslutningen till servern bröts. Kontrollera nätverksanslutningen och försök igen.</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified.</source>
-        <translation>Serverns SSL-certifikat kunde inte verifieras.</translation>
+        <source>The certificate of the server could not be verified.</source>
+        <translation type="unfinished">Serverns SSL-certifikat kunde inte verifieras.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
-        <translation>Använd en svartvit ikon i systemfältet</translation>
+        <source>Use a black-and-white tray icon</source>
+        <translation type="unfinished">Använd en svartvit ikon i systemfältet</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -152,20 +152,20 @@
         <translation>Synkroniseringsuppgifter</translation>
     </message>
     <message>
-        <source>Blocked files</source>
-        <translation>Blockerade filer</translation>
+        <source>Excluded files</source>
+        <translation type="unfinished">Blockerade filer</translation>
     </message>
     <message>
         <source>No permission</source>
         <translation>Behörighet saknas</translation>
     </message>
     <message>
-        <source>The server is too old for this client. Ask the server administrator to upgrade it.</source>
-        <translation>Servern är för gammal för klienten. Be serveradministratören att uppgradera servern.</translation>
+        <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
+        <translation type="unfinished">Servern är för gammal för klienten. Be serveradministratören att uppgradera servern.</translation>
     </message>
     <message>
-        <source>To try again, run setup again later. Click Finish to exit the Setup Wizard.</source>
-        <translation>Kör installationen igen senare om du vill göra ett nytt försök. Klicka på Slutför för att avsluta installationsguiden.</translation>
+        <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
+        <translation type="unfinished">Kör installationen igen senare om du vill göra ett nytt försök. Klicka på Slutför för att avsluta installationsguiden.</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -180,8 +180,8 @@
         <translation>Klicka på Reparera för att reparera installationen av [ProductName]. Klicka på Bakåt för att granska dina val eller på Avbryt för att avsluta installationsguiden.</translation>
     </message>
     <message>
-        <source>Some settings have not been saved. Do you want to save them?</source>
-        <translation>Vissa inställningar har inte sparats. Vill du spara dem?</translation>
+        <source>Some settings have not been saved. Save them?</source>
+        <translation type="unfinished">Vissa inställningar har inte sparats. Vill du spara dem?</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -192,8 +192,8 @@
         <translation>Åtgärd</translation>
     </message>
     <message>
-        <source>This folder is already used by another sync program. Choose a different folder to avoid conflicts.</source>
-        <translation>Mappen används redan av ett annat synkroniseringsprogram. Välj en annan mapp för att undvika konflikter.</translation>
+        <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
+        <translation type="unfinished">Mappen används redan av ett annat synkroniseringsprogram. Välj en annan mapp för att undvika konflikter.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -204,16 +204,16 @@
         <translation>Inkompatibel version</translation>
     </message>
     <message>
-        <source>Change the sync folder</source>
-        <translation>Byt synkroniseringsmapp</translation>
+        <source>Change sync folder</source>
+        <translation type="unfinished">Byt synkroniseringsmapp</translation>
     </message>
     <message>
-        <source>Enter a complete file name without a folder path.</source>
-        <translation>Ange ett fullständigt filnamn utan mappsökväg.</translation>
+        <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
+        <translation type="unfinished">Ange ett fullständigt filnamn utan mappsökväg.</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]An error stopped setup, and its changes were undone.</source>
-        <translation>[DlgTitleFont]Ett fel stoppade installationen, och ändringarna har ångrats.</translation>
+        <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
+        <translation type="unfinished">[DlgTitleFont]Ett fel stoppade installationen, och ändringarna har ångrats.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -240,8 +240,8 @@
         <translation>Namn</translation>
     </message>
     <message>
-        <source>Encrypt data transfer with SSL</source>
-        <translation>Kryptera dataöverföringen med SSL</translation>
+        <source>Use an encrypted connection (TLS)</source>
+        <translation type="unfinished">Kryptera dataöverföringen med SSL</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -276,8 +276,8 @@
         <translation>Den här filen har inga tidigare versioner än. Om du ändrar filen och låter den synkroniseras skapas en.</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>Avlänka</translation>
+        <source>Disconnect</source>
+        <translation type="unfinished">Avlänka</translation>
     </message>
     <message>
         <source>Back</source>
@@ -316,8 +316,8 @@
         <translation>Tillämpar inställningarna...</translation>
     </message>
     <message>
-        <source>Files that are not synced</source>
-        <translation>Filer som inte synkroniseras</translation>
+        <source>Files excluded from syncing</source>
+        <translation type="unfinished">Filer som inte synkroniseras</translation>
     </message>
     <message>
         <source>Created</source>
@@ -332,8 +332,8 @@
         <translation>Internet</translation>
     </message>
     <message>
-        <source>Choose the shared folders to sync</source>
-        <translation>Välj vilka delade mappar som ska synkroniseras</translation>
+        <source>Choose shared folders to sync</source>
+        <translation type="unfinished">Välj vilka delade mappar som ska synkroniseras</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -360,8 +360,8 @@
         <translation>Reparerar fel i installationen av [ProductName] genom att återställa filer och genvägar som saknas eller är skadade.</translation>
     </message>
     <message>
-        <source>Blocked file extensions</source>
-        <translation>Blockerade filnamnstillägg</translation>
+        <source>Excluded file extensions</source>
+        <translation type="unfinished">Blockerade filnamnstillägg</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -376,16 +376,16 @@
         <translation>Lösenord</translation>
     </message>
     <message>
-        <source>The volume that holds the sync folder is not mounted. Mount the volume, then resume syncing.</source>
-        <translation>Volymen som innehåller synkroniseringsmappen är inte monterad. Montera volymen och återuppta sedan synkroniseringen.</translation>
+        <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
+        <translation type="unfinished">Volymen som innehåller synkroniseringsmappen är inte monterad. Montera volymen och återuppta sedan synkroniseringen.</translation>
     </message>
     <message>
         <source>Edit</source>
         <translation>Redigera</translation>
     </message>
     <message>
-        <source>This computer has no free disk space.</source>
-        <translation>Det finns inget ledigt diskutrymme på den här datorn.</translation>
+        <source>The drive that holds the sync folder is full.</source>
+        <translation type="unfinished">Det finns inget ledigt diskutrymme på den här datorn.</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -400,8 +400,8 @@
         <translation>&amp;Ignorera</translation>
     </message>
     <message>
-        <source>A folder with this name already exists. Do you want to merge its files with those on the server?</source>
-        <translation>Det finns redan en mapp med det här namnet. Vill du slå samman dess filer med filerna på servern?</translation>
+        <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
+        <translation type="unfinished">Det finns redan en mapp med det här namnet. Vill du slå samman dess filer med filerna på servern?</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
@@ -448,12 +448,12 @@
         <translation>Klar</translation>
     </message>
     <message>
-        <source>Syncing %1 files...</source>
-        <translation>Synkroniserar filer (%1)...</translation>
+        <source>Files being synced: %1</source>
+        <translation type="unfinished">Synkroniserar filer (%1)...</translation>
     </message>
     <message>
-        <source>Link again</source>
-        <translation>Länka igen</translation>
+        <source>Reconnect</source>
+        <translation type="unfinished">Länka igen</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -472,8 +472,8 @@
         <translation>Systemets standardspråk</translation>
     </message>
     <message>
-        <source>The folders and files you cleared will be removed from this computer. They will be kept on the server.</source>
-        <translation>Mapparna och filerna som du avmarkerade tas bort från den här datorn. De finns kvar på servern.</translation>
+        <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
+        <translation type="unfinished">Mapparna och filerna som du avmarkerade tas bort från den här datorn. De finns kvar på servern.</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
@@ -488,28 +488,28 @@
         <translation>Inget utrymme kvar</translation>
     </message>
     <message>
-        <source>Inactive</source>
-        <translation>Inaktiv</translation>
+        <source>Disconnected</source>
+        <translation type="unfinished">Inaktiv</translation>
     </message>
     <message>
-        <source>Your quota on the server is full.</source>
-        <translation>Din kvot på servern är full.</translation>
+        <source>You have used all of your space on the server.</source>
+        <translation type="unfinished">Din kvot på servern är full.</translation>
     </message>
     <message>
-        <source>Unlink this connection?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>Vill du avlänka anslutningen?\nDina filer finns kvar på den här datorn och på servern, men de synkroniseras inte längre.</translation>
+        <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">Vill du avlänka anslutningen?\nDina filer finns kvar på den här datorn och på servern, men de synkroniseras inte längre.</translation>
     </message>
     <message>
-        <source>The relay service has a problem. Try again later, or connect with the IP address of the server.</source>
-        <translation>Ett problem uppstod i relätjänsten. Försök igen senare eller anslut med serverns IP-adress.</translation>
+        <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
+        <translation type="unfinished">Ett problem uppstod i relätjänsten. Försök igen senare eller anslut med serverns IP-adress.</translation>
     </message>
     <message>
         <source>Server ID</source>
         <translation>Server-ID</translation>
     </message>
     <message>
-        <source>Blocked file names</source>
-        <translation>Blockerade filnamn</translation>
+        <source>Excluded file names</source>
+        <translation type="unfinished">Blockerade filnamn</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -520,20 +520,20 @@
         <translation>Fortsätt</translation>
     </message>
     <message>
-        <source>Enabled</source>
-        <translation>Aktiverad</translation>
+        <source>Turned on</source>
+        <translation type="unfinished">Aktiverad</translation>
     </message>
     <message>
-        <source>This computer has no free disk space. Free some space to continue syncing.</source>
-        <translation>Det finns inget ledigt diskutrymme på den här datorn. Frigör utrymme för att fortsätta synkronisera.</translation>
+        <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
+        <translation type="unfinished">Det finns inget ledigt diskutrymme på den här datorn. Frigör utrymme för att fortsätta synkronisera.</translation>
     </message>
     <message>
         <source>Folders to sync</source>
         <translation>Mappar att synkronisera</translation>
     </message>
     <message>
-        <source>Choose a sync folder</source>
-        <translation>Välj en synkroniseringsmapp</translation>
+        <source>Choose sync folder</source>
+        <translation type="unfinished">Välj en synkroniseringsmapp</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -548,8 +548,8 @@
         <translation>Dator</translation>
     </message>
     <message>
-        <source>Your quota on the server is full. Delete files you do not need, or ask the server administrator for a larger quota.</source>
-        <translation>Din kvot på servern är full. Ta bort filer som du inte behöver eller be serveradministratören om en större kvot.</translation>
+        <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
+        <translation type="unfinished">Din kvot på servern är full. Ta bort filer som du inte behöver eller be serveradministratören om en större kvot.</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
@@ -564,12 +564,12 @@
         <translation>Använd följande proxyserver</translation>
     </message>
     <message>
-        <source>This file was changed in two places. Compare both copies, then keep the one you need.</source>
-        <translation>Den här filen har ändrats på två ställen. Jämför de båda kopiorna och behåll den som du behöver.</translation>
+        <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
+        <translation type="unfinished">Den här filen har ändrats på två ställen. Jämför de båda kopiorna och behåll den som du behöver.</translation>
     </message>
     <message>
-        <source>One place for your files on every computer, through a server of your own</source>
-        <translation>En enda plats för dina filer på alla datorer, via din egen server</translation>
+        <source>All your files on every computer, kept on your own server</source>
+        <translation type="unfinished">En enda plats för dina filer på alla datorer, via din egen server</translation>
     </message>
     <message>
         <source>OK</source>
@@ -580,8 +580,8 @@
         <translation>Visa skrivbordsaviseringar</translation>
     </message>
     <message>
-        <source>The following applications use files that setup needs to update. Close them and click Retry, click Ignore to continue without closing them, or click Exit to leave setup.</source>
-        <translation>Följande program använder filer som behöver uppdateras under installationen. Stäng programmen och klicka på Försök igen, klicka på Ignorera för att fortsätta utan att stänga dem eller klicka på Avsluta för att lämna installationen.</translation>
+        <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
+        <translation type="unfinished">Följande program använder filer som behöver uppdateras under installationen. Stäng programmen och klicka på Försök igen, klicka på Ignorera för att fortsätta utan att stänga dem eller klicka på Avsluta för att lämna installationen.</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -596,12 +596,12 @@
         <translation>Filer som matchar en post i listan synkroniseras inte.</translation>
     </message>
     <message>
-        <source>Edit connection</source>
-        <translation>Redigera anslutning</translation>
+        <source>Edit connection...</source>
+        <translation type="unfinished">Redigera anslutning</translation>
     </message>
     <message>
-        <source>Options</source>
-        <translation>Alternativ</translation>
+        <source>Settings</source>
+        <translation>Inställningar</translation>
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
@@ -624,36 +624,32 @@
         <translation>Pausa</translation>
     </message>
     <message>
-        <source>Show icon overlays on filtered files</source>
-        <translation>Visa ikonöverlägg på filtrerade filer</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Inställningar</translation>
+        <source>Show icon overlays on excluded files</source>
+        <translation type="unfinished">Visa ikonöverlägg på filtrerade filer</translation>
     </message>
     <message>
         <source>Loading...</source>
         <translation>Läser in...</translation>
     </message>
     <message>
-        <source>You can sync at most %1 shared folders. Stop syncing one of them before you add another.</source>
-        <translation>Det högsta antalet delade mappar som kan synkroniseras är %1. Sluta synkronisera en av dem innan du lägger till en ny.</translation>
+        <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
+        <translation type="unfinished">Det högsta antalet delade mappar som kan synkroniseras är %1. Sluta synkronisera en av dem innan du lägger till en ny.</translation>
     </message>
     <message>
-        <source>Unlink this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>Vill du avlänka synkroniseringsuppgiften?\nDess filer finns kvar på den här datorn och på servern, men de synkroniseras inte längre.</translation>
+        <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">Vill du avlänka synkroniseringsuppgiften?\nDess filer finns kvar på den här datorn och på servern, men de synkroniseras inte längre.</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
         <translation>Startar Quillmere...</translation>
     </message>
     <message>
-        <source>Quillmere could not be upgraded. Restart the computer, then try again.</source>
-        <translation>Det gick inte att uppgradera Quillmere. Starta om datorn och försök igen.</translation>
+        <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Det gick inte att uppgradera Quillmere. Starta om datorn och försök igen.</translation>
     </message>
     <message>
-        <source>Block names that begin with a dot</source>
-        <translation>Blockera namn som börjar med en punkt</translation>
+        <source>Exclude names that begin with a dot</source>
+        <translation type="unfinished">Blockera namn som börjar med en punkt</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -676,8 +672,8 @@
         <translation>Ansluten till servern.</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}The [ProductName] Setup Wizard is complete</source>
-        <translation>{\VerdanaBold13}Installationsguiden för [ProductName] är klar</translation>
+        <source>{\VerdanaBold13}[ProductName] setup is complete</source>
+        <translation type="unfinished">{\VerdanaBold13}Installationsguiden för [ProductName] är klar</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -712,20 +708,20 @@
         <translation>Delad mapp</translation>
     </message>
     <message>
-        <source>Client options</source>
-        <translation>Klientalternativ</translation>
+        <source>Quillmere settings</source>
+        <translation type="unfinished">Klientalternativ</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
         <translation>Det gick inte att ta bort delningslänken. Kontrollera anslutningen till servern och försök igen.</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified. Ask the server administrator to check the certificate.</source>
-        <translation>Serverns SSL-certifikat kunde inte verifieras. Be serveradministratören att kontrollera certifikatet.</translation>
+        <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
+        <translation type="unfinished">Serverns SSL-certifikat kunde inte verifieras. Be serveradministratören att kontrollera certifikatet.</translation>
     </message>
     <message>
-        <source>This is not the server the connection was linked to. Check the server address, or link again.</source>
-        <translation>Det här är inte servern som anslutningen länkades till. Kontrollera serveradressen eller länka igen.</translation>
+        <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
+        <translation type="unfinished">Det här är inte servern som anslutningen länkades till. Kontrollera serveradressen eller länka igen.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -764,16 +760,16 @@
         <translation>Hantera anslutningar</translation>
     </message>
     <message>
-        <source>Link to another server</source>
-        <translation>Länka till en annan server</translation>
+        <source>Connect to another server...</source>
+        <translation type="unfinished">Länka till en annan server</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
         <translation>Visa ikonöverlägg</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]Setting up [ProductName]</source>
-        <translation>[DlgTitleFont]Konfigurerar [ProductName]</translation>
+        <source>[DlgTitleFont]Making changes to [ProductName]</source>
+        <translation type="unfinished">[DlgTitleFont]Konfigurerar [ProductName]</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -792,8 +788,8 @@
         <translation>&amp;Installera</translation>
     </message>
     <message>
-        <source>File filter</source>
-        <translation>Filfilter</translation>
+        <source>Files to exclude</source>
+        <translation type="unfinished">Filfilter</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -804,8 +800,8 @@
         <translation>Jag godkänner &amp;inte villkoren i licensavtalet</translation>
     </message>
     <message>
-        <source>Something went wrong. Try again, and contact the server administrator if the problem continues.</source>
-        <translation>Något gick fel. Försök igen och kontakta serveradministratören om problemet kvarstår.</translation>
+        <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Något gick fel. Försök igen och kontakta serveradministratören om problemet kvarstår.</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -828,8 +824,8 @@
         <translation>Proxyinställningar</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator, so Quillmere might not install completely. Do you want to continue?</source>
-        <translation>Du är inte inloggad som administratör, så Quillmere kanske inte installeras fullständigt. Vill du fortsätta?</translation>
+        <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
+        <translation type="unfinished">Du är inte inloggad som administratör, så Quillmere kanske inte installeras fullständigt. Vill du fortsätta?</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
@@ -876,8 +872,8 @@
         <translation>Mappen är en monteringspunkt</translation>
     </message>
     <message>
-        <source>Choose another folder</source>
-        <translation>Välj en annan mapp</translation>
+        <source>Choose another folder...</source>
+        <translation type="unfinished">Välj en annan mapp</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -900,12 +896,16 @@
         <translation>Ange serveradressen och det konto som du använder på servern.</translation>
     </message>
     <message>
-        <source>A different server was found at the server address.</source>
-        <translation>En annan server hittades på serveradressen.</translation>
+        <source>Remove</source>
+        <translation type="unfinished">Avlänka</translation>
     </message>
     <message>
-        <source>Linking to the server...</source>
-        <translation>Länkar till servern...</translation>
+        <source>Another server was found at the server address.</source>
+        <translation type="unfinished">En annan server hittades på serveradressen.</translation>
+    </message>
+    <message>
+        <source>Connecting to the server...</source>
+        <translation type="unfinished">Länkar till servern...</translation>
     </message>
     <message>
         <source>Port</source>
@@ -928,8 +928,8 @@
         <translation>Använd systemets proxyinställningar</translation>
     </message>
     <message>
-        <source>Change folder</source>
-        <translation>Byt mapp</translation>
+        <source>Change folder...</source>
+        <translation type="unfinished">Byt mapp</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -944,8 +944,8 @@
         <translation>Hämtar...</translation>
     </message>
     <message>
-        <source>The file is locked</source>
-        <translation>Filen är låst</translation>
+        <source>File locked</source>
+        <translation type="unfinished">Filen är låst</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -956,8 +956,8 @@
         <translation>Förbereder...</translation>
     </message>
     <message>
-        <source>Updating files...</source>
-        <translation>Uppdaterar filer...</translation>
+        <source>Syncing files...</source>
+        <translation type="unfinished">Uppdaterar filer...</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -968,8 +968,8 @@
         <translation>Kontrollerar användarnamnet och lösenordet...</translation>
     </message>
     <message>
-        <source>Wait while the Setup Wizard sets up [ProductName]. This can take several minutes.</source>
-        <translation>Vänta medan installationsguiden konfigurerar [ProductName]. Det kan ta flera minuter.</translation>
+        <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
+        <translation type="unfinished">Vänta medan installationsguiden konfigurerar [ProductName]. Det kan ta flera minuter.</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1020,24 +1020,24 @@
         <translation>Delningslänken har kopierats till Urklipp.</translation>
     </message>
     <message>
-        <source>The local sync folder was not found. Restore the folder or choose a different one.</source>
-        <translation>Den lokala synkroniseringsmappen hittades inte. Återställ mappen eller välj en annan.</translation>
+        <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
+        <translation type="unfinished">Den lokala synkroniseringsmappen hittades inte. Återställ mappen eller välj en annan.</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
         <translation>Uppgradera Quillmere</translation>
     </message>
     <message>
-        <source>Add sync task</source>
-        <translation>Lägg till synkroniseringsuppgift</translation>
+        <source>Add sync task...</source>
+        <translation type="unfinished">Lägg till synkroniseringsuppgift</translation>
     </message>
     <message>
-        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it.</source>
-        <translation>Den delade mappen är inte monterad på servern. Be serveradministratören att montera den.</translation>
+        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
+        <translation type="unfinished">Den delade mappen är inte monterad på servern. Be serveradministratören att montera den.</translation>
     </message>
     <message>
-        <source>The server sent an unexpected response. Upgrade the client and the server, then try again.</source>
-        <translation>Servern skickade ett oväntat svar. Uppgradera klienten och servern och försök igen.</translation>
+        <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Servern skickade ett oväntat svar. Uppgradera klienten och servern och försök igen.</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1052,8 +1052,8 @@
         <translation>Ange en storlek på högst %1&#xa0;MB.</translation>
     </message>
     <message>
-        <source>Checking the data...</source>
-        <translation>Kontrollerar data...</translation>
+        <source>Checking files...</source>
+        <translation type="unfinished">Kontrollerar data...</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
@@ -1064,8 +1064,8 @@
         <translation>Klicka på Installera för att påbörja installationen av [ProductName]. Klicka på Bakåt för att granska dina val eller på Avbryt för att avsluta installationsguiden.</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}[ProductName] setup was interrupted</source>
-        <translation>{\VerdanaBold13}Installationen av [ProductName] avbröts</translation>
+        <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
+        <translation type="unfinished">{\VerdanaBold13}Installationen av [ProductName] avbröts</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1092,8 +1092,8 @@
         <translation>Nätverksinställningar</translation>
     </message>
     <message>
-        <source>This folder is already synced with another shared folder. Choose a different folder.</source>
-        <translation>Den här mappen synkroniseras redan med en annan delad mapp. Välj en annan mapp.</translation>
+        <source>This folder is already synced with another shared folder. Choose another folder.</source>
+        <translation type="unfinished">Den här mappen synkroniseras redan med en annan delad mapp. Välj en annan mapp.</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1132,24 +1132,24 @@
         <translation>Starta Quillmere när jag loggar in på den här datorn</translation>
     </message>
     <message>
-        <source>All files from both folders are kept. If two versions of a file differ, you get both.</source>
-        <translation>Alla filer från båda mapparna behålls. Om två versioner av en fil skiljer sig åt får du båda.</translation>
+        <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
+        <translation type="unfinished">Alla filer från båda mapparna behålls. Om två versioner av en fil skiljer sig åt får du båda.</translation>
     </message>
     <message>
         <source>Repair the installation</source>
         <translation>Reparera installationen</translation>
     </message>
     <message>
-        <source>Sync enabled</source>
-        <translation>Synkronisering aktiverad</translation>
+        <source>Syncing turned on</source>
+        <translation type="unfinished">Synkronisering aktiverad</translation>
     </message>
     <message>
-        <source>Quillmere could not start. Restart the computer, then start Quillmere again.</source>
-        <translation>Quillmere kunde inte startas. Starta om datorn och starta sedan Quillmere igen.</translation>
+        <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Quillmere kunde inte startas. Starta om datorn och starta sedan Quillmere igen.</translation>
     </message>
     <message>
-        <source>Do you want to cancel the setup of [ProductName]?</source>
-        <translation>Vill du avbryta installationen av [ProductName]?</translation>
+        <source>Cancel the setup of [ProductName]?</source>
+        <translation type="unfinished">Vill du avbryta installationen av [ProductName]?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1172,28 +1172,28 @@
         <translation>Avancerade inställningar</translation>
     </message>
     <message>
-        <source>Browse versions</source>
-        <translation>Bläddra bland versioner</translation>
+        <source>Browse versions...</source>
+        <translation type="unfinished">Bläddra bland versioner</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
         <translation>[DlgTitleFont]Än&amp;dra</translation>
     </message>
     <message>
-        <source>This connection is inactive. Link it again to continue syncing.</source>
-        <translation>Den här anslutningen är inaktiv. Länka den igen för att fortsätta synkronisera.</translation>
+        <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
+        <translation type="unfinished">Den här anslutningen är inaktiv. Länka den igen för att fortsätta synkronisera.</translation>
     </message>
     <message>
         <source>Detecting...</source>
         <translation>Identifierar...</translation>
     </message>
     <message>
-        <source>SSL warning</source>
-        <translation>SSL-varning</translation>
+        <source>Certificate warning</source>
+        <translation type="unfinished">SSL-varning</translation>
     </message>
     <message>
-        <source>The relay service cannot be reached. Check your Internet connection, then try again.</source>
-        <translation>Relätjänsten kan inte nås. Kontrollera internetanslutningen och försök igen.</translation>
+        <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
+        <translation type="unfinished">Relätjänsten kan inte nås. Kontrollera internetanslutningen och försök igen.</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
@@ -1232,24 +1232,24 @@
         <translation>Direktanslutning</translation>
     </message>
     <message>
-        <source>The server volume that holds this folder is not mounted. Ask the server administrator to mount it.</source>
-        <translation>Servervolymen som innehåller den här mappen är inte monterad. Be serveradministratören att montera den.</translation>
+        <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
+        <translation type="unfinished">Servervolymen som innehåller den här mappen är inte monterad. Be serveradministratören att montera den.</translation>
     </message>
     <message>
-        <source>This version of Quillmere is already installed. Do you want to install it again?</source>
-        <translation>Den här versionen av Quillmere är redan installerad. Vill du installera den igen?</translation>
+        <source>This version of Quillmere is already installed. Install it again?</source>
+        <translation type="unfinished">Den här versionen av Quillmere är redan installerad. Vill du installera den igen?</translation>
     </message>
     <message>
-        <source>This client is too old for the server. Upgrade the client, then try again.</source>
-        <translation>Klienten är för gammal för servern. Uppgradera klienten och försök igen.</translation>
+        <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
+        <translation type="unfinished">Klienten är för gammal för servern. Uppgradera klienten och försök igen.</translation>
     </message>
     <message>
-        <source>The server is too old for this client.</source>
-        <translation>Servern är för gammal för klienten.</translation>
+        <source>Quillmere on the server is too old to work with this computer.</source>
+        <translation type="unfinished">Servern är för gammal för klienten.</translation>
     </message>
     <message>
-        <source>Disabled</source>
-        <translation>Inaktiverad</translation>
+        <source>Turned off</source>
+        <translation type="unfinished">Inaktiverad</translation>
     </message>
 </context>
 </TS>

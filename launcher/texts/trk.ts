@@ -40,8 +40,8 @@
         <translation>Bağlantı modu</translation>
     </message>
     <message>
-        <source>The local database is damaged. Unlink the connection, then link it again to rebuild the database.</source>
-        <translation>Yerel veri tabanı zarar görmüş. Veri tabanını yeniden oluşturmak için bağlantının eşleştirmesini kaldırın, ardından bağlantıyı yeniden eşleştirin.</translation>
+        <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Yerel veri tabanı zarar görmüş. Veri tabanını yeniden oluşturmak için bağlantının eşleştirmesini kaldırın, ardından bağlantıyı yeniden eşleştirin.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
@@ -56,8 +56,8 @@
         <translation>[DlgTitleFont][ProductName] kaldırılmaya hazır</translation>
     </message>
     <message>
-        <source>The server has been replaced. Click here to link again.</source>
-        <translation>Sunucu değiştirilmiş. Yeniden eşleştirmek için buraya tıklayın.</translation>
+        <source>The server has been replaced. Click here to reconnect.</source>
+        <translation type="unfinished">Sunucu değiştirilmiş. Yeniden eşleştirmek için buraya tıklayın.</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -68,16 +68,16 @@
         <translation>Kurulum sihirbazı [ProductName] uygulamasını değiştirmenizi, onarmanızı veya kaldırmanızı sağlar. Devam etmek için “İleri” düğmesine, kurulum sihirbazından çıkmak için “İptal” düğmesine tıklayın.</translation>
     </message>
     <message>
-        <source>Block list</source>
-        <translation>Hariç tutma listesi</translation>
+        <source>Exclusion list</source>
+        <translation type="unfinished">Hariç tutma listesi</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
         <translation>Bu paylaşım bağlantısı silinsin mi?\nBağlantıya sahip olan kişiler artık dosyayı açamayacak.</translation>
     </message>
     <message>
-        <source>This client is too old for the server.</source>
-        <translation>Bu istemci, sunucu için çok eski.</translation>
+        <source>Quillmere on this computer is too old to work with the server.</source>
+        <translation type="unfinished">Bu istemci, sunucu için çok eski.</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
@@ -96,16 +96,16 @@
         <translation>Bağlantı sınanıyor…</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server is not trusted, so others may be able to read the data you send. Do you want to continue?</source>
-        <translation>Sunucunun SSL sertifikası güvenilir değil, bu nedenle gönderdiğiniz verileri başkaları okuyabilir. Devam etmek istiyor musunuz?</translation>
+        <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
+        <translation type="unfinished">Sunucunun SSL sertifikası güvenilir değil, bu nedenle gönderdiğiniz verileri başkaları okuyabilir. Devam etmek istiyor musunuz?</translation>
     </message>
     <message>
         <source>New shared folder</source>
         <translation>Yeni paylaşılan klasör</translation>
     </message>
     <message>
-        <source>About</source>
-        <translation>Hakkında</translation>
+        <source>About Quillmere</source>
+        <translation type="unfinished">Hakkında</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
@@ -120,8 +120,8 @@
         <translation>Kurulum sihirbazı kaldırma işlemine başlamaya hazır.</translation>
     </message>
     <message>
-        <source>This computer is already linked to this server. Edit the existing connection or enter a different server.</source>
-        <translation>Bu bilgisayar bu sunucuyla zaten eşleştirilmiş. Var olan bağlantıyı düzenleyin veya farklı bir sunucu girin.</translation>
+        <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
+        <translation type="unfinished">Bu bilgisayar bu sunucuyla zaten eşleştirilmiş. Var olan bağlantıyı düzenleyin veya farklı bir sunucu girin.</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -132,12 +132,12 @@
         <translation>Sunucu bağlantısı kesildi. Ağ bağlantısını denetleyip yeniden deneyin.</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified.</source>
-        <translation>Sunucunun SSL sertifikası doğrulanamadı.</translation>
+        <source>The certificate of the server could not be verified.</source>
+        <translation type="unfinished">Sunucunun SSL sertifikası doğrulanamadı.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
-        <translation>Siyah beyaz sistem tepsisi simgesi kullan</translation>
+        <source>Use a black-and-white tray icon</source>
+        <translation type="unfinished">Siyah beyaz sistem tepsisi simgesi kullan</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -152,20 +152,20 @@
         <translation>Eşitleme görevleri</translation>
     </message>
     <message>
-        <source>Blocked files</source>
-        <translation>Hariç tutulan dosyalar</translation>
+        <source>Excluded files</source>
+        <translation type="unfinished">Hariç tutulan dosyalar</translation>
     </message>
     <message>
         <source>No permission</source>
         <translation>İzin yok</translation>
     </message>
     <message>
-        <source>The server is too old for this client. Ask the server administrator to upgrade it.</source>
-        <translation>Sunucu bu istemci için çok eski. Sunucu yöneticisinden sunucuyu yükseltmesini isteyin.</translation>
+        <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
+        <translation type="unfinished">Sunucu bu istemci için çok eski. Sunucu yöneticisinden sunucuyu yükseltmesini isteyin.</translation>
     </message>
     <message>
-        <source>To try again, run setup again later. Click Finish to exit the Setup Wizard.</source>
-        <translation>Yeniden denemek için kurulumu daha sonra tekrar çalıştırın. Kurulum sihirbazından çıkmak için “Bitir” düğmesine tıklayın.</translation>
+        <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
+        <translation type="unfinished">Yeniden denemek için kurulumu daha sonra tekrar çalıştırın. Kurulum sihirbazından çıkmak için “Bitir” düğmesine tıklayın.</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -180,8 +180,8 @@
         <translation>[ProductName] kurulumunu onarmak için “Onar” düğmesine tıklayın. Seçimlerinizi gözden geçirmek için “Geri” düğmesine, kurulum sihirbazından çıkmak için “İptal” düğmesine tıklayın.</translation>
     </message>
     <message>
-        <source>Some settings have not been saved. Do you want to save them?</source>
-        <translation>Bazı ayarlar kaydedilmedi. Bunları kaydetmek istiyor musunuz?</translation>
+        <source>Some settings have not been saved. Save them?</source>
+        <translation type="unfinished">Bazı ayarlar kaydedilmedi. Bunları kaydetmek istiyor musunuz?</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -192,8 +192,8 @@
         <translation>Eylem</translation>
     </message>
     <message>
-        <source>This folder is already used by another sync program. Choose a different folder to avoid conflicts.</source>
-        <translation>Bu klasör başka bir eşitleme programı tarafından zaten kullanılıyor. Çakışmaları önlemek için farklı bir klasör seçin.</translation>
+        <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
+        <translation type="unfinished">Bu klasör başka bir eşitleme programı tarafından zaten kullanılıyor. Çakışmaları önlemek için farklı bir klasör seçin.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -204,16 +204,16 @@
         <translation>Uyumsuz sürüm</translation>
     </message>
     <message>
-        <source>Change the sync folder</source>
-        <translation>Eşitleme klasörünü değiştir</translation>
+        <source>Change sync folder</source>
+        <translation type="unfinished">Eşitleme klasörünü değiştir</translation>
     </message>
     <message>
-        <source>Enter a complete file name without a folder path.</source>
-        <translation>Klasör yolu olmadan dosya adının tamamını girin.</translation>
+        <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
+        <translation type="unfinished">Klasör yolu olmadan dosya adının tamamını girin.</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]An error stopped setup, and its changes were undone.</source>
-        <translation>[DlgTitleFont]Bir hata kurulumu durdurdu ve yapılan değişiklikler geri alındı.</translation>
+        <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
+        <translation type="unfinished">[DlgTitleFont]Bir hata kurulumu durdurdu ve yapılan değişiklikler geri alındı.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -240,8 +240,8 @@
         <translation>Ad</translation>
     </message>
     <message>
-        <source>Encrypt data transfer with SSL</source>
-        <translation>Veri aktarımını SSL ile şifrele</translation>
+        <source>Use an encrypted connection (TLS)</source>
+        <translation type="unfinished">Veri aktarımını SSL ile şifrele</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -276,8 +276,8 @@
         <translation>Bu dosyanın henüz önceki bir sürümü yok. Sürüm oluşturmak için dosyayı değiştirin ve eşitlenmesini bekleyin.</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>Eşleştirmeyi kaldır</translation>
+        <source>Disconnect</source>
+        <translation type="unfinished">Eşleştirmeyi kaldır</translation>
     </message>
     <message>
         <source>Back</source>
@@ -316,8 +316,8 @@
         <translation>Ayarlar uygulanıyor…</translation>
     </message>
     <message>
-        <source>Files that are not synced</source>
-        <translation>Eşitlenmeyen dosyalar</translation>
+        <source>Files excluded from syncing</source>
+        <translation type="unfinished">Eşitlenmeyen dosyalar</translation>
     </message>
     <message>
         <source>Created</source>
@@ -332,8 +332,8 @@
         <translation>İnternet</translation>
     </message>
     <message>
-        <source>Choose the shared folders to sync</source>
-        <translation>Eşitlenecek paylaşılan klasörleri seçin</translation>
+        <source>Choose shared folders to sync</source>
+        <translation type="unfinished">Eşitlenecek paylaşılan klasörleri seçin</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -360,8 +360,8 @@
         <translation>Eksik veya zarar görmüş dosyaları ve kısayolları geri yükleyerek [ProductName] kurulumundaki hataları onarır.</translation>
     </message>
     <message>
-        <source>Blocked file extensions</source>
-        <translation>Hariç tutulan dosya uzantıları</translation>
+        <source>Excluded file extensions</source>
+        <translation type="unfinished">Hariç tutulan dosya uzantıları</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -376,16 +376,16 @@
         <translation>Parola</translation>
     </message>
     <message>
-        <source>The volume that holds the sync folder is not mounted. Mount the volume, then resume syncing.</source>
-        <translation>Eşitleme klasörünün bulunduğu birim bağlı değil. Birimi bağlayın, ardından eşitlemeyi sürdürün.</translation>
+        <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
+        <translation type="unfinished">Eşitleme klasörünün bulunduğu birim bağlı değil. Birimi bağlayın, ardından eşitlemeyi sürdürün.</translation>
     </message>
     <message>
         <source>Edit</source>
         <translation>Düzenle</translation>
     </message>
     <message>
-        <source>This computer has no free disk space.</source>
-        <translation>Bu bilgisayarda boş disk alanı yok.</translation>
+        <source>The drive that holds the sync folder is full.</source>
+        <translation type="unfinished">Bu bilgisayarda boş disk alanı yok.</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -400,8 +400,8 @@
         <translation>Y&amp;ok say</translation>
     </message>
     <message>
-        <source>A folder with this name already exists. Do you want to merge its files with those on the server?</source>
-        <translation>Bu adda bir klasör zaten var. Bu klasördeki dosyaları sunucudakilerle birleştirmek istiyor musunuz?</translation>
+        <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
+        <translation type="unfinished">Bu adda bir klasör zaten var. Bu klasördeki dosyaları sunucudakilerle birleştirmek istiyor musunuz?</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
@@ -448,12 +448,12 @@
         <translation>Bitti</translation>
     </message>
     <message>
-        <source>Syncing %1 files...</source>
-        <translation>%1 dosya eşitleniyor…</translation>
+        <source>Files being synced: %1</source>
+        <translation type="unfinished">%1 dosya eşitleniyor…</translation>
     </message>
     <message>
-        <source>Link again</source>
-        <translation>Yeniden eşleştir</translation>
+        <source>Reconnect</source>
+        <translation type="unfinished">Yeniden eşleştir</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -472,8 +472,8 @@
         <translation>Sistem varsayılanı</translation>
     </message>
     <message>
-        <source>The folders and files you cleared will be removed from this computer. They will be kept on the server.</source>
-        <translation>İşaretini kaldırdığınız klasörler ve dosyalar bu bilgisayardan silinecek. Sunucudaki kopyaları korunacak.</translation>
+        <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
+        <translation type="unfinished">İşaretini kaldırdığınız klasörler ve dosyalar bu bilgisayardan silinecek. Sunucudaki kopyaları korunacak.</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
@@ -488,28 +488,28 @@
         <translation>Boş alan kalmadı</translation>
     </message>
     <message>
-        <source>Inactive</source>
-        <translation>Etkin değil</translation>
+        <source>Disconnected</source>
+        <translation type="unfinished">Etkin değil</translation>
     </message>
     <message>
-        <source>Your quota on the server is full.</source>
-        <translation>Sunucudaki kotanız dolu.</translation>
+        <source>You have used all of your space on the server.</source>
+        <translation type="unfinished">Sunucudaki kotanız dolu.</translation>
     </message>
     <message>
-        <source>Unlink this connection?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>Bu bağlantının eşleştirmesi kaldırılsın mı?\nDosyalarınız bu bilgisayarda ve sunucuda saklanacak, ancak artık eşitlenmeyecek.</translation>
+        <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">Bu bağlantının eşleştirmesi kaldırılsın mı?\nDosyalarınız bu bilgisayarda ve sunucuda saklanacak, ancak artık eşitlenmeyecek.</translation>
     </message>
     <message>
-        <source>The relay service has a problem. Try again later, or connect with the IP address of the server.</source>
-        <translation>Aktarma hizmetinde bir sorun var. Daha sonra yeniden deneyin veya sunucunun IP adresiyle bağlanın.</translation>
+        <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
+        <translation type="unfinished">Aktarma hizmetinde bir sorun var. Daha sonra yeniden deneyin veya sunucunun IP adresiyle bağlanın.</translation>
     </message>
     <message>
         <source>Server ID</source>
         <translation>Sunucu kimliği</translation>
     </message>
     <message>
-        <source>Blocked file names</source>
-        <translation>Hariç tutulan dosya adları</translation>
+        <source>Excluded file names</source>
+        <translation type="unfinished">Hariç tutulan dosya adları</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -520,20 +520,20 @@
         <translation>Devam et</translation>
     </message>
     <message>
-        <source>Enabled</source>
-        <translation>Etkin</translation>
+        <source>Turned on</source>
+        <translation type="unfinished">Etkin</translation>
     </message>
     <message>
-        <source>This computer has no free disk space. Free some space to continue syncing.</source>
-        <translation>Bu bilgisayarda boş disk alanı yok. Eşitlemeye devam etmek için yer açın.</translation>
+        <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
+        <translation type="unfinished">Bu bilgisayarda boş disk alanı yok. Eşitlemeye devam etmek için yer açın.</translation>
     </message>
     <message>
         <source>Folders to sync</source>
         <translation>Eşitlenecek klasörler</translation>
     </message>
     <message>
-        <source>Choose a sync folder</source>
-        <translation>Eşitleme klasörünü seçin</translation>
+        <source>Choose sync folder</source>
+        <translation type="unfinished">Eşitleme klasörünü seçin</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -548,8 +548,8 @@
         <translation>Bilgisayar</translation>
     </message>
     <message>
-        <source>Your quota on the server is full. Delete files you do not need, or ask the server administrator for a larger quota.</source>
-        <translation>Sunucudaki kotanız dolu. Gereksiz dosyaları silin veya sunucu yöneticisinden daha büyük bir kota isteyin.</translation>
+        <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
+        <translation type="unfinished">Sunucudaki kotanız dolu. Gereksiz dosyaları silin veya sunucu yöneticisinden daha büyük bir kota isteyin.</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
@@ -564,12 +564,12 @@
         <translation>Aşağıdaki vekil sunucuyu kullan</translation>
     </message>
     <message>
-        <source>This file was changed in two places. Compare both copies, then keep the one you need.</source>
-        <translation>Bu dosya iki ayrı yerde değiştirilmiş. İki kopyayı karşılaştırın, ardından gereken kopyayı saklayın.</translation>
+        <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
+        <translation type="unfinished">Bu dosya iki ayrı yerde değiştirilmiş. İki kopyayı karşılaştırın, ardından gereken kopyayı saklayın.</translation>
     </message>
     <message>
-        <source>One place for your files on every computer, through a server of your own</source>
-        <translation>Kendi sunucunuz aracılığıyla, tüm bilgisayarlardaki dosyalarınız için tek bir yer</translation>
+        <source>All your files on every computer, kept on your own server</source>
+        <translation type="unfinished">Kendi sunucunuz aracılığıyla, tüm bilgisayarlardaki dosyalarınız için tek bir yer</translation>
     </message>
     <message>
         <source>OK</source>
@@ -580,8 +580,8 @@
         <translation>Masaüstü bildirimlerini göster</translation>
     </message>
     <message>
-        <source>The following applications use files that setup needs to update. Close them and click Retry, click Ignore to continue without closing them, or click Exit to leave setup.</source>
-        <translation>Aşağıdaki uygulamalar, kurulumun güncellemesi gereken dosyaları kullanıyor. Uygulamaları kapatıp “Yeniden dene” düğmesine, kapatmadan devam etmek için “Yok say” düğmesine, kurulumdan ayrılmak için “Çıkış” düğmesine tıklayın.</translation>
+        <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
+        <translation type="unfinished">Aşağıdaki uygulamalar, kurulumun güncellemesi gereken dosyaları kullanıyor. Uygulamaları kapatıp “Yeniden dene” düğmesine, kapatmadan devam etmek için “Yok say” düğmesine, kurulumdan ayrılmak için “Çıkış” düğmesine tıklayın.</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -596,12 +596,12 @@
         <translation>Bu listedeki bir ögeyle eşleşen dosyalar eşitlenmez.</translation>
     </message>
     <message>
-        <source>Edit connection</source>
-        <translation>Bağlantıyı düzenle</translation>
+        <source>Edit connection...</source>
+        <translation type="unfinished">Bağlantıyı düzenle</translation>
     </message>
     <message>
-        <source>Options</source>
-        <translation>Seçenekler</translation>
+        <source>Settings</source>
+        <translation>Ayarlar</translation>
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
@@ -624,36 +624,32 @@
         <translation>Duraklat</translation>
     </message>
     <message>
-        <source>Show icon overlays on filtered files</source>
-        <translation>Süzgecin dışarıda bıraktığı dosyalarda simge kaplamalarını göster</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Ayarlar</translation>
+        <source>Show icon overlays on excluded files</source>
+        <translation type="unfinished">Süzgecin dışarıda bıraktığı dosyalarda simge kaplamalarını göster</translation>
     </message>
     <message>
         <source>Loading...</source>
         <translation>Yükleniyor…</translation>
     </message>
     <message>
-        <source>You can sync at most %1 shared folders. Stop syncing one of them before you add another.</source>
-        <translation>En fazla %1 paylaşılan klasör eşitleyebilirsiniz. Başka bir klasör eklemeden önce bunlardan birinin eşitlemesini durdurun.</translation>
+        <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
+        <translation type="unfinished">En fazla %1 paylaşılan klasör eşitleyebilirsiniz. Başka bir klasör eklemeden önce bunlardan birinin eşitlemesini durdurun.</translation>
     </message>
     <message>
-        <source>Unlink this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation>Bu eşitleme görevinin eşleştirmesi kaldırılsın mı?\nGörevin dosyaları bu bilgisayarda ve sunucuda saklanacak, ancak artık eşitlenmeyecek.</translation>
+        <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
+        <translation type="unfinished">Bu eşitleme görevinin eşleştirmesi kaldırılsın mı?\nGörevin dosyaları bu bilgisayarda ve sunucuda saklanacak, ancak artık eşitlenmeyecek.</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
         <translation>Quillmere başlatılıyor…</translation>
     </message>
     <message>
-        <source>Quillmere could not be upgraded. Restart the computer, then try again.</source>
-        <translation>Quillmere yükseltilemedi. Bilgisayarı yeniden başlatıp tekrar deneyin.</translation>
+        <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Quillmere yükseltilemedi. Bilgisayarı yeniden başlatıp tekrar deneyin.</translation>
     </message>
     <message>
-        <source>Block names that begin with a dot</source>
-        <translation>Nokta ile başlayan adları hariç tut</translation>
+        <source>Exclude names that begin with a dot</source>
+        <translation type="unfinished">Nokta ile başlayan adları hariç tut</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -676,8 +672,8 @@
         <translation>Sunucuya bağlanıldı.</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}The [ProductName] Setup Wizard is complete</source>
-        <translation>{\VerdanaBold13}[ProductName] kurulum sihirbazı tamamlandı</translation>
+        <source>{\VerdanaBold13}[ProductName] setup is complete</source>
+        <translation type="unfinished">{\VerdanaBold13}[ProductName] kurulum sihirbazı tamamlandı</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -712,20 +708,20 @@
         <translation>Paylaşılan klasör</translation>
     </message>
     <message>
-        <source>Client options</source>
-        <translation>İstemci seçenekleri</translation>
+        <source>Quillmere settings</source>
+        <translation type="unfinished">İstemci seçenekleri</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
         <translation>Paylaşım bağlantısı silinemedi. Sunucu bağlantısını denetleyip yeniden deneyin.</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server could not be verified. Ask the server administrator to check the certificate.</source>
-        <translation>Sunucunun SSL sertifikası doğrulanamadı. Sunucu yöneticisinden sertifikayı denetlemesini isteyin.</translation>
+        <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
+        <translation type="unfinished">Sunucunun SSL sertifikası doğrulanamadı. Sunucu yöneticisinden sertifikayı denetlemesini isteyin.</translation>
     </message>
     <message>
-        <source>This is not the server the connection was linked to. Check the server address, or link again.</source>
-        <translation>Bu, bağlantının eşleştirildiği sunucu değil. Sunucu adresini denetleyin veya yeniden eşleştirin.</translation>
+        <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
+        <translation type="unfinished">Bu, bağlantının eşleştirildiği sunucu değil. Sunucu adresini denetleyin veya yeniden eşleştirin.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -764,16 +760,16 @@
         <translation>Bağlantıları yönet</translation>
     </message>
     <message>
-        <source>Link to another server</source>
-        <translation>Başka bir sunucuyla eşleştir</translation>
+        <source>Connect to another server...</source>
+        <translation type="unfinished">Başka bir sunucuyla eşleştir</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
         <translation>Simge kaplamalarını göster</translation>
     </message>
     <message>
-        <source>[DlgTitleFont]Setting up [ProductName]</source>
-        <translation>[DlgTitleFont][ProductName] yapılandırılıyor</translation>
+        <source>[DlgTitleFont]Making changes to [ProductName]</source>
+        <translation type="unfinished">[DlgTitleFont][ProductName] yapılandırılıyor</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -792,8 +788,8 @@
         <translation>&amp;Kur</translation>
     </message>
     <message>
-        <source>File filter</source>
-        <translation>Dosya süzgeci</translation>
+        <source>Files to exclude</source>
+        <translation type="unfinished">Dosya süzgeci</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -804,8 +800,8 @@
         <translation>Lisans sözleşmesinin koşullarını kabul &amp;etmiyorum</translation>
     </message>
     <message>
-        <source>Something went wrong. Try again, and contact the server administrator if the problem continues.</source>
-        <translation>Bir sorun oluştu. Yeniden deneyin; sorun sürerse sunucu yöneticisine başvurun.</translation>
+        <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Bir sorun oluştu. Yeniden deneyin; sorun sürerse sunucu yöneticisine başvurun.</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -828,8 +824,8 @@
         <translation>Vekil sunucu ayarları</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator, so Quillmere might not install completely. Do you want to continue?</source>
-        <translation>Yönetici olarak oturum açmadınız, bu nedenle Quillmere tam olarak kurulamayabilir. Devam etmek istiyor musunuz?</translation>
+        <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
+        <translation type="unfinished">Yönetici olarak oturum açmadınız, bu nedenle Quillmere tam olarak kurulamayabilir. Devam etmek istiyor musunuz?</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
@@ -876,8 +872,8 @@
         <translation>Klasör bir bağlama noktası</translation>
     </message>
     <message>
-        <source>Choose another folder</source>
-        <translation>Başka bir klasör seç</translation>
+        <source>Choose another folder...</source>
+        <translation type="unfinished">Başka bir klasör seç</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -900,12 +896,16 @@
         <translation>Sunucu adresini ve sunucuda kullandığınız hesabı girin.</translation>
     </message>
     <message>
-        <source>A different server was found at the server address.</source>
-        <translation>Sunucu adresinde farklı bir sunucu bulundu.</translation>
+        <source>Remove</source>
+        <translation type="unfinished">Eşleştirmeyi kaldır</translation>
     </message>
     <message>
-        <source>Linking to the server...</source>
-        <translation>Sunucuyla eşleştiriliyor…</translation>
+        <source>Another server was found at the server address.</source>
+        <translation type="unfinished">Sunucu adresinde farklı bir sunucu bulundu.</translation>
+    </message>
+    <message>
+        <source>Connecting to the server...</source>
+        <translation type="unfinished">Sunucuyla eşleştiriliyor…</translation>
     </message>
     <message>
         <source>Port</source>
@@ -928,8 +928,8 @@
         <translation>Sistemin vekil sunucu ayarlarını kullan</translation>
     </message>
     <message>
-        <source>Change folder</source>
-        <translation>Klasörü değiştir</translation>
+        <source>Change folder...</source>
+        <translation type="unfinished">Klasörü değiştir</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -944,8 +944,8 @@
         <translation>İndiriliyor…</translation>
     </message>
     <message>
-        <source>The file is locked</source>
-        <translation>Dosya kilitli</translation>
+        <source>File locked</source>
+        <translation type="unfinished">Dosya kilitli</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -956,8 +956,8 @@
         <translation>Hazırlanıyor…</translation>
     </message>
     <message>
-        <source>Updating files...</source>
-        <translation>Dosyalar güncelleniyor…</translation>
+        <source>Syncing files...</source>
+        <translation type="unfinished">Dosyalar güncelleniyor…</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -968,8 +968,8 @@
         <translation>Kullanıcı adı ve parola denetleniyor…</translation>
     </message>
     <message>
-        <source>Wait while the Setup Wizard sets up [ProductName]. This can take several minutes.</source>
-        <translation>Kurulum sihirbazı [ProductName] uygulamasını yapılandırırken bekleyin. Bu işlem birkaç dakika sürebilir.</translation>
+        <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
+        <translation type="unfinished">Kurulum sihirbazı [ProductName] uygulamasını yapılandırırken bekleyin. Bu işlem birkaç dakika sürebilir.</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1020,24 +1020,24 @@
         <translation>Paylaşım bağlantısı panoya kopyalandı.</translation>
     </message>
     <message>
-        <source>The local sync folder was not found. Restore the folder or choose a different one.</source>
-        <translation>Yerel eşitleme klasörü bulunamadı. Klasörü geri yükleyin veya farklı bir klasör seçin.</translation>
+        <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
+        <translation type="unfinished">Yerel eşitleme klasörü bulunamadı. Klasörü geri yükleyin veya farklı bir klasör seçin.</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
         <translation>Quillmere yükseltmesi</translation>
     </message>
     <message>
-        <source>Add sync task</source>
-        <translation>Eşitleme görevi ekle</translation>
+        <source>Add sync task...</source>
+        <translation type="unfinished">Eşitleme görevi ekle</translation>
     </message>
     <message>
-        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it.</source>
-        <translation>Paylaşılan klasör sunucuda bağlı değil. Sunucu yöneticisinden klasörü bağlamasını isteyin.</translation>
+        <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
+        <translation type="unfinished">Paylaşılan klasör sunucuda bağlı değil. Sunucu yöneticisinden klasörü bağlamasını isteyin.</translation>
     </message>
     <message>
-        <source>The server sent an unexpected response. Upgrade the client and the server, then try again.</source>
-        <translation>Sunucu beklenmeyen bir yanıt gönderdi. İstemciyi ve sunucuyu yükseltip yeniden deneyin.</translation>
+        <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Sunucu beklenmeyen bir yanıt gönderdi. İstemciyi ve sunucuyu yükseltip yeniden deneyin.</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1052,8 +1052,8 @@
         <translation>En fazla %1&#xa0;MB olan bir boyut girin.</translation>
     </message>
     <message>
-        <source>Checking the data...</source>
-        <translation>Veriler denetleniyor…</translation>
+        <source>Checking files...</source>
+        <translation type="unfinished">Veriler denetleniyor…</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
@@ -1064,8 +1064,8 @@
         <translation>[ProductName] kurulumuna başlamak için “Kur” düğmesine tıklayın. Seçimlerinizi gözden geçirmek için “Geri” düğmesine, kurulum sihirbazından çıkmak için “İptal” düğmesine tıklayın.</translation>
     </message>
     <message>
-        <source>{\VerdanaBold13}[ProductName] setup was interrupted</source>
-        <translation>{\VerdanaBold13}[ProductName] kurulumu yarıda kesildi</translation>
+        <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
+        <translation type="unfinished">{\VerdanaBold13}[ProductName] kurulumu yarıda kesildi</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1092,8 +1092,8 @@
         <translation>Ağ ayarları</translation>
     </message>
     <message>
-        <source>This folder is already synced with another shared folder. Choose a different folder.</source>
-        <translation>Bu klasör zaten başka bir paylaşılan klasörle eşitleniyor. Farklı bir klasör seçin.</translation>
+        <source>This folder is already synced with another shared folder. Choose another folder.</source>
+        <translation type="unfinished">Bu klasör zaten başka bir paylaşılan klasörle eşitleniyor. Farklı bir klasör seçin.</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1132,24 +1132,24 @@
         <translation>Bu bilgisayarda oturum açtığımda Quillmere uygulamasını başlat</translation>
     </message>
     <message>
-        <source>All files from both folders are kept. If two versions of a file differ, you get both.</source>
-        <translation>İki klasördeki tüm dosyalar saklanır. Bir dosyanın iki sürümü farklıysa her ikisi de elinizde olur.</translation>
+        <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
+        <translation type="unfinished">İki klasördeki tüm dosyalar saklanır. Bir dosyanın iki sürümü farklıysa her ikisi de elinizde olur.</translation>
     </message>
     <message>
         <source>Repair the installation</source>
         <translation>Kurulumu onar</translation>
     </message>
     <message>
-        <source>Sync enabled</source>
-        <translation>Eşitleme açık</translation>
+        <source>Syncing turned on</source>
+        <translation type="unfinished">Eşitleme açık</translation>
     </message>
     <message>
-        <source>Quillmere could not start. Restart the computer, then start Quillmere again.</source>
-        <translation>Quillmere başlatılamadı. Bilgisayarı yeniden başlatın, ardından Quillmere uygulamasını tekrar başlatın.</translation>
+        <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
+        <translation type="unfinished">Quillmere başlatılamadı. Bilgisayarı yeniden başlatın, ardından Quillmere uygulamasını tekrar başlatın.</translation>
     </message>
     <message>
-        <source>Do you want to cancel the setup of [ProductName]?</source>
-        <translation>[ProductName] kurulumunu iptal etmek istiyor musunuz?</translation>
+        <source>Cancel the setup of [ProductName]?</source>
+        <translation type="unfinished">[ProductName] kurulumunu iptal etmek istiyor musunuz?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1172,28 +1172,28 @@
         <translation>Gelişmiş ayarlar</translation>
     </message>
     <message>
-        <source>Browse versions</source>
-        <translation>Sürümlere göz at</translation>
+        <source>Browse versions...</source>
+        <translation type="unfinished">Sürümlere göz at</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
         <translation>[DlgTitleFont]&amp;Değiştir</translation>
     </message>
     <message>
-        <source>This connection is inactive. Link it again to continue syncing.</source>
-        <translation>Bu bağlantı etkin değil. Eşitlemeye devam etmek için bağlantıyı yeniden eşleştirin.</translation>
+        <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
+        <translation type="unfinished">Bu bağlantı etkin değil. Eşitlemeye devam etmek için bağlantıyı yeniden eşleştirin.</translation>
     </message>
     <message>
         <source>Detecting...</source>
         <translation>Algılanıyor…</translation>
     </message>
     <message>
-        <source>SSL warning</source>
-        <translation>SSL uyarısı</translation>
+        <source>Certificate warning</source>
+        <translation type="unfinished">SSL uyarısı</translation>
     </message>
     <message>
-        <source>The relay service cannot be reached. Check your Internet connection, then try again.</source>
-        <translation>Aktarma hizmetine ulaşılamıyor. İnternet bağlantınızı denetleyip yeniden deneyin.</translation>
+        <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
+        <translation type="unfinished">Aktarma hizmetine ulaşılamıyor. İnternet bağlantınızı denetleyip yeniden deneyin.</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
@@ -1232,24 +1232,24 @@
         <translation>Doğrudan bağlantı</translation>
     </message>
     <message>
-        <source>The server volume that holds this folder is not mounted. Ask the server administrator to mount it.</source>
-        <translation>Bu klasörün bulunduğu sunucu birimi bağlı değil. Sunucu yöneticisinden birimi bağlamasını isteyin.</translation>
+        <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
+        <translation type="unfinished">Bu klasörün bulunduğu sunucu birimi bağlı değil. Sunucu yöneticisinden birimi bağlamasını isteyin.</translation>
     </message>
     <message>
-        <source>This version of Quillmere is already installed. Do you want to install it again?</source>
-        <translation>Bu Quillmere sürümü zaten kurulu. Yeniden kurmak istiyor musunuz?</translation>
+        <source>This version of Quillmere is already installed. Install it again?</source>
+        <translation type="unfinished">Bu Quillmere sürümü zaten kurulu. Yeniden kurmak istiyor musunuz?</translation>
     </message>
     <message>
-        <source>This client is too old for the server. Upgrade the client, then try again.</source>
-        <translation>Bu istemci, sunucu için çok eski. İstemciyi yükseltip yeniden deneyin.</translation>
+        <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
+        <translation type="unfinished">Bu istemci, sunucu için çok eski. İstemciyi yükseltip yeniden deneyin.</translation>
     </message>
     <message>
-        <source>The server is too old for this client.</source>
-        <translation>Sunucu bu istemci için çok eski.</translation>
+        <source>Quillmere on the server is too old to work with this computer.</source>
+        <translation type="unfinished">Sunucu bu istemci için çok eski.</translation>
     </message>
     <message>
-        <source>Disabled</source>
-        <translation>Devre dışı</translation>
+        <source>Turned off</source>
+        <translation type="unfinished">Devre dışı</translation>
     </message>
 </context>
 </TS>
