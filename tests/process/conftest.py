@@ -1,0 +1,107 @@
+"""Options and fixtures of the process tests; see cell.py for where their rows run."""
+import os
+import shutil
+import subprocess
+import sys
+from pathlib import Path
+
+import pytest
+
+import cell
+
+pytest.register_assert_rewrite("user")
+from user import Build, User, make_builds, until  # noqa: E402
+
+TREE = Path(__file__).resolve().parents[2]
+
+
+def pytest_addoption(parser):
+    parser.addoption("--build", default=TREE / "build/dev", type=Path,
+                     help="build tree to stage the launcher from (build/dev)")
+    parser.addoption("--stage", type=Path, help="staged tree to use instead of making one")
+    parser.addoption("--full", action="store_true", help="whole campaigns instead of samples")
+
+
+@pytest.hookimpl(tryfirst=True)
+def pytest_cmdline_main(config):
+    if cell.INSIDE not in os.environ and not config.option.collectonly:
+        return cell.enter([sys.executable, "-B", "-m", "pytest", *config.invocation_params.args])
+    return None
+
+
+@pytest.hookimpl(tryfirst=True)
+def pytest_pyfunc_call(pyfuncitem):
+    arguments = {name: pyfuncitem.funcargs[name] for name in pyfuncitem._fixtureinfo.argnames}
+
+    def work():
+        try:
+            pyfuncitem.obj(**arguments)
+        except pytest.skip.Exception as reason:
+            return "skipped", str(reason)
+        except BaseException:
+            return "failed", str(pyfuncitem.repr_failure(pytest.ExceptionInfo.from_current()))
+        return "passed", ""
+
+    outcome, text = cell.run(work) or ("failed", "ended without a word, as if it had been killed")
+    if outcome == "skipped":
+        pytest.skip(text)
+    if outcome == "failed":
+        pytest.fail(text, pytrace=False)
+    return True
+
+
+def pytest_runtest_setup(item):
+    if item.get_closest_marker("second_user") and not cell.has_second_user():
+        pytest.skip("needs a second user id, which root has")
+
+
+@pytest.fixture(scope="session")
+def stage(request) -> Path:
+    """A staged tree of the launcher. Nobody writes to it."""
+    given = request.config.option.stage
+    if given:
+        return given.resolve()
+    made = Path(cell.WORK, f"stage.{os.getpid()}")
+    subprocess.run(["cmake", "--install", request.config.option.build, "--prefix", made],
+                   check=True, stdout=subprocess.DEVNULL)
+    return made
+
+
+@pytest.fixture(scope="session")
+def builds(stage) -> dict[int, Build]:
+    """Two package roots, builds 1 and 2 of a client that notes what happens to it."""
+    return make_builds(stage, Path(cell.WORK, f"builds.{os.getpid()}"))
+
+
+@pytest.fixture
+def user(builds, request) -> User:
+    """A user without a copy, whose launcher is that of a package root with build 2."""
+    directory = Path(cell.WORK, f"row.{os.getpid()}")
+    directory.mkdir()
+    yield User(directory, builds)
+    # The rows' mounts have gone with their cells.
+    shutil.rmtree(directory)
+
+
+@pytest.fixture(scope="session")
+def display() -> str:
+    """The name of an X display with a window manager, the same for all rows of a worker: give
+    them the mark xdist_group("display")."""
+    missing = cell.tools_missing("Xvfb", "openbox", "xdotool", "xprop", "xwininfo")
+    assert not missing, f"not installed: {missing}"
+    name = f":{os.getpid()}"
+    log = open(Path(cell.WORK, f"display.{os.getpid()}"), "wb")
+    env = {**os.environ, "DISPLAY": name, "HOME": cell.WORK}
+    server = subprocess.Popen(["Xvfb", name, "-noreset", "-nolisten", "tcp", "-nolock"],
+                              stdout=log, stderr=log)
+
+    def answers(*question: str) -> bool:
+        said = subprocess.run(["xprop", "-root", *question], env=env, capture_output=True)
+        return said.returncode == 0 and b"not found" not in said.stdout
+
+    until(answers, "the X server answers")
+    manager = subprocess.Popen(["openbox"], env=env, stdout=log, stderr=log)
+    until(lambda: answers("_NET_SUPPORTED"), "the window manager answers")
+    yield name
+    manager.kill()
+    server.kill()

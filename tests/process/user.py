@@ -1,0 +1,268 @@
+"""A user of the launcher: a home, a copy of the client, the launcher's starts and what they left."""
+import hashlib
+import os
+import re
+import shutil
+import stat
+import subprocess
+import time
+from dataclasses import dataclass
+from pathlib import Path
+from typing import Callable, Optional
+
+import cell
+
+TREE = Path(__file__).resolve().parents[2]
+MAKE_PACKAGE = TREE / "packaging/make-package"
+PRODUCT = ".Quillmere"
+COMPONENTS = ("launcher_debug", "service_debug", "extractor_debug", "file_op_debug")
+
+# A start script that waits while $NOTES.hold exists, but not for ever, and notes its start.
+START_STOP = """#!/bin/sh
+echo "$0 $*" >>"$NOTES"
+[ -z "$CLIENT" ] || "${0%/package/*}/bin/cloud-ui" >/dev/null 2>&1 &
+while [ -e "$NOTES.hold" ] && [ "$((i += 1))" -lt 600 ]; do sleep 0.05; done
+"""
+# A client that writes its pid file and notes the signals that ask it to end.
+CLOUD_UI = """#!/bin/sh
+trap 'echo TERM >>"$NOTES"; [ "$CLIENT" = stubborn ] || exit 0' TERM
+echo "pid=$$" >"$HOME/.Quillmere/ui.pid"
+while :; do sleep 0.1 & wait $!; done
+"""
+
+
+def until(condition: Callable[[], object], what: str, seconds: float = 30) -> object:
+    """Waits for `condition` and returns its value; fails with `what` when it takes too long."""
+    end = time.monotonic() + seconds * slowness()
+    while not (value := condition()):
+        assert time.monotonic() < end, f"waited in vain: {what}"
+        time.sleep(0.02)
+    return value
+
+
+def listing(top: Path) -> dict[str, tuple]:
+    """What is below `top`: type and mode of each name, and a file's digest or a link's target."""
+    found = {}
+    for directory, names, files in os.walk(top):
+        for name in names + files:
+            path = os.path.join(directory, name)
+            mode = os.lstat(path).st_mode
+            content = ""
+            if stat.S_ISLNK(mode):
+                content = os.readlink(path)
+            elif stat.S_ISREG(mode):
+                with open(path, "rb") as file:
+                    content = hashlib.sha1(file.read()).hexdigest()
+            found[os.path.relpath(path, top)] = (stat.filemode(mode), content)
+    return found
+
+
+def write(path: Path, content, mode: int = 0o644) -> Path:
+    """Makes a file, a new one where there was one: hard links elsewhere keep what they have."""
+    path.parent.mkdir(parents=True, exist_ok=True)
+    path.unlink(missing_ok=True)
+    path.write_bytes(content.encode() if isinstance(content, str) else content)
+    path.chmod(mode)
+    return path
+
+
+def make_client(top: Path, build: int) -> Path:
+    write(top / "package/start-stop", START_STOP, 0o755)
+    write(top / "bin/cloud-ui", CLOUD_UI, 0o755)
+    write(top / "lib/data", "".join(f"{n}\n" for n in range(build, build + 150000)))
+    write(top / "lib/Grüße aus 東京/100 %s.txt", f"build {build}\n")
+    write(top / f"lib/only{build}", "")
+    (top / "lib/link").symlink_to("Grüße aus 東京")
+    return top
+
+
+def make_package(client: Path, build: int, root: Path, *options: str) -> None:
+    subprocess.run([MAKE_PACKAGE, "--client", client, "--build", str(build), "--root", root,
+                    *options], check=True, stdout=subprocess.DEVNULL)
+
+
+@dataclass
+class Build:
+    """A package root with the launcher, and a whole copy unpacked by other means."""
+    number: int
+    root: Path
+    client: Path
+    copy: Path
+    listing: dict
+
+
+def make_build(stage: Path, root: Path, client: Path, number: int) -> Build:
+    shutil.copytree(stage, root, symlinks=True)
+    write(root / "log/launcher.debug", "".join(f"{c}=7\n" for c in COMPONENTS[:3]))
+    make_package(client, number, root, "--major", "3", "--minor", "4", "--icon-overlay", "7")
+    copy = client.parent / f"copy{number}"
+    copy.mkdir()
+    subprocess.run(["bsdtar", "-xpf", root / "package/quillmere.qpk", "-C", copy], check=True)
+    return Build(number, root, client, copy, listing(copy))
+
+
+def make_builds(stage: Path, top: Path) -> dict[int, Build]:
+    """Build 1, and build 2 in a directory whose name is hard to handle."""
+    roots = {1: top / "first", 2: top / "Zweites Päckchen '2'"}
+    return {n: make_build(stage, root, make_client(top / f"client{n}", n), n)
+            for n, root in roots.items()}
+
+
+_slowness: dict[Path, tuple[float, dict]] = {}
+_launcher: list[Path] = []
+
+
+def sanitizer(launcher: Path) -> tuple[float, dict[str, str]]:
+    """How much longer a launcher takes that was built with a sanitizer, and its environment."""
+    if launcher not in _slowness:
+        needed = subprocess.run(["ldd", launcher], capture_output=True, text=True).stdout
+        env = {}
+        for name, option in ("lsan", "LSAN_OPTIONS"), ("tsan", "TSAN_OPTIONS"):
+            # The options are split at blanks, which the tree's own path may have.
+            rules = Path(cell.WORK, f"{name}.{os.getpid()}")
+            shutil.copy(TREE / f"tests/{name}.supp", rules)
+            env[option] = f"suppressions={rules}:fast_unwind_on_malloc=0:print_suppressions=0"
+        env["UBSAN_OPTIONS"] = "halt_on_error=1:print_stacktrace=1"
+        slow = any(f"lib{name}" in needed for name in ("asan", "tsan"))
+        _slowness[launcher] = (6, env) if slow else (1, {})
+    return _slowness[launcher]
+
+
+def slowness() -> float:
+    return max((factor for factor, _ in _slowness.values()), default=1)
+
+
+class User:
+    """The home of one user on a machine whose package root is `root`; all of it lies in `dir`.
+
+    Everything is root's own until `give_away` makes it an ordinary user's."""
+
+    def __init__(self, directory: Path, builds: dict[int, Build], name: str = "home"):
+        self.dir = directory
+        self.builds = builds
+        self.root = builds[2].root
+        self.as_nobody = False
+        self.live_in(name)
+        for made in self.dir / "run", self.top:
+            made.mkdir(parents=True, exist_ok=True)
+        (self.dir / "run").chmod(0o700)
+        self.dir.chmod(0o755)
+        self.notes = self.dir / "notes"
+        self.starts = 0
+
+    def live_in(self, name: str) -> None:
+        """Makes the directory `name` the home."""
+        self.home = self.dir / name
+        self.top = self.home / PRODUCT
+        self.app = self.top / "app"
+        self.pid_file = self.top / "ui.pid"
+        self.log_file = self.top / "log/launcher.log"
+        self.top.mkdir(parents=True, exist_ok=True)
+
+    # ---- before a start
+
+    def own_root(self) -> Path:
+        """A package root that the row may change: by write() or by removal, because what it
+        holds is linked to the one that all rows share."""
+        own = self.dir / "root"
+        subprocess.run(["cp", "-al", self.root, own], check=True)
+        self.root = own
+        return own
+
+    @property
+    def package(self) -> Path:
+        return self.root / "package/quillmere.qpk"
+
+    def install_copy(self, build: int) -> None:
+        subprocess.run(["cp", "-a", self.builds[build].copy, self.app], check=True)
+
+    def give_away(self) -> None:
+        """Makes the home an ordinary user's, as whom the launcher runs from now on."""
+        subprocess.run(["chown", "-R", f"{cell.NOBODY}:{cell.NOBODY}", self.dir], check=True)
+        self.as_nobody = True
+
+    def hold(self) -> None:
+        """Makes start scripts wait until `let_go`."""
+        Path(f"{self.notes}.hold").touch()
+
+    def let_go(self) -> None:
+        Path(f"{self.notes}.hold").unlink()
+
+    # ---- starts
+
+    def environment(self, **changes: Optional[str]) -> dict[str, str]:
+        """What a launcher is started with, and nothing else; None takes a variable away."""
+        env = {"PATH": os.environ["PATH"], "HOME": str(self.home), "LC_ALL": "C.UTF-8",
+               "XDG_RUNTIME_DIR": str(self.dir / "run"), "TMPDIR": str(self.dir),
+               "NOTES": str(self.notes), "QT_QPA_PLATFORM": "offscreen",
+               **sanitizer(self.root / "bin/launcher")[1], **changes}
+        return {name: value for name, value in env.items() if value is not None}
+
+    def start(self, *through, program=None, cwd=None, stdout=None, stderr=None,
+              **changes: Optional[str]) -> subprocess.Popen:
+        """Starts the launcher, through the command `through` when there is one."""
+        self.starts += 1
+        env = self.environment(**changes)
+        if self.as_nobody:
+            through = ("setpriv", f"--reuid={cell.NOBODY}", f"--regid={cell.NOBODY}",
+                       "--clear-groups", *through)
+        out, err = self.dir / f"out{self.starts}", self.dir / f"err{self.starts}"
+        with open(out, "wb") as out_file, open(err, "wb") as err_file:
+            started = subprocess.Popen([*through, program or self.root / "bin/launcher"], env=env,
+                                       cwd=cwd or self.dir, stdin=subprocess.DEVNULL,
+                                       stdout=stdout or out_file, stderr=stderr or err_file)
+        started.out, started.err = out, err
+        return started
+
+    def wait(self, started: subprocess.Popen, plugins=None) -> str:
+        """Waits for a start: it ends with 0 and has printed its line. Returns its errors."""
+        code = started.wait(timeout=60 * slowness())
+        errors = started.err.read_text(errors="replace")
+        assert code == 0, errors
+        line = f"lib path = '{plugins or self.root / 'lib/plugins'}'\n"
+        assert started.out.read_text() == line
+        return errors
+
+    def launch(self, *through, plugins=None, **options) -> str:
+        return self.wait(self.start(*through, **options), plugins)
+
+    # ---- after a start
+
+    def log(self) -> list[str]:
+        """The log without time stamps, and without those line numbers that are free to change."""
+        if not self.log_file.is_file():
+            return []
+        text = self.log_file.read_text(errors="replace")
+        text = re.sub(r"(?m)^[A-Z][a-z]{2} \d\d \d\d:\d\d:\d\d ", "", text)
+        return re.sub(r" (cloud-service|extractor|file-op)\(\d+\)", r" \1(N)", text).splitlines()
+
+    def has(self, *lines: str) -> None:
+        """Each of `lines` is one of the log, or the front of one when it ends with "..."."""
+        log = self.log()
+        for line in lines:
+            assert line in log or line.endswith("...") and any(
+                found.startswith(line[:-3]) for found in log), (line, log)
+
+    def copy_is(self, build: int, backups: int = 0) -> None:
+        """The copy is that build's, whole, and this many backups are beside it."""
+        assert listing(self.app) == self.builds[build].listing
+        assert len(list(self.top.glob("app_*"))) == backups
+
+    def started(self, *notes: str) -> None:
+        """What the copies have noted, "start" for a start of the start script: nothing else."""
+        start = f"{self.app}/package/start-stop start"
+        found = self.notes.read_text().splitlines() if self.notes.exists() else []
+        assert found == [start if note == "start" else note for note in notes]
+
+    def client_pid(self) -> int:
+        """The process in the pid file, 0 while there is none."""
+        text = self.pid_file.read_text() if self.pid_file.is_file() else ""
+        return int(text[4:]) if re.fullmatch(r"pid=\d+\n", text) else 0
+
+
+def runs(pid: int) -> bool:
+    """Whether there is such a process, and it has not ended."""
+    try:
+        return Path(f"/proc/{pid}/stat").read_text().rpartition(")")[2].split()[0] != "Z"
+    except (OSError, IndexError):
+        return False
