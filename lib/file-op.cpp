@@ -16,7 +16,9 @@
 #include <string>
 #include <utility>
 
+#include "lib/directory.h"
 #include "lib/log.h"
+#include "lib/remove-tree.h"
 #include "lib/tmp_name_gen.h"
 
 namespace {
@@ -66,15 +68,6 @@ class Descriptor {
   int m_fd;
 };
 
-struct DirCloser {
-  void operator()(DIR* dp) const {
-    const int error = errno;
-    (void)closedir(dp);  // fails for an invalid stream only
-    errno = error;
-  }
-};
-using Dir = std::unique_ptr<DIR, DirCloser>;
-
 struct Freer {
   void operator()(void* p) const { free(p); }
 };
@@ -93,19 +86,6 @@ class UmaskGuard {
   const bool m_exact;
   const mode_t m_old;
 };
-
-bool is_dot(const char* name) { return strcmp(name, ".") == 0 || strcmp(name, "..") == 0; }
-
-// The next entry but "." and "..", or null at the end (errno 0) and on an error. The
-// reader of one stream by one thread is re-entrant, so plain readdir serves.
-const dirent* next_entry(DIR* dp) {
-  const dirent* entry;
-  do {
-    errno = 0;
-    entry = readdir(dp);
-  } while (entry && is_dot(entry->d_name));
-  return entry;
-}
 
 // FT_ERR for a type that has no name here.
 FILE_TYPE type_of_mode(mode_t mode) {
@@ -176,35 +156,6 @@ int make_component(const char* prefix, bool last, bool force, mode_t mode) {
                  g_gid == kUnsetGid ? getegid() : g_gid);
   }
   return 0;
-}
-
-bool is_directory_at(int at, const dirent& entry) {
-  if (entry.d_type != DT_UNKNOWN) return entry.d_type == DT_DIR;
-  struct stat st;
-  return fstatat(at, entry.d_name, &st, AT_SYMLINK_NOFOLLOW) == 0 && S_ISDIR(st.st_mode);
-}
-
-// Removes the directory `name` in the directory `at`. By handles rather than by paths:
-// the kernel need not walk a path for each file, and no link can lead out of the tree.
-int remove_directory(int at, const char* name) {
-  const Dir dir = [&] {
-    Descriptor fd(openat(at, name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
-    DIR* const dp = fd.is_open() ? fdopendir(fd.get()) : nullptr;
-    if (dp) (void)fd.release();  // the stream owns it now
-    return Dir(dp);
-  }();
-  // Meant: a directory that cannot be opened stays, and is no failure by itself; the
-  // parent then fails, because it is not empty.
-  if (!dir) return 0;
-
-  const int fd = dirfd(dir.get());
-  while (const dirent* const entry = next_entry(dir.get())) {
-    const bool removed = is_directory_at(fd, *entry)
-                             ? remove_directory(fd, entry->d_name) == 0
-                             : unlinkat(fd, entry->d_name, 0) == 0 || errno == ENOENT;
-    if (!removed) return -3;
-  }
-  return unlinkat(at, name, AT_REMOVEDIR) == 0 ? 0 : -3;
 }
 
 int move_directory(const ustring& from, const ustring& to, bool do_case_check) {
@@ -370,9 +321,12 @@ int FSRemove(const ustring& path, bool /*allowundo*/) {
   FILE_INFO info;
   if (GetFileInfo(path, info) != 0) return -1;
   if (!info.isExist) return 0;
-  if (info.type == FT_DIR) return remove_directory(AT_FDCWD, path.c_str());
-  return remove(path.c_str()) == 0 ? 0 : -3;
+  if (info.type == FT_DIR) return remove_tree(path.c_str());
+  // Gone meanwhile is as good as removed.
+  return remove(path.c_str()) == 0 || errno == ENOENT ? 0 : -3;
 }
+
+void FSMakeRemovable(const ustring& path) { make_tree_removable(path.c_str()); }
 
 int FSSync(const ustring& path) {
   const Descriptor fd(TEMP_FAILURE_RETRY(open(path.c_str(), O_RDONLY | O_CLOEXEC)));

@@ -127,6 +127,11 @@ bool IsFileExist(const ustring& path, bool do_case_check);
 // removal and leaves the rest. `allowundo` has no effect: nothing can be undone.
 [[nodiscard]] int FSRemove(const ustring& path, bool allowundo);
 
+// Makes the directories from `path` down readable, writable and searchable for their owner, for
+// a removal that fails without. Links are not followed, other files not touched. Best effort:
+// what it cannot change the removal will report. Walks the whole tree.
+void FSMakeRemovable(const ustring& path);
+
 // Has everything written to the file system of `path` until now, names included, on the
 // disk when it returns 0. -1 (logged) when that cannot be said.
 [[nodiscard]] int FSSync(const ustring& path);

@@ -10,6 +10,7 @@ set(ALLOWED
 # ... and from file pair to file pair where a room's inside has a direction.
 list(APPEND ALLOWED
   "lib/log>lib/config" "lib/file-op>lib/log" "lib/file-op>lib/tmp_name_gen"
+  "lib/file-op>lib/directory" "lib/file-op>lib/remove-tree" "lib/remove-tree>lib/directory"
   "launcher/main>launcher/launcher"
   "launcher/launcher>launcher/linux/linux-service" "launcher/launcher>launcher/adapter"
   "launcher/linux/linux-service>launcher/cloud-service"
