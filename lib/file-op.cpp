@@ -15,6 +15,7 @@
 #include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "lib/directory.h"
 #include "lib/log.h"
@@ -128,13 +129,43 @@ int copy_content(int in, int out, char* buffer) {
   }
 }
 
+int copy_through_buffer(int in, int out) {
+  // Only the pages that are touched cost anything, and those are the slice's. On the start of a
+  // page, because the processor moves what is aligned nearly twice as fast.
+  const std::unique_ptr<char, Freer> buffer(
+      static_cast<char*>(aligned_alloc(kPageSize, kCopyBuffer)));
+  if (buffer) return copy_content(in, out, buffer.get());
+  Logger::LogMsg(Logger::L_ERR, kComponent, "[ERROR] file-op(%d): FSCopy: malloc(%d): %s (%d)\n",
+                 __LINE__, kCopyBuffer, strerror(errno), errno);
+  return -1;
+}
+
+int open_error(const ustring& path) {
+  Logger::LogMsg(Logger::L_ERR, kComponent, "[ERROR] file-op(%d): CopyFile: open(%s): %s (%d)\n",
+                 __LINE__, path.c_str(), strerror(errno), errno);
+  return -1;
+}
+
 Descriptor open_for_copy(const ustring& path, int flags) {
   const int fd = TEMP_FAILURE_RETRY(open(path.c_str(), flags | O_CLOEXEC, 0666));
-  if (fd < 0) {
-    Logger::LogMsg(Logger::L_ERR, kComponent, "[ERROR] file-op(%d): CopyFile: open(%s): %s (%d)\n",
-                   __LINE__, path.c_str(), strerror(errno), errno);
-  }
+  if (fd < 0) (void)open_error(path);
   return Descriptor(fd);
+}
+
+bool same_object(const struct stat& a, const struct stat& b) {
+  return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
+}
+
+// Empties `out` as opening it for a copy of `in` would: 0; 1 when both are one object, which is
+// left alone; -1 on failure.
+int empty_for_copy(int in, int out) {
+  struct stat from;
+  struct stat to;
+  if (fstat(in, &from) != 0 || fstat(out, &to) != 0) return -1;
+  if (same_object(from, to)) return 1;
+  // Nothing but a file has a length; a new one has none yet.
+  if (!S_ISREG(to.st_mode) || to.st_size == 0) return 0;
+  return TEMP_FAILURE_RETRY(ftruncate(out, 0)) == 0 ? 0 : -1;
 }
 
 // Makes `prefix` a directory; `last` says that it is the whole path. See FSMKDirP.
@@ -158,15 +189,30 @@ int make_component(const char* prefix, bool last, bool force, mode_t mode) {
   return 0;
 }
 
+// Reads `dir` to its end and closes it, so that a walk holds no descriptor for each level; errno
+// is 0 unless the reading failed.
+std::vector<std::pair<std::string, bool>> read_entries(Dir dir) {
+  std::vector<std::pair<std::string, bool>> entries;  // name, is a directory
+  while (const dirent* const entry = next_entry(dir.get())) {
+    // The stream's word alone: an entry of unknown type is no directory.
+    entries.emplace_back(entry->d_name, entry->d_type == DT_DIR);
+  }
+  return entries;
+}
+
 int move_directory(const ustring& from, const ustring& to, bool do_case_check) {
   if (FSMKDir(to, true) != 0) return -3;
+  struct stat source;
+  struct stat target;
+  if (stat(from.c_str(), &source) != 0 || stat(to.c_str(), &target) != 0) return -3;
+  // One directory under two names: it is where it shall be, and must not be removed.
+  if (same_object(source, target)) return -3;
   Dir dir(opendir(from.c_str()));
   if (!dir) return -3;
-  while (const dirent* const entry = next_entry(dir.get())) {
-    const ustring child = ustring("/") + entry->d_name;
+  for (const auto& [name, is_dir] : read_entries(std::move(dir))) {
+    const ustring child = "/" + ustring(name);
     if (FSRename(from + child, to + child, do_case_check) != 0) return -3;
   }
-  dir.reset();
   return remove(from.c_str()) == 0 ? 0 : -3;
 }
 
@@ -230,20 +276,14 @@ int FSStat(const ustring& path, FILE_INFO& info, bool /*do_case_check*/) {
 int FSCopy(const ustring& src, const ustring& dst, bool isDelOrigin) {
   Descriptor in = open_for_copy(src, O_RDONLY);
   if (!in.is_open()) return -1;
-  const Descriptor out = open_for_copy(dst, O_WRONLY | O_CREAT | O_TRUNC);
+  // Emptied only below: it may be the source under another name.
+  const Descriptor out = open_for_copy(dst, O_WRONLY | O_CREAT);
   if (!out.is_open()) return -1;
+  const int emptied = empty_for_copy(in.get(), out.get());
+  if (emptied < 0) return open_error(dst);
+  const bool itself = emptied == 1;
 
-  // Only the pages that are touched cost anything, and those are the slice's. On the start of a
-  // page, because the processor moves what is aligned nearly twice as fast.
-  const std::unique_ptr<char, Freer> buffer(
-      static_cast<char*>(aligned_alloc(kPageSize, kCopyBuffer)));
-  int result = -1;
-  if (buffer) {
-    result = copy_content(in.get(), out.get(), buffer.get());
-  } else {
-    Logger::LogMsg(Logger::L_ERR, kComponent, "[ERROR] file-op(%d): FSCopy: malloc(%d): %s (%d)\n",
-                   __LINE__, kCopyBuffer, strerror(errno), errno);
-  }
+  const int result = itself ? 0 : copy_through_buffer(in.get(), out.get());
   // Before the source goes: the disk may turn out to be full or broken only now.
   const int error = errno;
   if (!sync_descriptor(out.get())) {
@@ -252,6 +292,10 @@ int FSCopy(const ustring& src, const ustring& dst, bool isDelOrigin) {
   errno = error;
   if (result != 0 || !isDelOrigin) return result;
 
+  if (itself) {
+    errno = EEXIST;
+    return -1;
+  }
   in.close();
   return remove(src.c_str()) == 0 ? 0 : -1;
 }
@@ -331,6 +375,11 @@ void FSMakeRemovable(const ustring& path) { make_tree_removable(path.c_str()); }
 int FSSync(const ustring& path) {
   const Descriptor fd(TEMP_FAILURE_RETRY(open(path.c_str(), O_RDONLY | O_CLOEXEC)));
   if (fd.is_open() && syncfs(fd.get()) == 0) return 0;
+  if (fd.is_open() && errno == ENOSYS) {
+    // Not refused but not there, by the kernel or a sandbox: sync() waits for all file systems.
+    sync();
+    return 0;
+  }
   Logger::LogMsg(Logger::L_ERR, kComponent,
                  "[ERROR] file-op(%d): FSSync: Failed to sync the file system of '%s'. %s\n",
                  __LINE__, path.c_str(), strerror(errno));
@@ -363,17 +412,17 @@ int TraverseDir(const ustring& dir, FN_ACT_TRAVERSE_DIR fn, void* pPriv) {
   if (dir.empty() || !fn) return -1;
   FILE_INFO info;
   if (GetFileInfo(dir, info) != 0 || !info.isExist || info.type != FT_DIR) return -1;
-  const Dir stream(opendir(dir.c_str()));
+  Dir stream(opendir(dir.c_str()));
   if (!stream) return -2;
   if (fn(dir, pPriv) != 0) return -2;
 
-  while (const dirent* const entry = next_entry(stream.get())) {
-    const ustring child = dir + "/" + entry->d_name;
-    // The stream's word alone: an entry of unknown type is handed over, not entered.
-    const int result = entry->d_type == DT_DIR ? TraverseDir(child, fn, pPriv) : fn(child, pPriv);
-    if (result != 0) return -2;
+  const auto entries = read_entries(std::move(stream));
+  const bool complete = errno == 0;
+  for (const auto& [name, is_dir] : entries) {
+    const ustring child = dir + "/" + name;
+    if ((is_dir ? TraverseDir(child, fn, pPriv) : fn(child, pPriv)) != 0) return -2;
   }
-  return errno == 0 ? 0 : -2;
+  return complete ? 0 : -2;
 }
 
 int FSUTime(const ustring& path, time_t atime, time_t mtime) {

@@ -98,7 +98,9 @@ bool IsFileExist(const ustring& path, bool do_case_check);
 // Copies the content of one file into `dst`, created or truncated, and has it on the
 // disk before returning; neither times nor permissions follow. With `isDelOrigin`
 // removes `src` once the copy is complete. -1 on failure, -2 when the disk is full; `src`
-// is then in place, and `dst`, once it could be opened, as far as it was written.
+// is then in place, and `dst`, once it could be opened, as far as it was written. When both names
+// lead to one file it stays as it is: a success, but -1 (EEXIST) with `isDelOrigin`, for its name
+// `src` is not removed.
 [[nodiscard]] int FSCopy(const ustring& src, const ustring& dst, bool isDelOrigin);
 
 // Creates a directory, with all missing parents when asked; an existing one is a
@@ -119,7 +121,8 @@ bool IsFileExist(const ustring& path, bool do_case_check);
 // Moves a file or a tree. Across file systems files are copied, then removed, one by
 // one; a failure on the way (-3) leaves every file on one side or the other. Links,
 // devices, FIFOs and sockets are not moved across file systems, and that counts as
-// success; a directory that holds one stays with it (-3). -2 when `from` does not exist.
+// success; a directory that holds one stays with it (-3), and so does what both names lead to
+// by way of a second mount. -2 when `from` does not exist.
 [[nodiscard]] int FSRename(const ustring& from, const ustring& to, bool do_case_check);
 
 // Removes a file or a whole tree, links not followed. A missing object is a success,
@@ -133,7 +136,8 @@ bool IsFileExist(const ustring& path, bool do_case_check);
 void FSMakeRemovable(const ustring& path);
 
 // Has everything written to the file system of `path` until now, names included, on the
-// disk when it returns 0. -1 (logged) when that cannot be said.
+// disk when it returns 0. -1 (logged) when that cannot be said. Where the system cannot sync one
+// file system, it syncs all.
 [[nodiscard]] int FSSync(const ustring& path);
 
 // Begins to write the content of the file `path` to the disk, so that the next FSSync finds
