@@ -1,23 +1,34 @@
 #include "lib/config.h"
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
-#include <memory>
 #include <string>
+
+#include "lib/open-file.h"
 
 namespace {
 
-struct FileCloser {
-  void operator()(FILE* fp) const {
-    // Opened for reading only: closing has nothing to flush that could fail.
-    (void)fclose(fp);
-  }
-};
-using File = std::unique_ptr<FILE, FileCloser>;
+constexpr size_t kLineBuffer = 8192;  // bytes, the terminator included
+constexpr size_t kMaxFile = 1048576;  // bytes; a file beyond this is none of ours
 
-constexpr int kLineBuffer = 8192;  // bytes, the terminator included
+// Reads the whole file into `text`; false when it is no file, cannot be read or is too long.
+bool read_file(const ustring& path, std::string& text) {
+  const int fd = open_file(path.c_str(), O_RDONLY);
+  if (fd < 0) return false;
+  char buffer[kLineBuffer];
+  ssize_t count;
+  do {
+    count = TEMP_FAILURE_RETRY(::read(fd, buffer, sizeof buffer));
+    if (count > 0) text.append(buffer, static_cast<size_t>(count));
+  } while (count > 0 && text.size() <= kMaxFile);
+  (void)close(fd);  // nothing was written
+  return count == 0;
+}
 
 template <typename Test>
 bool all_bytes(const ustring& text, Test test) {
@@ -98,26 +109,24 @@ Config::Config(const ustring& path) {
 }
 
 int Config::read(const ustring& path) {
-  if (path.empty()) return -1;
-  const File file(fopen(path.c_str(), "re"));
-  if (!file) return -1;
+  std::string text;
+  if (path.empty() || !read_file(path, text)) return -1;
 
-  char line[kLineBuffer];
-  while (fgets(line, kLineBuffer, file.get())) {
+  for (size_t start = 0; start < text.size();) {
+    const size_t end = std::min(text.find('\n', start), text.size() - 1) + 1;
+    const size_t length = std::min(end - start, kLineBuffer - 1);
+    char line[kLineBuffer];
+    line[text.copy(line, length, start)] = '\0';
+    start += length;
+
     ustring key;
     ustring value;
-    const int result = parse(line, static_cast<int>(strlen(line)), key, value);
+    const int result = parse(line, static_cast<int>(length), key, value);
     if (result == INVALID) {
       store.clear();
       return -1;
     }
     if (result == OK) store[key] = value;
-  }
-  // A directory opens like a file and fails only when read; half a file must not
-  // pass for a whole one either.
-  if (ferror(file.get())) {
-    store.clear();
-    return -1;
   }
   return 0;
 }

@@ -33,8 +33,9 @@ class Config {
   // Reads the file at `path` into the store; later lines overwrite earlier ones
   // of the same key, and what the store held before stays unless overwritten.
   // Returns 0 on success.
-  // Returns -1 with the store untouched when `path` is empty or cannot be opened,
-  // and -1 with the store emptied when a line is malformed or reading fails.
+  // Returns -1 with the store untouched when `path` is empty, cannot be read, is no
+  // regular file (which is not waited for either) or is longer than 1 MiB, and -1
+  // with the store emptied when a line is malformed.
   // A line longer than 8191 bytes is parsed in pieces of that size.
   [[nodiscard]] int read(const ustring& path);
 

@@ -1,6 +1,9 @@
 #include "lib/log.h"
 
+#include <fcntl.h>
+#include <stdio_ext.h>
 #include <syslog.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <cstring>
@@ -8,6 +11,7 @@
 #include <sstream>
 
 #include "lib/config.h"
+#include "lib/open-file.h"
 
 namespace {
 
@@ -17,7 +21,9 @@ constexpr size_t kMaxStamp = 512;         // bytes of a time stamp
 constexpr size_t kMaxName = 1024;         // bytes of a rotation file's name
 
 // The lock on the log, held without thread cancellation: a thread cancelled inside
-// would leave the log locked for good.
+// would leave the log locked for good. One that was cancelled meanwhile, and is to end at
+// once wherever it may be, ends when the state is restored: by unwinding from the
+// destructor, which has unlocked by then.
 class LogLock {
  public:
   // Neither call can fail here: the state is a valid one, the mutex is statically
@@ -26,7 +32,7 @@ class LogLock {
     (void)pthread_setcancelstate(PTHREAD_CANCEL_DISABLE, &m_state);
     (void)pthread_mutex_lock(&m_mutex);
   }
-  ~LogLock() {
+  ~LogLock() noexcept(false) {
     (void)pthread_mutex_unlock(&m_mutex);
     (void)pthread_setcancelstate(m_state, nullptr);
   }
@@ -74,6 +80,18 @@ ustring numbered(const ustring& path, int number) {
   return length < 0 ? ustring() : ustring(name);
 }
 
+// Opens `path` for appending; null on failure. What the file holds already does not count
+// towards its rotation, so `size` becomes 0; -1 for a device, which is never rotated.
+FILE* open_log(const ustring& path, int32_t& size) {
+  bool is_device = false;
+  const int fd = open_file(path.c_str(), O_WRONLY | O_APPEND | O_CREAT, &is_device);
+  if (fd < 0) return nullptr;
+  FILE* const fp = fdopen(fd, "a");
+  if (!fp) (void)close(fd);  // nothing was written
+  size = is_device ? -1 : 0;
+  return fp;
+}
+
 // Every line was flushed when it was written; closing has nothing left to fail at.
 void close_flushed(FILE* fp) {
   if (fp) (void)fclose(fp);
@@ -113,10 +131,11 @@ int Logger::Initialize(Type type, const ustring& path, const ustring& level_path
   }
 
   if (path.empty()) return -1;
-  FILE* const fp = fopen(path.c_str(), "ae");
+  int32_t size = 0;
+  FILE* const fp = open_log(path, size);
   if (!fp) return -1;
   log_fp = fp;
-  log_size = 0;  // what the file holds already does not count towards its rotation
+  log_size = size;
   log_path = path;
   rotate_cnt = count;
   close_flushed(earlier);
@@ -148,11 +167,8 @@ void Logger::LogMsg2(Level level, const ustring& comp, const xchar* fmt, va_list
   const int written = Emit(fmt, args);
   if (log_type != FILE_LOGGER || log_size < 0 || written < 0) return;
   log_size += written;
-  if (log_size > kMaxLogSize) {
-    // A failed rotation has closed the log; there is nowhere left to report it.
-    (void)Rotate();
-    log_size = 0;
-  }
+  // A failed rotation has closed the log; there is nowhere left to report it.
+  if (log_size > kMaxLogSize) (void)Rotate();
 }
 
 bool Logger::IsWanted(Level level, const ustring& comp) {
@@ -176,9 +192,11 @@ int Logger::Emit(const xchar* fmt, va_list args) {
   const char* const stamp = time_stamp();
   const bool stamped = fputs(stamp, log_fp) != EOF;
   const int text = vfprintf(log_fp, fmt, args);
-  // What a full disk refuses is lost; the log must not stop the launcher.
-  (void)fflush(log_fp);
-  return stamped && text >= 0 ? static_cast<int>(strlen(stamp)) + text : -1;
+  if (fflush(log_fp) == 0 && stamped && text >= 0) return static_cast<int>(strlen(stamp)) + text;
+  // What a full disk refuses is lost: the stream would keep it, and put the middle of some line
+  // in front of the next one that fits.
+  if (log_type == FILE_LOGGER) __fpurge(log_fp);
+  return -1;
 }
 
 int Logger::Rotate() {
@@ -192,8 +210,9 @@ int Logger::Rotate() {
 
   close_flushed(log_fp);
   log_fp = nullptr;
+  log_size = 0;
   if (rename(log_path.c_str(), numbered(log_path, 0).c_str()) != 0) return -1;
-  log_fp = fopen(log_path.c_str(), "ae");
+  log_fp = open_log(log_path, log_size);
   return log_fp ? 0 : -1;
 }
 

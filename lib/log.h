@@ -62,8 +62,9 @@ class Logger {
   // (may be empty; a missing or malformed file gives no thresholds). Thresholds of an
   // earlier call stay unless overridden. `path`, the log file, and `count`, the number of
   // rotation files, are for FILE_LOGGER only.
-  // Returns 0, or -1 when a file sink's path is empty or cannot be opened; the earlier
-  // stream then stays in use, under the new type.
+  // Returns 0, or -1 when a file sink's path is empty, cannot be opened or is neither a file
+  // nor a character device (which is never rotated, and no more waited for than the others);
+  // the earlier stream then stays in use, under the new type.
   [[nodiscard]] static int Initialize(Type type, const ustring& path, const ustring& level_path,
                                       int count);
 
@@ -95,7 +96,7 @@ class Logger {
   static std::map<ustring, int> log_level;  // thresholds by component
   static Type log_type;
   static FILE* log_fp;      // owned when log_path is not empty
-  static int32_t log_size;  // bytes since opening or rotation; -1: never rotated
+  static int32_t log_size;  // bytes on the file since opening or rotation; -1: never rotated
   static int32_t rotate_cnt;
   static ustring log_path;
   static pthread_mutex_t log_lock;

@@ -9,7 +9,8 @@ set(ALLOWED
   "launcher/linux>ustring" "launcher/linux>lib")
 # ... and from file pair to file pair where a room's inside has a direction.
 list(APPEND ALLOWED
-  "lib/log>lib/config" "lib/file-op>lib/log" "lib/file-op>lib/tmp_name_gen"
+  "lib/config>lib/open-file" "lib/log>lib/open-file" "lib/log>lib/config"
+  "lib/file-op>lib/log" "lib/file-op>lib/tmp_name_gen"
   "lib/file-op>lib/directory" "lib/file-op>lib/remove-tree" "lib/remove-tree>lib/directory"
   "launcher/main>launcher/launcher"
   "launcher/launcher>launcher/linux/linux-service" "launcher/launcher>launcher/adapter"

@@ -122,9 +122,10 @@ ustring::~ustring() {
   // Without capacity the buffers are the shared empty ones of a moved-from string.
   if (data_cap != 0) std::free(data);
   if (wdata_cap != 0) std::free(wdata);
-  // A use after destruction then fails at once instead of reading freed memory.
-  data = nullptr;
-  wdata = nullptr;
+  // A use after destruction then fails at once instead of reading freed memory. Volatile, or the
+  // compiler leaves out what no valid program can see.
+  *const_cast<char* volatile*>(&data) = nullptr;
+  *const_cast<uchar16_t* volatile*>(&wdata) = nullptr;
 }
 
 void ustring::init(size_t size) {
@@ -167,13 +168,13 @@ void ustring::drop_view() const noexcept {
   if (wdata_cap != 0) wdata[0] = u'\0';
 }
 
-void ustring::end_text(size_t len) noexcept {
+void ustring::set_length(size_t len) noexcept {
   data_len = len;
   if (data_cap != 0) data[len] = '\0';
   drop_view();
 }
 
-ustring& ustring::end_view(size_t len) {
+ustring& ustring::rebuild_text(size_t len) {
   wdata_len = len;
   wdata[len] = u'\0';
   try {
@@ -200,7 +201,7 @@ ustring& ustring::assign_text(std::string_view s) {
   }
   realloc_data(size_for(0, s.size()));
   std::memcpy(data, s.data(), s.size());
-  end_text(s.size());
+  set_length(s.size());
   return *this;
 }
 
@@ -210,7 +211,7 @@ ustring& ustring::append_text(std::string_view s) {
   const size_t offset = own ? static_cast<size_t>(s.data() - data) : 0;
   realloc_data(size_for(data_len, s.size()));
   std::memcpy(data + data_len, own ? data + offset : s.data(), s.size());
-  end_text(data_len + s.size());
+  set_length(data_len + s.size());
   return *this;
 }
 
@@ -225,7 +226,7 @@ ustring& ustring::assign(const ustring& s, size_t pos, size_t n) {
 ustring& ustring::assign(char c, size_t n) {
   realloc_data(size_for(0, n));
   std::memset(data, c, n);
-  end_text(n);
+  set_length(n);
   return *this;
 }
 
@@ -240,13 +241,13 @@ ustring& ustring::assign(const uchar16_t* s, size_t n) {
   }
   realloc_wdata(size_for(0, units.size()));
   std::copy(units.begin(), units.end(), wdata);
-  return end_view(units.size());
+  return rebuild_text(units.size());
 }
 
 ustring& ustring::assign(uchar16_t c, size_t n) {
   realloc_wdata(size_for(0, n));
   std::fill_n(wdata, n, c);
-  return end_view(n);
+  return rebuild_text(n);
 }
 
 ustring& ustring::append(const std::string& s, size_t pos, size_t n) {
@@ -260,7 +261,7 @@ ustring& ustring::append(const ustring& s, size_t pos, size_t n) {
 ustring& ustring::append(char c, size_t n) {
   realloc_data(size_for(data_len, n));
   std::memset(data + data_len, c, n);
-  end_text(data_len + n);
+  set_length(data_len + n);
   return *this;
 }
 
@@ -272,14 +273,14 @@ ustring& ustring::append(const uchar16_t* s, size_t n) {
   const size_t offset = own ? static_cast<size_t>(units.data() - wdata) : 0;
   realloc_wdata(size_for(wdata_len, units.size()));
   std::copy_n(own ? wdata + offset : units.data(), units.size(), wdata + wdata_len);
-  return end_view(wdata_len + units.size());
+  return rebuild_text(wdata_len + units.size());
 }
 
 ustring& ustring::append(uchar16_t c, size_t n) {
   if (wdata_len == 0 && convert_from_data() != 0) return *this;
   realloc_wdata(size_for(wdata_len, n));
   std::fill_n(wdata + wdata_len, n, c);
-  return end_view(wdata_len + n);
+  return rebuild_text(wdata_len + n);
 }
 
 ustring& ustring::replace(char from, char to) noexcept {
@@ -291,17 +292,19 @@ ustring& ustring::replace(char from, char to) noexcept {
 void ustring::keep(size_t first, size_t end) noexcept {
   const size_t len = first < end ? end - first : 0;
   std::memmove(data, data + first, len);
-  end_text(len);
+  set_length(len);
 }
 
 // Both ends are found before a byte moves, since the set may lie inside the text. With nothing to
 // keep, the start is npos and the end npos + 1, which is 0.
 
-void ustring::ltrim(const char* set) { keep(std::min(find_first_not_of(set), data_len), data_len); }
+void ustring::ltrim(const needle& set) {
+  keep(std::min(find_first_not_of(set), data_len), data_len);
+}
 
-void ustring::rtrim(const char* set) { keep(0, find_last_not_of(set) + 1); }
+void ustring::rtrim(const needle& set) { keep(0, find_last_not_of(set) + 1); }
 
-void ustring::trim(const char* set) {
+void ustring::trim(const needle& set) {
   const size_t end = find_last_not_of(set) + 1;
   keep(std::min(find_first_not_of(set), data_len), end);
 }
@@ -319,28 +322,28 @@ ustring ustring::substr(size_t pos, size_t n) const { return {slice(text(), pos,
 // The standard searches find an empty needle at the end of a text, and in an empty text. Here no
 // search begins behind the last byte, which the bounds on pos see to.
 
-size_t ustring::find(const char* s, size_t pos) const {
-  return pos < data_len ? text().find(terminated(s), pos) : npos;
+size_t ustring::find(const needle& s, size_t pos) const {
+  return pos < data_len ? text().find(s.text(), pos) : npos;
 }
 
-size_t ustring::rfind(const char* s, size_t pos) const {
-  return empty() ? npos : text().rfind(terminated(s), last_start(pos));
+size_t ustring::rfind(const needle& s, size_t pos) const {
+  return empty() ? npos : text().rfind(s.text(), last_start(pos));
 }
 
-size_t ustring::find_first_of(const char* s, size_t pos) const {
-  return text().find_first_of(terminated(s), pos);
+size_t ustring::find_first_of(const needle& set, size_t pos) const {
+  return text().find_first_of(set.text(), pos);
 }
 
-size_t ustring::find_first_not_of(const char* s, size_t pos) const {
-  return text().find_first_not_of(terminated(s), pos);
+size_t ustring::find_first_not_of(const needle& set, size_t pos) const {
+  return text().find_first_not_of(set.text(), pos);
 }
 
-size_t ustring::find_last_of(const char* s, size_t pos) const {
-  return empty() ? npos : text().find_last_of(terminated(s), last_start(pos));
+size_t ustring::find_last_of(const needle& set, size_t pos) const {
+  return empty() ? npos : text().find_last_of(set.text(), last_start(pos));
 }
 
-size_t ustring::find_last_not_of(const char* s, size_t pos) const {
-  return empty() ? npos : text().find_last_not_of(terminated(s), last_start(pos));
+size_t ustring::find_last_not_of(const needle& set, size_t pos) const {
+  return empty() ? npos : text().find_last_not_of(set.text(), last_start(pos));
 }
 
 int ustring::compare(const ustring& a, const ustring& b, bool caseless) {
@@ -430,7 +433,7 @@ ustring ustring::normalize(const ustring& s, normalization_form form) {
     result.clear();
     return result;
   }
-  result.end_view(static_cast<size_t>(filled));
+  result.rebuild_text(static_cast<size_t>(filled));
   return result;
 }
 

@@ -4,6 +4,7 @@
 #include <iosfwd>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 
 // One UTF-16 code unit.
@@ -26,6 +27,10 @@ using uchar16_t = char16_t;
 // Threads: no locks. Distinct objects are independent. Const calls on a shared object may run
 // side by side, except those that build its view: c_str_utf16() and normalize().
 class ustring {
+  template <class T>
+  using only_char = std::enable_if_t<std::is_same_v<T, char>, int>;
+  class needle;
+
  public:
   // "Nothing found", and "up to the end" as a count; the largest size_t.
   static constexpr size_t npos = static_cast<size_t>(-1);
@@ -37,7 +42,9 @@ class ustring {
 
   ustring() { init(); }
   ustring(const char* s) : ustring(terminated(s), "") {}
-  ustring(char c) : ustring(std::string_view(&c, 1), "") {}
+  // A char and nothing that converts to one: a 16-bit unit or a number is no text.
+  template <class Char, only_char<Char> = 0>
+  ustring(Char c) : ustring(std::string_view(&c, 1), "") {}
   ustring(const std::string& s) : ustring(std::string_view(s), "") {}
   // Copies the text, not the view.
   ustring(const ustring& other) : ustring(other.text(), "") {}
@@ -55,7 +62,7 @@ class ustring {
   // Each returns *this; each operator is the assign() or append() of the same argument.
 
   // Empties text and view; the buffers are kept.
-  void clear() noexcept { end_text(0); }
+  void clear() noexcept { set_length(0); }
 
   ustring& operator=(const char* s) { return assign(s); }
   ustring& operator=(const std::string& s) { return assign(s); }
@@ -104,16 +111,14 @@ class ustring {
 
   // Turns every byte `from` into `to`, in place. Meant to leave a view that is already built as
   // it was, so it shows the old text: whoever needs the view afterwards must not build it before.
+  // 16-bit input afterwards continues that old view, and so undoes the change.
   ustring& replace(char from, char to) noexcept;
 
   // Removes the leading (ltrim) and trailing (rtrim) bytes contained in set; an empty set
   // removes nothing. trim() does both.
-  void ltrim(const char* set = " \t\r\n");
-  void ltrim(const ustring& set) { ltrim(set.c_str()); }
-  void rtrim(const char* set = " \t\r\n");
-  void rtrim(const ustring& set) { rtrim(set.c_str()); }
-  void trim(const char* set = " \t\r\n");
-  void trim(const ustring& set) { trim(set.c_str()); }
+  void ltrim(const needle& set = " \t\r\n");
+  void rtrim(const needle& set = " \t\r\n");
+  void trim(const needle& set = " \t\r\n");
 
   // Exchanges texts and views.
   void swap(ustring& other) noexcept;
@@ -135,7 +140,7 @@ class ustring {
   bool empty() const noexcept { return data_len == 0; }
 
   // Byte i, unchecked; i == length() reads the terminator. Writing through it leaves the view as
-  // it was, as replace() does.
+  // it was, as replace() does, and 16-bit input afterwards undoes it in the same way.
   char& operator[](size_t i) noexcept { return data[i]; }
   const char& operator[](size_t i) const noexcept { return data[i]; }
 
@@ -146,63 +151,23 @@ class ustring {
   //
   // Forward searches begin at pos and find nothing if pos >= length(). Backward searches begin at
   // pos or, if that is at or beyond the end, at the last byte. An empty text never matches, not
-  // even an empty needle. Needles end at their first zero byte; the char '\0' is an empty needle.
+  // even an empty needle. A needle is a zero-terminated text, a std::string, a ustring or a char;
+  // it ends at its first zero byte, and the char '\0' is an empty one.
 
   // The needle as a whole, beginning at pos or later; an empty needle matches at pos.
-  size_t find(const char* s, size_t pos = 0) const;
-  size_t find(const std::string& s, size_t pos = 0) const { return find(s.c_str(), pos); }
-  size_t find(const ustring& s, size_t pos = 0) const { return find(s.c_str(), pos); }
-  size_t find(char c, size_t pos = 0) const { return find(needle(c).text, pos); }
-
+  size_t find(const needle& s, size_t pos = 0) const;
   // The needle as a whole, beginning at pos or earlier; an empty needle matches where it begins.
-  size_t rfind(const char* s, size_t pos = npos) const;
-  size_t rfind(const std::string& s, size_t pos = npos) const { return rfind(s.c_str(), pos); }
-  size_t rfind(const ustring& s, size_t pos = npos) const { return rfind(s.c_str(), pos); }
-  size_t rfind(char c, size_t pos = npos) const { return rfind(needle(c).text, pos); }
+  size_t rfind(const needle& s, size_t pos = npos) const;
 
   // Forward for a byte of the set; an empty set never matches.
-  size_t find_first_of(const char* s, size_t pos = 0) const;
-  size_t find_first_of(const std::string& s, size_t pos = 0) const {
-    return find_first_of(s.c_str(), pos);
-  }
-  size_t find_first_of(const ustring& s, size_t pos = 0) const {
-    return find_first_of(s.c_str(), pos);
-  }
-  size_t find_first_of(char c, size_t pos = 0) const { return find_first_of(needle(c).text, pos); }
-
+  size_t find_first_of(const needle& set, size_t pos = 0) const;
   // Forward for a byte outside the set; an empty set matches at pos.
-  size_t find_first_not_of(const char* s, size_t pos = 0) const;
-  size_t find_first_not_of(const std::string& s, size_t pos = 0) const {
-    return find_first_not_of(s.c_str(), pos);
-  }
-  size_t find_first_not_of(const ustring& s, size_t pos = 0) const {
-    return find_first_not_of(s.c_str(), pos);
-  }
-  size_t find_first_not_of(char c, size_t pos = 0) const {
-    return find_first_not_of(needle(c).text, pos);
-  }
+  size_t find_first_not_of(const needle& set, size_t pos = 0) const;
 
   // Backward for a byte of the set; an empty set never matches.
-  size_t find_last_of(const char* s, size_t pos = npos) const;
-  size_t find_last_of(const std::string& s, size_t pos = npos) const {
-    return find_last_of(s.c_str(), pos);
-  }
-  size_t find_last_of(const ustring& s, size_t pos = npos) const {
-    return find_last_of(s.c_str(), pos);
-  }
-  size_t find_last_of(char c, size_t pos = npos) const { return find_last_of(needle(c).text, pos); }
-
+  size_t find_last_of(const needle& set, size_t pos = npos) const;
   // Backward for a byte outside the set; an empty set matches where the search begins.
-  size_t find_last_not_of(const char* s, size_t pos = npos) const;
-  size_t find_last_not_of(const std::string& s, size_t pos = npos) const {
-    return find_last_not_of(s.c_str(), pos);
-  }
-  size_t find_last_not_of(const ustring& s, size_t pos = npos) const {
-    return find_last_not_of(s.c_str(), pos);
-  }
-  size_t find_last_not_of(char c, size_t pos = npos) const {
-    return find_last_not_of(needle(c).text, pos);
-  }
+  size_t find_last_not_of(const needle& set, size_t pos = npos) const;
 
   // --- Comparison, by unsigned bytes.
 
@@ -281,10 +246,22 @@ class ustring {
   // Capacity of both buffers after construction, in bytes and in units.
   static constexpr size_t initial_cap = 4;
 
-  // A single char as a zero-terminated text.
-  struct needle {
-    explicit needle(char c) noexcept : text{c, '\0'} {}
-    const char text[2];
+  // What is searched for. Refers to the text given, so it lives no longer than the call.
+  class needle {
+   public:
+    needle(const char* s) noexcept : m_text(terminated(s)) {}
+    needle(const std::string& s) noexcept : m_text(s.c_str()) {}
+    needle(const ustring& s) noexcept : m_text(s.c_str()) {}
+    template <class Char, only_char<Char> = 0>
+    needle(Char c) noexcept : m_char(c), m_text(&m_char, c != '\0' ? 1 : 0) {}
+    needle(const needle&) = delete;
+    needle& operator=(const needle&) = delete;
+
+    std::string_view text() const noexcept { return m_text; }
+
+   private:
+    const char m_char = '\0';
+    const std::string_view m_text;
   };
 
   // The text head + tail in a buffer allocated once, at the size it needs.
@@ -306,10 +283,10 @@ class ustring {
 
   ustring& assign_text(std::string_view s);
   ustring& append_text(std::string_view s);
-  // The tail of every 16-bit change: ends the view behind `len` units, rebuilds the text.
-  ustring& end_view(size_t len);
-  // The tail of every 8-bit change: ends the text behind `len` bytes, drops the view.
-  void end_text(size_t len) noexcept;
+  // The tail of every 8-bit change: the text has `len` bytes, and no view.
+  void set_length(size_t len) noexcept;
+  // The tail of every 16-bit change: the view has `len` units, and the text is rebuilt from it.
+  ustring& rebuild_text(size_t len);
   void drop_view() const noexcept;
   // Keeps the bytes of [first, end) and drops the others.
   void keep(size_t first, size_t end) noexcept;
