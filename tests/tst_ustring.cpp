@@ -6,7 +6,9 @@
 
 #include <functional>
 #include <iostream>
+#include <new>
 #include <sstream>
+#include <type_traits>
 
 #include "ustring/ustring.h"
 
@@ -18,7 +20,7 @@ Q_DECLARE_METATYPE(Change)
 
 namespace {
 
-Bytes bytes(const U& s) { return Bytes(s.c_str(), int(s.length())); }
+Bytes bytes(const U& s) { return Bytes(s.c_str_utf8(), int(s.length())); }
 QString view(const U& s) { return QString::fromUtf16(s.c_str_utf16()); }
 
 // What the change writes to standard error, or the text of what it throws.
@@ -37,6 +39,22 @@ Bytes complaint(const Change& change, U& s) {
   file.seek(0);
   return file.readAll();
 }
+
+// In how many of the five ways a T is taken where a char is.
+constexpr auto asText = [](auto c) -> decltype(U(c)) { return c; };
+constexpr auto assigned = [](auto c) -> decltype(std::declval<U&>() = c) { return c; };
+constexpr auto appended = [](auto c) -> decltype(std::declval<U&>() += c) { return c; };
+constexpr auto added = [](auto c) -> decltype(U() + c) { return c; };
+constexpr auto searched = [](auto c) -> decltype(U().find(c)) { return c; };
+template <typename T, typename... Way>
+constexpr int waysOf(Way...) {
+  return (int(std::is_invocable_v<Way, T>) + ...);
+}
+template <typename T>
+constexpr int ways = waysOf<T>(asText, assigned, appended, added, searched);
+static_assert(ways<char> == 5 && ways<std::string> == 5 && ways<const char*> == 5);
+static_assert(ways<uchar16_t> == 3, "assigned, appended and added");
+static_assert(ways<int> == 0 && ways<double> == 0 && ways<char32_t> == 0);
 
 // Searches as a standard string does, but finds nothing, not even "", behind the last byte.
 template <typename Find>
@@ -82,6 +100,11 @@ class TestUstring : public QObject {
     row("append/n units", "abc", "abcde", "", [](U& s) { s.append(u"def", 2).append(u"\0g", 2); });
     row("append/own data", "abcdefgh", "abcdefghabcdefgh", "", [](U& s) { s.append(s.c_str()); });
     row("append/own view", "abcdefg", "abcdefgg", "", [](U& s) { s.append(s.c_str_utf16() + 6); });
+    row("assign/chars", "abc", "dexx", "", [](U& s) { s.assign("def", 2) += U().assign('x', 2); });
+    row("assign/units", "abc", "äöö", "", [](U& s) { s.assign(u"äb", 1) += U().assign(u'ö', 2); });
+    row("assign/one", "abc", "äb", "", [](U& s) { (s = u'ä') += 'b'; });
+    row("assign/std part", "abc", "ef", "", [](U& s) { s.assign(std::string("defg"), 1, 2); });
+    row("clear", "abc", "", "", [](U& s) { s.clear(); });
     row("assign/own part", "abcdefghijkl", "cd", "", [](U& s) { s.assign(s, 2, 2); });
     row("assign/own tail", "abcdefghijkl", "l", "", [](U& s) { s = s.c_str() + 11; });
     row("assign/own view", "abcdefghijkl", "l", "", [](U& s) { s = s.c_str_utf16() + 11; });
@@ -90,6 +113,7 @@ class TestUstring : public QObject {
     row("stream/word", " one\ttwo", "one", "", [](U& s) { std::istringstream(s.c_str()) >> s; });
     row("stream/bytes", "ä", "ä", "ä", [](U& s) { std::cerr << s; });
     row("trim/left", " \t\r\nabc ", "abc ", "", [](U& s) { s.ltrim(); });
+    row("trim/right", " abc \n", " abc", "", [](U& s) { s.rtrim(); });
     row("trim/both", "xyabyx", "ab", "", [](U& s) { s.trim(U("xy")); });
     row("trim/nothing left", "xyx", "", "", [](U& s) { s.trim("xy"); });
     row("trim/empty set", " a ", " a ", "", [](U& s) { s.trim(""); });
@@ -119,6 +143,7 @@ class TestUstring : public QObject {
       U s(before.toStdString());
       if (viewBuilt && U::is_valid(s)) QCOMPARE(view(s), QString(before));
       QTEST(complaint(change, s), "complaint");
+      if (QTest::currentTestFailed()) return;  // the change itself checks, too
       QTEST(bytes(s), "after");
       QCOMPARE(s.c_str()[s.size()], '\0');
       if (U::is_valid(s)) QCOMPARE(view(s), QString(s.c_str()));
@@ -126,12 +151,16 @@ class TestUstring : public QObject {
   }
 
   void search() {
-    sameAsStandard(true, [](const auto& s, auto... a) { return s.find(a...); });
-    sameAsStandard(false, [](const auto& s, auto... a) { return s.rfind(a...); });
-    sameAsStandard(true, [](const auto& s, auto... a) { return s.find_first_of(a...); });
-    sameAsStandard(true, [](const auto& s, auto... a) { return s.find_first_not_of(a...); });
-    sameAsStandard(false, [](const auto& s, auto... a) { return s.find_last_of(a...); });
-    sameAsStandard(false, [](const auto& s, auto... a) { return s.find_last_not_of(a...); });
+#define SEARCH(forward, name)                                                     \
+  sameAsStandard(forward, [](const auto& s, auto... a) { return s.name(a...); }); \
+  if (QTest::currentTestFailed()) return
+    SEARCH(true, find);
+    SEARCH(false, rfind);
+    SEARCH(true, find_first_of);
+    SEARCH(true, find_first_not_of);
+    SEARCH(false, find_last_of);
+    SEARCH(false, find_last_not_of);
+#undef SEARCH
   }
 
   void compare() {
@@ -176,6 +205,15 @@ class TestUstring : public QObject {
     QCOMPARE(view(s), QString("abc"));
     QCOMPARE(view(U(s)), QString("axc"));
     QCOMPARE(bytes(std::move(s) + u"d"), Bytes("axcd"));
+  }
+
+  void destroyedPointsNowhere() {
+    alignas(U) char place[sizeof(U)];
+    (new (place) U("abc"))->~U();
+    const void* members[6];
+    static_assert(sizeof members == sizeof place);
+    memcpy(members, place, sizeof place);
+    QVERIFY(!members[0] && !members[3]);  // the text and the view
   }
 
   void longTextsGiveTheirMemoryBack() {
