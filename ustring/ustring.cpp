@@ -32,22 +32,19 @@ constexpr size_t icu_max_to_utf8 = icu_max / 3;
 
 int32_t icu_length(size_t n) { return static_cast<int32_t>(std::min(n, icu_max)); }
 
-// The callers pass fixed line numbers: they identify the place to whoever reads the output, and
-// must not wander with the source.
+// The line numbers are fixed: readers of the output know the places by them.
 void warn(const char* function, UErrorCode error, int line) {
   std::fprintf(stderr, "Warning: %s: error code %d at line %d\n", function, static_cast<int>(error),
                line);
 }
 
-// Buffer size for a text of len + added units and its terminator; it must not wrap around and
-// ask for a tiny buffer, which 32-bit sizes would make easy.
+// Buffer size for len + added units and a terminator; must not wrap around to a tiny one.
 size_t size_for(size_t len, size_t added) {
   if (added >= ustring::npos - len) throw std::bad_alloc();
   return len + added + 1;
 }
 
-// Exact sizes, no geometric growth: most texts are paths and keys, built once and kept long. For
-// the same reason a buffer less than half used is given back.
+// Exact sizes, and less than half used is given back: most texts are paths and keys, kept long.
 template <class Unit>
 void resize(Unit*& buffer, size_t& capacity, size_t size) {
   const bool fits = size <= capacity;
@@ -144,7 +141,7 @@ void ustring::init(size_t size) {
 }
 
 ustring& ustring::operator=(ustring&& other) noexcept {
-  // By way of a third string, so that assigning a string to itself keeps its text.
+  // By way of a third string: assigning to itself keeps the text.
   ustring taken(std::move(other));
   swap(taken);
   return *this;
@@ -178,7 +175,7 @@ ustring& ustring::rebuild_text(size_t len) {
   wdata_len = len;
   wdata[len] = u'\0';
   try {
-    // A failure has left both buffers empty and told why; the caller looks at the text.
+    // A failure has emptied both buffers and told why.
     (void)convert_from_wdata();
   } catch (const std::bad_alloc&) {
     // The old text still stands; a view that is ahead of it must not.
@@ -295,8 +292,8 @@ void ustring::keep(size_t first, size_t end) noexcept {
   set_length(len);
 }
 
-// Both ends are found before a byte moves, since the set may lie inside the text. With nothing to
-// keep, the start is npos and the end npos + 1, which is 0.
+// Both ends are found before a byte moves: the set may lie inside the text. With nothing to keep
+// they are npos and npos + 1, which is 0.
 
 void ustring::ltrim(const needle& set) {
   keep(std::min(find_first_not_of(set), data_len), data_len);
@@ -319,8 +316,7 @@ const uchar16_t* ustring::c_str_utf16() const {
 
 ustring ustring::substr(size_t pos, size_t n) const { return {slice(text(), pos, n), ""}; }
 
-// The standard searches find an empty needle at the end of a text, and in an empty text. Here no
-// search begins behind the last byte, which the bounds on pos see to.
+// The bounds on pos: unlike the standard's, no search here begins behind the last byte.
 
 size_t ustring::find(const needle& s, size_t pos) const {
   return pos < data_len ? text().find(s.text(), pos) : npos;
@@ -359,7 +355,7 @@ int ustring::compare(const ustring& other, size_t n) const {
 std::ostream& operator<<(std::ostream& out, const ustring& s) { return out << s.text(); }
 
 std::istream& operator>>(std::istream& in, ustring& s) {
-  // A failing extractor may leave its string alone; a new one makes sure of an empty result.
+  // A failing extractor may leave its string alone; a new one is empty.
   std::string word;
   in >> word;
   s.assign(word);
@@ -419,8 +415,7 @@ ustring ustring::normalize(const ustring& s, normalization_form form) {
     warn("unorm2_getInstance", error, 993);
     return result;
   }
-  // A view that replace() has left behind is taken as it is.
-  // No view is longer than ICU can count: both conversions refuse to leave one.
+  // As it is, also behind replace(). No view is longer than ICU can count.
   const uchar16_t* const view = s.c_str_utf16();
   const int32_t view_len = static_cast<int32_t>(s.wdata_len);
   UErrorCode ignored = U_ZERO_ERROR;
