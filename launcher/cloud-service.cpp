@@ -2,13 +2,12 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QSettings>
 
 #include <cstdio>
 
 #include "launcher/extractor.h"
+#include "launcher/version-file.h"
 #include "lib/file-op.h"
 #include "lib/log.h"
 
@@ -16,8 +15,7 @@ namespace {
 
 const ustring kComponent("service_debug");
 
-constexpr int kMaxVersionFile = 65536;  // bytes; a version file has about a hundred
-constexpr int kMaxBackups = 100;        // names tried for a backup, numbers 0 to 99
+constexpr int kMaxBackups = 100;  // names tried for a backup, numbers 0 to 99
 
 ustring to_ustring(const QString& text) { return text.toUtf8().constData(); }
 
@@ -39,20 +37,16 @@ void read_field(const QSettings& file, const char* key, ustring& field) {
   if (file.contains(key)) field = to_ustring(file.value(key).toString());
 }
 
-// Whether the file at `path` can be given to the settings reader. That builds any object of
-// the toolkit's from a value like "@Variant(...)", directly or behind an escape, and aborts
-// the process over a damaged one; it waits for ever on a pipe. No version needs any of it.
-bool is_plain(const QString& path) {
-  QFile file(path);
-  if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) return false;
-  const QByteArray text = file.read(kMaxVersionFile + 1);
-  return text.size() <= kMaxVersionFile && !text.contains('@') && !text.contains('\\');
-}
-
 void read_version(const ustring& path, Service::VersionInfo& version) {
-  const QString name = QString::fromUtf8(path.c_str());
-  if (!is_plain(name)) return;
-  QSettings file(name, QSettings::IniFormat);
+  ustring fault;
+  if (CheckVersionFile(path, fault) != 0) {
+    if (fault.empty()) return;  // nothing to read has no line of its own
+    Logger::LogMsg(Logger::L_WARNING, kComponent,
+                   "[WARNING] cloud-service(%d): version file '%s' is refused: %s\n", __LINE__,
+                   path.c_str(), fault.c_str());
+    return;
+  }
+  QSettings file(QString::fromUtf8(path.c_str()), QSettings::IniFormat);
   file.beginGroup("Version");
   read_field(file, "major_version", version.major_version);
   read_field(file, "minor_version", version.minor_version);

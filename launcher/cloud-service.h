@@ -56,7 +56,7 @@ class Service {
 
   // Reads the version file of the user's copy into source_version, and that of the package
   // into target_version. A key that is absent leaves its field alone, and so does a file
-  // that is missing, larger than 64 KiB or no plain version file.
+  // that is missing or, with a warning in the log, refused (CheckVersionFile).
   virtual void LoadSourceVersion();
   virtual void LoadTargetVersion();
 

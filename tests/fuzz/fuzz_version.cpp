@@ -1,14 +1,18 @@
-// The version file of the user's copy: any bytes in it leave valid texts in the record and
-// a decision, and never a crash.
+// The version file of the user's copy: any bytes in it leave valid texts in the record and a
+// decision, and never a crash. What is not refused gives the settings reader nothing but texts
+// and bytes, and the record has the reader's values.
 
 #include <QCoreApplication>
+#include <QSettings>
 
+#include <algorithm>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <string>
 
 #include "launcher/linux/linux-service.h"
+#include "launcher/version-file.h"
 #include "tests/fuzz/expect.h"
 
 namespace fs = std::filesystem;
@@ -20,6 +24,20 @@ class Probe : public LinuxService {
   const VersionInfo& source() const { return source_version; }
   void set_target(const char* build) { target_version.build_version = build; }
 };
+
+bool is_plain(const QVariant& value) {
+  switch (value.type()) {
+    case QVariant::Invalid:
+    case QVariant::String:
+    case QVariant::StringList:
+    case QVariant::ByteArray: return true;
+    case QVariant::List: {
+      const QVariantList list = value.toList();
+      return std::all_of(list.begin(), list.end(), is_plain);
+    }
+    default: return false;
+  }
+}
 
 std::string root = fs::temp_directory_path() / "fuzz-version.XXXXXX";
 
@@ -49,6 +67,20 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   for (const ustring* field : {&version.major_version, &version.minor_version,
                                &version.build_version, &version.icon_overlay_version}) {
     EXPECT(ustring::is_valid(*field) && strlen(field->c_str()) == field->length());
+  }
+  ustring fault;
+  if (CheckVersionFile((home + "/.Quillmere/app/INFO").c_str(), fault) == 0) {
+    QSettings reader(QString::fromStdString(home + "/.Quillmere/app/INFO"), QSettings::IniFormat);
+    reader.beginGroup("Version");
+    const std::pair<const char*, const ustring&> fields[] = {
+        {"major_version", version.major_version},
+        {"minor_version", version.minor_version},
+        {"build_version", version.build_version},
+        {"icon_overlay_version", version.icon_overlay_version}};
+    for (const auto& [key, field] : fields) {
+      const QVariant value = reader.value(key);
+      EXPECT(is_plain(value) && field == value.toString().toUtf8().constData());
+    }
   }
   // Without a client program every copy is replaced, whatever its version says.
   service.set_target("1");
