@@ -55,16 +55,57 @@ void read_version(const ustring& path, Service::VersionInfo& version) {
   file.endGroup();
 }
 
+// Whether there is something at `path`, if only a link to nothing. False when it cannot be seen.
+bool is_there(const ustring& path) {
+  FILE_INFO info;
+  return FSStat(path, info, false) == 0 && info.isExist;
+}
+
+// Whether there is nothing at `path`. False when it cannot be seen.
+bool is_missing(const ustring& path) {
+  FILE_INFO info;
+  return FSStat(path, info, false) == 0 && !info.isExist;
+}
+
+// Removes `path`, directories that their owner may not write included. False when something of
+// it stays.
+bool remove_all(const ustring& path) {
+  if (FSRemove(path, false) == 0 && is_missing(path)) return true;
+  FSMakeRemovable(path);
+  return FSRemove(path, false) == 0 && is_missing(path);
+}
+
+// Takes the version file from the directory `copy`: what is left, whole or not, does not pass for
+// a complete copy any more. A link is left alone, because what it leads to is not removed either.
+void unmark(const ustring& copy) {
+  FILE_INFO info;
+  if (FSStat(copy, info, false) != 0 || !info.isExist || info.type != FT_DIR) return;
+  if (FSRemove(copy + "/INFO", false) == 0) return;
+  FSMakeRemovable(copy);
+  (void)FSRemove(copy + "/INFO", false);  // removing the whole may still succeed
+}
+
 // Removes a copy that was not completed. Its version file goes first, and for good: were
 // the removal itself cut short, what is left must not pass for a complete copy.
 void discard_copy(const ustring& app) {
-  const ustring info = app + "/INFO";
-  if (IsFileExist(info, false)) {
-    // When these fail, removing the whole may still succeed.
-    (void)FSRemove(info, false);
-    (void)FSSync(app);
+  if (IsFileExist(app + "/INFO", false)) {
+    unmark(app);
+    (void)FSSync(app);  // when this fails, removing the whole may still succeed
   }
-  (void)FSRemove(app, false);  // what stays makes the rename back fail, and nothing is lost
+  (void)remove_all(app);  // what stays makes the rename back fail, and nothing is lost
+}
+
+// The number of the newest complete backup of `app`, -1 without one. A copy is moved to the first
+// name that is free, and backups lose their version files before the first of them is removed: a
+// complete one therefore has all names below it taken, and the newest has the highest number.
+int newest_backup(const ustring& app) {
+  for (int i = kMaxBackups - 1; i >= 0; --i) {
+    const ustring backup = GetAppBackupDir(app, i);
+    if (IsFileExist(backup + "/INFO", false) && IsFileExist(backup + "/bin/cloud-ui", false)) {
+      return i;
+    }
+  }
+  return -1;
 }
 
 }  // namespace
@@ -129,22 +170,40 @@ int Service::ExtractPackage() {
   return extractor.Extract();
 }
 
+void Service::RestoreCopy() {
+  const ustring app = per_user_install_path;
+  // Only what is certain counts: a copy that cannot be looked at may be whole.
+  if (!is_missing(app + "/INFO") && !is_missing(app + "/bin/cloud-ui")) return;
+  const int number = newest_backup(app);
+  if (number < 0) return;
+  const ustring backup = GetAppBackupDir(app, number);
+  Logger::LogMsg(Logger::L_WARNING, kComponent,
+                 "[WARNING] cloud-service(%d): '%s' is not complete, moving '%s' back\n", __LINE__,
+                 app.c_str(), backup.c_str());
+  // Until the rename there is an incomplete copy or none, and a complete backup: whenever this is
+  // cut short, the next run begins it anew. The removal is to reach the disk before the rename.
+  discard_copy(app);
+  (void)FSSync(backup);  // moving it back is right even when this fails
+  if (FSRename(backup, app, false) != 0) {
+    Logger::LogMsg(Logger::L_ERR, kComponent,
+                   "[ERROR] cloud-service(%d): failed to move '%s' back to '%s'\n", __LINE__,
+                   backup.c_str(), app.c_str());
+  }
+}
+
 int Service::PrepareUserEnv() {
   const ustring app = per_user_install_path;
   ustring backup;
   int retry = 0;
-  // A copy that cannot be seen may still be there, and unpacking over it would mix the two.
-  FILE_INFO info;
-  if (FSStat(app, info, false) != 0) {
-    Logger::LogMsg(Logger::L_ERR, kComponent,
-                   "[ERROR] cloud-service(%d): failed to examine app '%s'\n", __LINE__,
-                   app.c_str());
-    return -1;
-  }
-  if (info.isExist && BackUp(app, backup, retry) != 0) return -1;
+  RestoreCopy();
+  // The second look is for a link to nothing, in whose place nothing could be unpacked, and for
+  // an error that passes: unpacking over a copy that is there would mix the two.
+  const bool exists = IsFileExist(app, false) || is_there(app);
+  if (exists && BackUp(app, backup, retry) != 0) return -1;
 
-  // Once the backups are gone the new copy is all there is: it has to be on the disk.
-  if (ExtractPackage() != 0 || FSSync(app) != 0) {
+  // Once the backups are gone the new copy is all there is: it has to be on the disk. A derived
+  // class may unpack nothing at all.
+  if (ExtractPackage() != 0 || (!is_missing(app) && FSSync(app) != 0)) {
     RollBack(app, backup);
     return -1;
   }
@@ -152,11 +211,22 @@ int Service::PrepareUserEnv() {
   Logger::LogMsg(Logger::L_INFO, kComponent,
                  "[INFO] cloud-service(%d): user installation is ready, removing backup app\n",
                  __LINE__);
-  for (int i = 0; i <= retry; ++i) {
-    // A backup that stays costs space; the next upgrade tries again.
-    (void)FSRemove(GetAppBackupDir(app, i), false);
-  }
+  RemoveBackups(app, retry);
   return 0;
+}
+
+// Removes the backups of `app` with the numbers 0 to `last`. First none of them is complete any
+// more, so that what a removal leaves that is cut short is never taken for a copy.
+void Service::RemoveBackups(const ustring& app, int last) {
+  for (int i = 0; i <= last; ++i) unmark(GetAppBackupDir(app, i));
+  for (int i = 0; i <= last; ++i) {
+    const ustring backup = GetAppBackupDir(app, i);
+    if (remove_all(backup)) continue;
+    Logger::LogMsg(
+        Logger::L_WARNING, kComponent,
+        "[WARNING] cloud-service(%d): failed to remove backup '%s', which takes up disk space until a later upgrade removes it\n",
+        __LINE__, backup.c_str());
+  }
 }
 
 // Moves `app` to the first backup name that takes it. 0 with its name in `backup` and its
@@ -189,8 +259,12 @@ void Service::RollBack(const ustring& app, const ustring& backup) {
       "[ERROR] cloud-service(%d): Failed to extract package, rollback to old installation\n",
       __LINE__);
   discard_copy(app);
-  // When even this fails the old copy is whole under its backup name.
-  (void)FSRename(backup, app, false);
+  if (FSRename(backup, app, false) != 0) {
+    Logger::LogMsg(
+        Logger::L_ERR, kComponent,
+        "[ERROR] cloud-service(%d): failed to roll back, the old installation stays in '%s'\n",
+        __LINE__, backup.c_str());
+  }
 }
 
 int Service::FSCopyPath(const ustring& src, const ustring& dst) {

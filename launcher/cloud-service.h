@@ -60,13 +60,17 @@ class Service {
   virtual void LoadSourceVersion();
   virtual void LoadTargetVersion();
 
-  // Replaces the user's copy by the package: moves it aside under a free backup name,
-  // unpacks, and removes the backups. Returns 0 when the new copy is in place and on the
-  // disk. Returns -1 with the old copy in place when it could not be examined or moved aside, or
-  // was moved back because unpacking or bringing the disk up to date failed; an old copy that
-  // cannot be moved back is whole under its backup name. Where there was no old copy, what
-  // was unpacked stays.
+  // Replaces the user's copy by the package: RestoreCopy(), then moves the copy aside under a free
+  // backup name, unpacks, and removes the backups. Returns 0 when the new copy is in place and on
+  // the disk. Returns -1 with the old copy in place when it could not be moved aside, or was moved
+  // back because unpacking or bringing the disk up to date failed; an old copy that cannot be moved
+  // back is whole under its backup name. Where there was no old copy, what was unpacked stays.
   [[nodiscard]] virtual int PrepareUserEnv();
+
+  // Where an upgrade was cut short: when the user's copy is missing or not complete and a backup
+  // is complete, removes the one and moves the other in its place. Otherwise, and when the state
+  // of the copy cannot be told, changes nothing. A backup that cannot be moved back stays whole.
+  void RestoreCopy();
 
   // The places of both trees, as UTF-8 paths without a trailing slash. None looks at the
   // disk. The two root paths need the application object; they are equal, and stand apart
@@ -91,6 +95,7 @@ class Service {
   VersionInfo source_version;
 
  private:
-  int BackUp(const ustring& app, ustring& backup, int& retry);
-  void RollBack(const ustring& app, const ustring& backup);
+  static int BackUp(const ustring& app, ustring& backup, int& retry);
+  static void RollBack(const ustring& app, const ustring& backup);
+  static void RemoveBackups(const ustring& app, int last);
 };
