@@ -15,6 +15,7 @@ list(APPEND ALLOWED
   "launcher/main>launcher/launcher"
   "launcher/launcher>launcher/linux/linux-service" "launcher/launcher>launcher/adapter"
   "launcher/linux/linux-service>launcher/cloud-service"
+  "launcher/linux/linux-service>launcher/linux/process"
   "launcher/cloud-service>launcher/extractor" "launcher/cloud-service>launcher/version-file"
   "launcher/extractor>launcher/adapter")
 # Rooms that know nothing of the toolkit.

@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include <signal.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -13,6 +14,7 @@
 #include <cstring>
 #include <limits>
 
+#include "launcher/linux/process.h"
 #include "lib/config.h"
 #include "lib/file-op.h"
 #include "lib/log.h"
@@ -34,6 +36,43 @@ pid_t parse_pid(const ustring& text) {
       number >= 1 && number <= std::numeric_limits<pid_t>::max() && number != getpid();
   return usable ? static_cast<pid_t>(number) : 0;
 }
+
+// When the file at `path`, links followed, was written; the epoch when that cannot be told.
+time_t time_of(const ustring& path) {
+  struct stat info;
+  return stat(path.c_str(), &info) == 0 ? info.st_mtime : 0;
+}
+
+// The process that a pid file names, as it is found first.
+class Client {
+ public:
+  explicit Client(pid_t pid) : m_pid(pid), m_known(pid > 0 && GetProcessInfo(pid, m_info) == 0) {}
+
+  pid_t pid() const { return m_pid; }
+
+  // Whether it can have written the pid file at the time `written`. A process that the system
+  // tells nothing about can, and so can whatever runs from the user's tree: when the clock was set
+  // forward since, the client itself looks younger than its file.
+  bool IsWriterOf(time_t written) const {
+    if (m_pid <= 0) return false;
+    return !m_known || !IsStartedAfter(m_info.start, written) ||
+           IsProgramBelow(m_pid, Service::GetUserQuillmereInstallPath());
+  }
+
+  bool IsGone() const { return (kill(m_pid, 0) != 0 && errno == ESRCH) || IsReplaced(); }
+
+  // Whether it has ended, its number being another's or, where its parent does not ask for its
+  // end, still its own.
+  bool IsReplaced() const {
+    ProcessInfo now;
+    return m_known && GetProcessInfo(m_pid, now) == 0 && (now.ended || now.start != m_info.start);
+  }
+
+ private:
+  const pid_t m_pid;  // 0: none
+  ProcessInfo m_info;
+  const bool m_known;
+};
 
 // The number as atoi reads it; 0 for an empty text.
 int build_number(const ustring& text) { return text.empty() ? 0 : atoi(text.c_str()); }
@@ -99,6 +138,8 @@ int LinuxService::HandlePackageUpgrade() {
 void LinuxService::StopService() {
   const ustring path = GetUserQuillmereInstallPath() + "/ui.pid";
   const bool exists = IsFileExist(path, false);
+  // Before the reading: were the file replaced in between, it would look too old, never too new.
+  const time_t written = exists ? time_of(path) : 0;
   Config file;
   if (exists && file.read(path) < 0) {
     Logger::LogMsg(Logger::L_NOTICE, kComponent,
@@ -106,9 +147,10 @@ void LinuxService::StopService() {
                    81, path.c_str());
     return;
   }
-  const pid_t pid = exists ? parse_pid(file["pid"]) : 0;
-  if (pid == 0) {
-    // Meant: a file that names no process counts as missing, message included.
+  const Client client(exists ? parse_pid(file["pid"]) : 0);
+  if (!client.IsWriterOf(written)) {
+    // Meant: a file that names no process, or one that cannot be the client, counts as missing,
+    // message included.
     Logger::LogMsg(
         Logger::L_DEBUG, kComponent,
         "[DEBUG] linux/linux-service(%d): pid file '%s' does not exist, no need to terminate\n", 76,
@@ -116,19 +158,20 @@ void LinuxService::StopService() {
     return;
   }
 
-  if (kill(pid, SIGTERM) != 0) {
+  if (kill(client.pid(), SIGTERM) != 0) {
     const int error = errno;
     if (error == ESRCH) return;
     Logger::LogMsg(Logger::L_ERR, kComponent, "[ERROR] linux/linux-service(%d): kill: %s (%d)\n",
                    96, strerror(error), error);
   }
   for (int probe = 0; probe < kProbes; ++probe) {
-    if (kill(pid, 0) != 0 && errno == ESRCH) return;
+    if (client.IsGone()) return;
     (void)sleep(kProbeDelay);  // cut short by a signal, it only makes the wait shorter
   }
-  // It may have ended since the last look, and nobody waits for it now: either way the
-  // upgrade goes on.
-  (void)kill(pid, SIGKILL);
+  // It may have ended since the last look, and its number be another's by now.
+  if (client.IsReplaced()) return;
+  // Nobody waits for it from here on: whatever comes of this, the upgrade goes on.
+  (void)kill(client.pid(), SIGKILL);
 }
 
 void LinuxService::PostUpgrade() {

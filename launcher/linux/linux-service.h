@@ -15,8 +15,9 @@ class LinuxService : public Service {
 
   // Sends SIGTERM to the process named in the pid file, waits up to 5 seconds for its end
   // and sends SIGKILL if it is still there, without waiting any further. A signal that is
-  // refused is logged and changes nothing else. Without a pid file, or with one
-  // that names no process this may signal, nothing is sent and nobody waited for.
+  // refused is logged and changes nothing else. Without a pid file, or with one that names no
+  // process this may signal or one that started after the file was written, nothing is sent and
+  // nobody waited for. A process whose parent does not ask for its end has ended all the same.
   void StopService() override;
 
   // Stops the client where there is a copy, then PrepareUserEnv, whose result it returns.
