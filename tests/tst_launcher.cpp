@@ -16,7 +16,6 @@
 #include "launcher/adapter.h"
 #include "launcher/extractor.h"
 #include "launcher/launcher.h"
-#include "launcher/linux/package_info.h"
 #include "launcher/texts/strtab.h"
 #include "lib/log.h"
 #include "tests/support.h"
@@ -37,18 +36,6 @@ class Application : public QApplication {
   }
   int depth = 0;
   int deepest = 0;
-};
-
-// The service with its records open, and with a package that holds one file or none.
-class TestService : public LinuxService {
- public:
-  using LinuxService::source_version;
-  using LinuxService::target_version;
-  int ExtractPackage() override {
-    put(QString::fromUtf8(per_user_install_path.c_str()) + "/new", "n");
-    return extract_result;
-  }
-  int extract_result = 0;
 };
 
 using Entry = std::pair<QByteArray, QByteArray>;  // name and content
@@ -140,77 +127,6 @@ class TestLauncher : public QObject {
     }).join();
     QTRY_COMPARE(findDialog()->value(), 100);
     QVERIFY2(application->deepest <= 101, qPrintable(QString::number(application->deepest)));
-  }
-
-  void decision() {
-    const std::tuple<const char*, const char*, bool> rows[] = {
-        {"1234", "1235", true},  {"999", "1000", true}, {"1234", "1234", false},
-        {"1234", "1200", false}, {"", "1", true},       {"1", "", false},
-        {"x", "y", false}};
-    TestService service;
-    for (const auto& [source, target, needed] : rows) {
-      service.source_version.build_version = source;
-      service.target_version.build_version = target;
-      QVERIFY(service.IsNeedUpgrade());
-      put(".Quillmere/app/bin/cloud-ui", "");
-      QCOMPARE(service.IsNeedUpgrade(), needed);
-      QVERIFY(QDir(".Quillmere").removeRecursively());
-    }
-  }
-
-  // What becomes of partial copies and old backups; the end-to-end tests have the rest.
-  void prepare_data() {
-    QTest::addColumn<QStringList>("before");
-    QTest::addColumn<int>("result");  // of unpacking, too
-    QTest::addColumn<QStringList>("after");
-    const QStringList fresh{"app/", "app/new:n"};
-    QTest::newRow("first, stale backup") << QStringList{"app_tmp/x"} << 0 << fresh;
-    QTest::newRow("first fails") << QStringList() << -1 << fresh;
-    QTest::newRow("later backups stay") << QStringList{"app/old", "app_tmp1/x"} << 0
-                                        << (fresh + QStringList{"app_tmp1/", "app_tmp1/x:"});
-    QTest::newRow("rolls back") << QStringList{"app/INFO", "app/old", "app_tmp/x"} << -1
-                                << QStringList{"app/", "app/INFO:", "app/old:", "app_tmp/",
-                                               "app_tmp/x:"};
-  }
-  void prepare() {
-    QFETCH(QStringList, before);
-    QFETCH(int, result);
-    for (const QString& path : before) put(".Quillmere/" + path, "");
-    TestService service;
-    service.extract_result = result;
-    QCOMPARE(service.PrepareUserEnv(), result);
-    QTEST(tree(".Quillmere"), "after");
-  }
-
-  void copyPath_data() {
-    QTest::addColumn<QString>("from");
-    QTest::addColumn<QString>("to");
-    QTest::addColumn<int>("result");
-    QTest::addColumn<QString>("copied");
-    const auto row = [](const char* tag, QString from, QString to, int result, QString copied) {
-      QTest::newRow(tag) << from << to << result << copied;
-    };
-    row("file", "a/f", "new", 0, "new:f");
-    row("file fails", "a/f", "no/new", 0, "");
-    row("missing", "missing", "new", -1, "");
-    row("below a file", "a/f/x", "new", -1, "");
-    row("tree", "a", "new/b", 0, "new/ new/b/ new/b/d/ new/b/d/g:g new/b/f:f");
-    row("merge", "a", "full", 0, "full/d/g:g full/f:f");
-    row("over a file", "a", "a/f", -1, "");
-    row("child fails", "a/d", "bad", -1, "");
-  }
-  void copyPath() {
-    QFETCH(QString, from);
-    QFETCH(QString, to);
-    for (const char* path : {"a/f", "a/d/g"}) put(path, path + strlen(path) - 1);
-    for (const char* path : {"full/old", "full/d/old", "bad/g/x"}) put(path, "");
-    const QStringList before = tree(".");
-    QTEST(TestService().FSCopyPath(u(from), u(to)), "result");
-    QStringList copied;
-    for (const QString& path : tree(".")) {
-      if (!before.contains(path)) copied += path;
-    }
-    QTEST(copied.join(' '), "copied");
   }
 
   void extract_data() {
