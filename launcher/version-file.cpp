@@ -1,12 +1,13 @@
 #include "launcher/version-file.h"
 
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
 #include <string>
+
+#include "lib/open-file.h"
 
 namespace {
 
@@ -148,23 +149,20 @@ bool is_object(string_view part) {
 
 // Reads a regular file that is not too large into `text`. The results are CheckVersionFile()'s.
 int read_file(const ustring& path, std::string& text, ustring& fault) {
-  // Not blocking: a pipe opens at once, and is then seen to be one.
-  const int fd = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-  if (fd < 0) return -1;
-  struct stat info;
+  const int fd = open_file(path.c_str(), O_RDONLY);
+  if (fd < 0) {
+    if (errno == EINVAL) fault = "not a regular file";
+    return fault.empty() ? -1 : -2;
+  }
   text.resize(kMaxSize + 1);
   size_t size = 0;
-  if (fstat(fd, &info) != 0 || !S_ISREG(info.st_mode)) {
-    fault = "not a regular file";
-  } else {
-    ssize_t count = 0;
-    do {
-      size += static_cast<size_t>(count);
-      count = TEMP_FAILURE_RETRY(read(fd, &text[size], text.size() - size));
-    } while (count > 0);
-    if (count < 0) fault = "cannot be read";
-    if (size > kMaxSize) fault = "larger than 64 KiB";
-  }
+  ssize_t count = 0;
+  do {
+    size += static_cast<size_t>(count);
+    count = TEMP_FAILURE_RETRY(read(fd, &text[size], text.size() - size));
+  } while (count > 0);
+  if (count < 0) fault = "cannot be read";
+  if (size > kMaxSize) fault = "larger than 64 KiB";
   (void)close(fd);  // only read from: nothing is lost
   text.resize(size);
   return fault.empty() ? 0 : -2;
