@@ -1,4 +1,4 @@
-// Removes and copies as the launcher does.
+// Benchmark of files: removes and copies as the launcher does.
 //
 //   bench_files remove DIR
 //   bench_files copy FILE FILE
@@ -24,8 +24,8 @@ int run(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  const Clock::time_point start = Clock::now();
+  const bench::Stopwatch watch;
   if (const int status = run(argc, argv)) return status == 2 ? 2 : 1;
-  print_nanoseconds(static_cast<double>(nanoseconds_since(start)));
+  bench::print_result(watch.nanoseconds());
   return 0;
 }

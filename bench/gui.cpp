@@ -1,7 +1,7 @@
-// The GUI thread's part in an upgrade.
+// Benchmark of the worker and the dialog: the GUI thread's part in an upgrade.
 //
-//   bench_gui slot COUNT             prints the processor time of the GUI thread for one report
-//                                    of progress out of COUNT
+//   bench_gui slot TOTAL             prints the processor time of the GUI thread for one report
+//                                    of progress out of TOTAL
 //   bench_gui alone ARCHIVE DIR      unpacks on the worker thread, nobody listens
 //   bench_gui queued ARCHIVE DIR     the same with the reports sent to the GUI thread, which
 //                                    drops them
@@ -17,6 +17,7 @@
 #include <memory>
 #include <string>
 
+#include "bench/barriers.h"
 #include "bench/stopwatch.h"
 #include "launcher/adapter.h"
 #include "launcher/extractor.h"
@@ -35,21 +36,23 @@ long kilobytes(const char* key) {
   return 0;
 }
 
-int bench_slot(QApplication& app, int count) {
+int bench_slot(QApplication& app, int total) {
   Launcher launcher;
   launcher.ShowMsgBox();
   app.processEvents();
   // Reports come no faster than files are written; a burst would measure the queue's memory.
-  const std::unique_ptr<QThread> worker(QThread::create([count] {
-    for (int i = 1; i <= count; ++i) Notify_Adapter::GetInstance().UpdateProgress(count, i);
+  const std::unique_ptr<QThread> worker(QThread::create([total] {
+    for (int done = 1; done <= total; ++done) {
+      Notify_Adapter::GetInstance().UpdateProgress(total, done);
+    }
   }));
   QObject::connect(worker.get(), &QThread::finished, &app, &QCoreApplication::quit);
-  const double before = thread_nanoseconds();
+  const double before = bench::thread_nanoseconds();
   worker->start();
   (void)app.exec();
   app.processEvents();
   (void)worker->wait();
-  print_nanoseconds((thread_nanoseconds() - before) / count);
+  bench::print_result((bench::thread_nanoseconds() - before) / total);
   return 0;
 }
 
@@ -72,9 +75,9 @@ int bench_upgrade(QApplication& app, const std::string& job, const char* archive
     Extractor extractor;
     extractor.SetSource(archive);
     extractor.SetTarget(folder);
-    const Clock::time_point start = Clock::now();
+    const bench::Stopwatch watch;
     status = extractor.Extract();
-    time = static_cast<double>(nanoseconds_since(start));
+    time = watch.nanoseconds();
   }));
   QObject::connect(worker.get(), &QThread::finished, &app, &QCoreApplication::quit);
   const long before = kilobytes("VmRSS:");
@@ -82,16 +85,14 @@ int bench_upgrade(QApplication& app, const std::string& job, const char* archive
   (void)app.exec();
   (void)worker->wait();
   printf("%ld\n", kilobytes("VmHWM:") - before);
-  print_nanoseconds(time);
+  bench::print_result(time);
   return status == 0 ? 0 : 1;
 }
 
 }  // namespace
 
-// The barrier against loss of power would measure the disk.
-extern "C" int syncfs(int) noexcept { return 0; }
-
 int main(int argc, char** argv) {
+  bench::g_barriers = false;  // they would measure the disk
   QApplication app(argc, argv);
   StrTable::InitStrTable();
   const std::string job = argc > 1 ? argv[1] : "";

@@ -1,18 +1,17 @@
-// One line of the log.
+// Benchmark of the log: one line.
 //
 //   bench_log written DIR    a line that is written to a file in DIR
 //   bench_log filtered DIR   a line below its component's threshold
 
-#include <cstring>
 #include <string>
 
+#include "bench/log_line.h"
 #include "bench/stopwatch.h"
 #include "lib/log.h"
 
 namespace {
 
 const ustring kComponent("bench_debug");
-constexpr int kLines = 5000;  // well below 1 MiB, where the log would be rotated
 constexpr int kRotationCount = 50;
 
 void start_log(const std::string& path, const std::string& levels) {
@@ -21,10 +20,10 @@ void start_log(const std::string& path, const std::string& levels) {
   (void)Logger::Initialize(Logger::FILE_LOGGER, path, levels, kRotationCount);
 }
 
-void write_lines(int count) {
-  for (int i = 0; i < count; ++i) {
-    Logger::LogMsg(Logger::L_DEBUG, kComponent, "[DEBUG] bench(%d): copy from '%s' to '%s'\n", i,
-                   "/usr/share/doc/readme", "/home/user/readme");
+void write_lines(int total) {
+  for (int done = 0; done < total; ++done) {
+    Logger::LogMsg(Logger::L_DEBUG, kComponent, "[DEBUG] bench(%d): copy from '%s' to '%s'\n", done,
+                   bench::kCopyFrom, bench::kCopyTo);
   }
 }
 
@@ -37,11 +36,11 @@ int main(int argc, char** argv) {
   FILE* const file = fopen(levels.c_str(), "w");
   if (!file) return 1;
   // As many components as the launcher has.
-  const char* const threshold = strcmp(argv[1], "written") == 0 ? "7" : "4";
+  const char* const threshold = bench::wants_lines_written(argv) ? "7" : "4";
   fprintf(file, "extractor_debug=4\nfile_op_debug=4\nlauncher_debug=4\nservice_debug=4\n");
   fprintf(file, "bench_debug=%s\n", threshold);
   if (fclose(file) != 0) return 1;
-  print_median(
-      kLines, [&] { start_log(folder + "/ours.log", levels); }, write_lines);
+  bench::print_median(
+      bench::kLogLines, [&] { start_log(folder + "/ours.log", levels); }, write_lines);
   return 0;
 }

@@ -20,7 +20,7 @@
 
 namespace {
 
-int64_t now() { return nanoseconds_since(Clock::time_point()); }
+int64_t now() { return bench::nanoseconds_since(bench::Clock::time_point()); }
 
 int64_t g_last = 0;
 

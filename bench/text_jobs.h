@@ -5,7 +5,10 @@
 
 #include "bench/stopwatch.h"
 
-// The jobs on texts that the project's string and the standard one do alike.
+// The jobs on texts that the benchmark does with the project's string and its floor with the
+// standard one.
+
+namespace bench {
 
 // A path put together from its parts.
 template <class String>
@@ -14,8 +17,8 @@ void bench_path() {
   const String name = "cloud-ui";
   print_median(
       20000, [] {},
-      [&](int count) {
-        for (int i = 0; i < count; ++i) {
+      [&](int total) {
+        for (int done = 0; done < total; ++done) {
           const String path = home + "/.Quillmere" + "/app" + "/bin/" + name;
           keep(path);
         }
@@ -30,8 +33,8 @@ void bench_map() {
   const String key = "component_42";
   print_median(
       100000, [] {},
-      [&](int count) {
-        for (int i = 0; i < count; ++i) keep(map.find(key)->second);
+      [&](int total) {
+        for (int done = 0; done < total; ++done) keep(map.find(key)->second);
       });
 }
 
@@ -42,3 +45,24 @@ inline std::string megabyte() {
   while (text.size() < 1000000) text += unit;
   return text;
 }
+
+// The whole program: the job named on the command line. `compose` and `to_utf16` convert a
+// megabyte that `prepare`, which is not timed, has made fresh.
+template <class String, class Prepare, class Compose, class ToUtf16>
+int run_text_job(int argc, char** argv, Prepare prepare, Compose compose, ToUtf16 to_utf16) {
+  const std::string job = argc > 1 ? argv[1] : "";
+  if (job == "path") {
+    bench_path<String>();
+  } else if (job == "map") {
+    bench_map<String>();
+  } else if (job == "nfc") {
+    print_median(1, prepare, [&](int) { keep(compose()); });
+  } else if (job == "utf16") {
+    print_median(1, prepare, [&](int) { keep(to_utf16()); });
+  } else {
+    return 2;
+  }
+  return 0;
+}
+
+}  // namespace bench

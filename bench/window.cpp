@@ -1,4 +1,4 @@
-// How long a program takes to its first painted window.
+// Benchmark of the first window: how long a program takes until it is painted.
 //
 //   bench_window PROGRAM ARGUMENTS...
 //
@@ -34,8 +34,8 @@ xcb_window_t wait_for_window(xcb_connection_t* display) {
   while (const Reply<xcb_generic_event_t> event{xcb_wait_for_event(display)}) {
     if ((event->response_type & 0x7f) != XCB_MAP_NOTIFY) continue;
     const auto* const map = reinterpret_cast<xcb_map_notify_event_t*>(event.get());
-    const Reply<xcb_get_geometry_reply_t> geometry{xcb_get_geometry_reply(
-        display, xcb_get_geometry(display, map->window), nullptr)};
+    const Reply<xcb_get_geometry_reply_t> geometry{
+        xcb_get_geometry_reply(display, xcb_get_geometry(display, map->window), nullptr)};
     if (geometry && geometry->width == kWidth) return map->window;
   }
   return XCB_NONE;
@@ -62,17 +62,17 @@ int main(int argc, char** argv) {
   (void)xcb_change_window_attributes(display, root, XCB_CW_EVENT_MASK, &events);
   (void)xcb_get_input_focus_reply(display, xcb_get_input_focus(display), nullptr);  // a barrier
 
-  const Clock::time_point start = Clock::now();
+  const bench::Stopwatch watch;
   pid_t program = 0;
   if (posix_spawn(&program, argv[1], nullptr, nullptr, argv + 1, environ) != 0) return 1;
   const xcb_window_t window = wait_for_window(display);
   if (window == XCB_NONE) return 1;
   while (!is_painted(display, window)) (void)usleep(kPause);
-  const int64_t time = nanoseconds_since(start);
+  const double time = watch.nanoseconds();
 
   int status = 0;
   (void)waitpid(program, &status, 0);
   xcb_disconnect(display);
-  print_nanoseconds(static_cast<double>(time));
+  bench::print_result(time);
   return WIFEXITED(status) && WEXITSTATUS(status) == 0 ? 0 : 1;
 }

@@ -1,4 +1,4 @@
-// The leanest program that counts the entries of an archive and then unpacks it. It puts the
+// Floor of unpacking: counts the entries of an archive and then unpacks it. It puts the
 // directory in front of each name: a launcher cannot change the working directory instead,
 // which all of its threads share.
 //
@@ -54,9 +54,9 @@ int extract(const char* path, const std::string& folder) {
 
 int main(int argc, char** argv) {
   if (argc < 3) return 2;
-  const Clock::time_point start = Clock::now();
+  const bench::Stopwatch watch;
   const int entries = count(argv[1]);
   if (entries == 0 || extract(argv[1], argv[2]) != entries) return 1;
-  print_nanoseconds(static_cast<double>(nanoseconds_since(start)));
+  bench::print_result(watch.nanoseconds());
   return 0;
 }

@@ -1,4 +1,4 @@
-// One line through a widely used logger, set up to do what the launcher's log does: the same
+// Floor of the log: a line through a widely used logger, set up as the launcher's log: the same
 // text, the same time stamp, a flush after every line, a component found by its name.
 //
 //   floor_log written DIR    the component's logger is at hand
@@ -7,15 +7,13 @@
 #include <spdlog/sinks/basic_file_sink.h>
 #include <spdlog/spdlog.h>
 
-#include <cstring>
 #include <memory>
 #include <string>
 
+#include "bench/log_line.h"
 #include "bench/stopwatch.h"
 
 namespace {
-
-constexpr int kLines = 5000;
 
 std::shared_ptr<spdlog::logger> start_log(const std::string& path, bool written) {
   spdlog::drop_all();
@@ -26,26 +24,25 @@ std::shared_ptr<spdlog::logger> start_log(const std::string& path, bool written)
   return logger;
 }
 
-void write_line(spdlog::logger& logger, int i) {
-  logger.debug("[DEBUG] bench({}): copy from '{}' to '{}'", i, "/usr/share/doc/readme",
-               "/home/user/readme");
+void write_line(spdlog::logger& logger, int done) {
+  logger.debug("[DEBUG] bench({}): copy from '{}' to '{}'", done, bench::kCopyFrom, bench::kCopyTo);
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
   if (argc < 3) return 2;
-  const bool written = strcmp(argv[1], "written") == 0;
+  const bool written = bench::wants_lines_written(argv);
   const std::string path = std::string(argv[2]) + "/floor.log";
   std::shared_ptr<spdlog::logger> logger;
   const auto prepare = [&] { logger = start_log(path, written); };
   if (written) {
-    print_median(kLines, prepare, [&](int count) {
-      for (int i = 0; i < count; ++i) write_line(*logger, i);
+    bench::print_median(bench::kLogLines, prepare, [&](int total) {
+      for (int done = 0; done < total; ++done) write_line(*logger, done);
     });
   } else {
-    print_median(kLines, prepare, [&](int count) {
-      for (int i = 0; i < count; ++i) write_line(*spdlog::get("bench_debug"), i);
+    bench::print_median(bench::kLogLines, prepare, [&](int total) {
+      for (int done = 0; done < total; ++done) write_line(*spdlog::get("bench_debug"), done);
     });
   }
   return 0;

@@ -1,4 +1,4 @@
-// The leanest remover of a directory tree by paths.
+// Floor of removal: the leanest remover of a directory tree by paths.
 //
 //   floor_remove DIR
 
@@ -31,8 +31,8 @@ bool remove_tree(std::string& path) {
 int main(int argc, char** argv) {
   if (argc < 2) return 2;
   std::string path = argv[1];
-  const Clock::time_point start = Clock::now();
+  const bench::Stopwatch watch;
   if (!remove_tree(path)) return 1;
-  print_nanoseconds(static_cast<double>(nanoseconds_since(start)));
+  bench::print_result(watch.nanoseconds());
   return 0;
 }

@@ -1,8 +1,8 @@
-// The least that a start with nothing to do can cost: a QApplication, the dialog that is not
-// shown, and the start script. No lock, log, translation, thread or version file.
+// Floor of a start with nothing to do: a QApplication, the dialog that is not shown, and the
+// start script. No lock, log, translation, thread or version file.
 //
-//   start PLUGINS ICON SCRIPT          runs SCRIPT and ends
-//   start PLUGINS ICON SCRIPT --show   shows the dialog first and waits for the script then
+//   floor_start PLUGINS ICON SCRIPT          runs SCRIPT and ends
+//   floor_start PLUGINS ICON SCRIPT --show   shows the dialog first and waits for the script then
 //
 // Links Qt Widgets and nothing else.
 

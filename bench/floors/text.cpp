@@ -1,4 +1,4 @@
-// The standard string, and ICU called directly.
+// Floor of the texts: the standard string, and ICU called directly.
 //
 //   floor_text path|map|nfc|utf16
 
@@ -7,7 +7,6 @@
 
 #include <string>
 
-#include "bench/stopwatch.h"
 #include "bench/text_jobs.h"
 
 namespace {
@@ -53,20 +52,7 @@ std::string compose(const std::string& text) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc < 2) return 2;
-  const std::string job = argv[1];
-  const std::string text = megabyte();
-  const auto nothing = [] {};
-  if (job == "path") {
-    bench_path<std::string>();
-  } else if (job == "map") {
-    bench_map<std::string>();
-  } else if (job == "nfc") {
-    print_median(1, nothing, [&](int) { keep(compose(text)); });
-  } else if (job == "utf16") {
-    print_median(1, nothing, [&](int) { keep(to_utf16(text)); });
-  } else {
-    return 2;
-  }
-  return 0;
+  const std::string text = bench::megabyte();
+  return bench::run_text_job<std::string>(
+      argc, argv, [] {}, [&] { return compose(text); }, [&] { return to_utf16(text); });
 }
