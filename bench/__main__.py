@@ -22,7 +22,7 @@ def options_of(arguments: list[str]) -> argparse.Namespace:
     parser.add_argument('--save', action='store_true')
     parser.add_argument('--pairs', type=int)
     parser.add_argument('--build', default=figures.ROOT + '/build/bench')
-    parser.add_argument('--memory', default='/dev/shm/quillmere-bench')
+    parser.add_argument('--memory', default='/dev/shm')
     options = parser.parse_args(arguments)
     if unknown := [n for n in options.names if n not in JOBS]:
         parser.error(f'no benchmark has the name {unknown[0]}; --list shows them')

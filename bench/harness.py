@@ -1,11 +1,13 @@
 """Runs benchmark programs and floors in pairs, in turn, and says how far it is."""
 
+import fcntl
 import os
 import shutil
 import signal
 import statistics
 import subprocess
 import sys
+import tempfile
 import time
 from dataclasses import dataclass, field
 from typing import Callable, Optional
@@ -83,7 +85,8 @@ class Bench:
     """Where to build and work, how often to run, and what the job at hand has found."""
 
     def __init__(self, build: str, memory: str, mode: str, pairs: Optional[int]) -> None:
-        self.build, self.memory = os.path.abspath(build), os.path.abspath(memory)
+        self.build, self.memory = os.path.abspath(build), ''
+        self._memory_place = memory  # where `memory` is made
         self.smoke, self.quick, self.pairs = mode == 'smoke', mode == 'quick', pairs
         self.progress = Progress(quiet=self.smoke)
         self.result = Result()
@@ -92,11 +95,17 @@ class Bench:
         self._display = ''
 
     def __enter__(self) -> 'Bench':
-        os.makedirs(self.memory, exist_ok=True)
         os.makedirs(self.build + '/inputs', exist_ok=True)
-        for place, need in ((self.build, 35), (self.memory, 8)):
+        self._lock = os.open(self.build + '/inputs', os.O_RDONLY)
+        try:
+            fcntl.flock(self._lock, fcntl.LOCK_EX | fcntl.LOCK_NB)
+        except BlockingIOError:
+            fail(f'another benchmark is at work in {self.build}')
+        self.memory = tempfile.mkdtemp(prefix='quillmere-bench.', dir=self._memory_place)
+        for place, need in ((self.build, 35), (self._memory_place, 8)):
             free = shutil.disk_usage(place).free // GB
             if free < need and not self.smoke:
+                os.rmdir(self.memory)
                 fail(f'{place} has {free} GB free, and the benchmarks may need {need} '
                      '(choose others with --build and --memory)')
         return self
