@@ -82,6 +82,7 @@ class Result:
     rows: list[Row] = field(default_factory=list)
     steps: dict[str, dict[str, float]] = field(default_factory=dict)  # platform: step: ns
     growth: dict[str, list[list[float]]] = field(default_factory=dict)  # unit: [count, ns of one]
+    kinds: dict[str, dict[str, float]] = field(default_factory=dict)  # kind: column: figure
     facts: dict[str, float] = field(default_factory=dict)
 
 

@@ -102,13 +102,21 @@ def make_archive(bench: Bench, tree: str, kind: str) -> str:
     path = f'{tree}.{kind}'
     if os.path.exists(path):
         return path
-    plain = make_archive(bench, tree, 'tar') if kind in COMPRESSORS else ''
+    if kind not in COMPRESSORS:
+        return make_package(bench, tree, kind)
+    plain = make_archive(bench, tree, 'tar')
     bench.progress.moving(f'making {path}')
-    if plain:
-        with open(plain, 'rb') as tar, open(path + '.part', 'wb') as file:
-            subprocess.run(COMPRESSORS[kind], stdin=tar, stdout=file, check=True)
-        os.rename(path + '.part', path)
-    else:
+    with open(plain, 'rb') as tar, open(path + '.part', 'wb') as file:
+        subprocess.run(COMPRESSORS[kind], stdin=tar, stdout=file, check=True)
+    os.rename(path + '.part', path)
+    return path
+
+
+def make_package(bench: Bench, tree: str, kind: str, suffix: str = '') -> str:
+    """The tree as make-package packs it."""
+    path = f'{tree}.{kind}{suffix}'
+    if not os.path.exists(path):
+        bench.progress.moving(f'making {path}')
         options = () if kind == 'default' else ('--compression', kind)
         os.rename(pack(tree, tree + '.root', 1, *options), path)
         shutil.rmtree(tree + '.root')

@@ -9,6 +9,7 @@ from bench.figures import ROOT, Result, Results, Row, text_of
 from bench.jobs import JOBS
 
 PAGE = ROOT + '/docs/performance.md'
+PACKAGER_PAGE = ROOT + '/docs/packaging.md'  # whose table of kinds is a benchmark's
 
 # What a user feels: rows, what they are called where they stand for themselves, and their floors.
 HEADLINES = {
@@ -111,6 +112,19 @@ def worker_facts(results: Results) -> str:
     return '\n'.join(lines)
 
 
+def kinds_table(results: Results) -> str:
+    """The kinds of package side by side; nothing before they are measured."""
+    kinds = results.jobs.get('packages', Result()).kinds
+    if not kinds:
+        return ''
+    return table('kind | archive | counting | unpacking | both | both, on disk | '
+                 'inside a .deb (xz)', (
+                     f'{"**checked**" if kind == "default" else kind} | {k["size"] / 1e6:.1f} MB | '
+                     f'{text_of(k["counting"])} | {text_of(k["unpacking"])} | '
+                     f'{text_of(k["both"])} | {text_of(k["disk"])} | {k["inside"] / 1e6:.1f} MB'
+                     for kind, k in kinds.items()))
+
+
 def details(results: Results) -> str:
     """Every row, folded by job."""
     parts = []
@@ -118,6 +132,7 @@ def details(results: Results) -> str:
         result = results.jobs.get(name, Result())
         said = [rows_table(result.rows)] if result.rows else []
         said += [steps_table(result.steps)] if result.steps else []
+        said += [kinds_table(results)] if result.kinds else []
         said += [worker_facts(results)] if result.facts else []
         if said:
             verdicts = [v for row in result.rows if (v := row.verdict())]
@@ -139,20 +154,25 @@ def conditions(results: Results) -> str:
     return '\n'.join(lines)
 
 
-PARTS = {'headlines': headlines, 'goals': goals, 'conditions': conditions, 'details': details}
+PARTS = {'headlines': headlines, 'goals': goals, 'conditions': conditions, 'details': details,
+         'kinds': kinds_table}
 
 
-def page_of(results: Results) -> str:
-    """The page with its generated parts made anew."""
-    with open(PAGE, encoding='utf-8') as file:
-        page = file.read()
-    return MARK.sub(lambda m: f'{m[1]}\n{PARTS[m[2]](results)}\n\n{m[3]}', page)
+def page_of(results: Results, path: str = PAGE) -> str:
+    """The page with its generated parts made anew; one without figures stays as it is."""
+    def part(mark: re.Match) -> str:
+        made = PARTS[mark[2]](results)
+        return f'{mark[1]}\n{made}\n\n{mark[3]}' if made else mark[0]
+
+    with open(path, encoding='utf-8') as file:
+        return MARK.sub(part, file.read())
 
 
 def write(results: Results) -> None:
-    page = page_of(results)
-    with open(PAGE, 'w', encoding='utf-8') as file:
-        file.write(page)
+    for path in (PACKAGER_PAGE, PAGE):
+        page = page_of(results, path)
+        with open(path, 'w', encoding='utf-8') as file:
+            file.write(page)
     by_hand = ' '.join(MARK.sub('', page).split())
     for row in results.rows().values():
         if row.verdict() == 'missed' and f'**{row.what}**' not in by_hand:

@@ -21,6 +21,7 @@ JOBS = {
     'window': BenchJob('The first window', start.measure_window, 0.5, 0.2),
     'stages': BenchJob('The steps of a start', start.measure_stages, 0.2, 0.1),
     'kind': BenchJob('The default kind of package', unpack.measure_kind, 2, 1),
+    'packages': BenchJob('What a packager chooses from', unpack.measure_packages, 4, 3),
     'client': BenchJob('Unpacking 300 files, 58 MB',
                        lambda bench: unpack.measure_unpack(bench, 'client'), 10, 3.5),
     'small': BenchJob('Unpacking 20,000 small files',

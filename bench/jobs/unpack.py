@@ -1,13 +1,15 @@
 """Benchmarks of unpacking a client, from the archive's first byte read to the last file closed."""
 
+import os
 import shutil
 import statistics
+import subprocess
 from typing import Optional
 
-from bench.figures import row_of
+from bench.figures import row_of, text_of
 from bench.harness import Bench, Job, Run
 from bench.inputs import KINDS, MB, Targets, client, client_tree, input_path
-from bench.inputs import make_archive, make_tree
+from bench.inputs import make_archive, make_package, make_tree
 
 NO_BARRIER = '--no-barrier'
 
@@ -52,17 +54,42 @@ def measure_unpack(bench: Bench, name: str, kinds: Optional[list[str]] = None) -
 
 
 def measure_kind(bench: Bench) -> None:
-    """What the default kind costs more than the plain archive that tells of no damage."""
+    """What the default kind costs more than a plain tar, which tells of no damage: in memory than
+    the leanest two passes over that, on a disk than our own, both with barriers."""
     for name, pairs in (('client', 31), ('small', 9)):
         this = client(bench, name)
         tree = client_tree(bench, this)
         plain, default = (make_archive(bench, tree, kind) for kind in ('tar', 'default'))
-        for place, where, goal in ((bench.memory, 'memory', 1.25),
-                                   (bench.build, 'disk with barriers', 1.05)):
-            targets = Targets(bench, place)
-            bench.pair(f'default kind against plain tar, {this.label}, {where}',
-                       ours(bench, plain, targets), ours(bench, default, targets), pairs, goal)
-            targets.clear()
+        targets = Targets(bench, bench.memory)
+        bench.pair(f'default kind against plain tar, {this.label}, memory',
+                   lean(bench, plain, targets), ours(bench, default, targets, NO_BARRIER), pairs,
+                   1.25)
+        targets.clear()
+        targets = Targets(bench, bench.build)
+        bench.pair(f'default kind against plain tar, {this.label}, disk with barriers',
+                   ours(bench, plain, targets), ours(bench, default, targets), pairs, 1.05)
+
+
+def measure_packages(bench: Bench) -> None:
+    """What a packager chooses from: each kind as make-package makes it, in size and time."""
+    tree = client_tree(bench, client(bench, 'client'))
+    for kind in ('default', 'tar', 'lz4', 'zstd', 'gzip', 'xz'):
+        package = make_package(bench, tree, kind, '.qpk')
+        targets, disk = Targets(bench, bench.memory), Targets(bench, bench.build)
+        bench.progress.moving(f'{kind}: unpacking')
+        runs = [lean(bench, package, targets)() for _ in range(bench.count(9))]
+        counting = statistics.median(float(r.lines[-2]) for r in runs)
+        both = statistics.median(r.wall for r in runs)
+        on_disk = statistics.median(ours(bench, package, disk)().wall
+                                    for _ in range(bench.count(9)))
+        targets.clear()
+        bench.progress.moving(f'{kind}: size inside another package')
+        inside = subprocess.run(['xz', '-T0', '-6', '-c', package], check=True,
+                                stdout=subprocess.PIPE).stdout
+        bench.result.kinds[kind] = {
+            'size': os.path.getsize(package), 'counting': counting, 'unpacking': both - counting,
+            'both': both, 'disk': on_disk, 'inside': len(inside)}
+        bench.progress.line(f'  {kind}: {text_of(both)} in memory, {text_of(on_disk)} on disk')
 
 
 def measure_barrier(bench: Bench) -> None:
