@@ -22,17 +22,23 @@ def fail(text: str) -> None:
 
 
 class Progress:
-    """What is being done: a moving line on a terminal, a line for each row anywhere else."""
+    """What is being done: a moving line on a terminal; elsewhere a line for each row, and one
+    whenever there has been none for a while."""
+
+    SILENCE = 10  # seconds
 
     def __init__(self, quiet: bool = False) -> None:
         self.quiet = quiet  # nothing but the moving line
         self.terminal = sys.stdout.isatty()
         self.job = ''
+        self._said = time.monotonic()
 
     def moving(self, text: str) -> None:
         if self.terminal:
             width = shutil.get_terminal_size().columns - 1
             print('\r\033[K' + f'{self.job}{text}'[:width], end='', flush=True)
+        elif time.monotonic() - self._said > self.SILENCE:
+            self.line(f'  ... {text}')
 
     def clear(self) -> None:
         if self.terminal:
@@ -42,6 +48,7 @@ class Progress:
         if not self.quiet:
             self.clear()
             print(text, flush=True)
+            self._said = time.monotonic()
 
     def row(self, row: Row) -> None:
         goal = f'  {row.goal_text()} {row.verdict()}' if row.verdict() else ''
