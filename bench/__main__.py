@@ -33,12 +33,12 @@ def options_of(arguments: list[str]) -> argparse.Namespace:
 
 def list_jobs() -> None:
     results = figures.load()
-    print('name      full     quick    last measured     what')
+    print('name        full     quick    last measured     what')
     for name, job in JOBS.items():
         last = results.jobs[name].run if name in results.jobs else 'not yet'
         quick = f'{job.quick:g} min' if job.quick else '-'
         full = f'{job.full:g} min'
-        print(f'{name:9} {full:8} {quick:8} {last:17} {job.title}')
+        print(f'{name:11} {full:8} {quick:8} {last:17} {job.title}')
 
 
 def measure(bench: Bench, names: list[str], keep: bool) -> figures.Results:

@@ -48,11 +48,13 @@ class Row:
 
     def verdict(self) -> str:
         """Met or missed, when the whole spread is on one side of the goal. As printed, so that
-        no row contradicts itself."""
+        no row contradicts itself. One pair alone has no spread."""
         if self.limit:
             return 'met' if self.ours <= self.limit else 'missed'
         if not self.goal:
             return ''
+        if len(self.ratios) == 1:
+            return 'not resolved'
         if round(self.high, 2) <= self.goal:
             return 'met'
         return 'missed' if round(self.low, 2) > self.goal else 'not resolved'
