@@ -20,9 +20,9 @@ HEADLINES = {
     'first window of an upgrade, X11':
         ('first window of an upgrade', 'the same program, which shows the dialog'),
     'default kind against plain tar, 300 files, 58 MB, memory':
-        ('unpacking of a 58 MB client, in memory', 'the same in a plain tar'),
+        ('unpacking of a 58 MB client, in memory', 'the leanest two passes over a plain tar'),
     'default kind against plain tar, 300 files, 58 MB, disk with barriers':
-        ('unpacking of a 58 MB client, on a disk', 'the same in a plain tar'),
+        ('unpacking of a 58 MB client, on a disk', 'our own out of a plain tar'),
     'unpack 20,000 small files with barriers, disk, against without':
         ('20,000 files safe from loss of power', 'the same without barriers'),
     'remove 20,000 files, disk, against `rm -rf`':
