@@ -1,4 +1,4 @@
-// A start with nothing to do, step by step: main() with a clock between its steps.
+// A start with nothing to do, step by step: what main() does, with a clock between its steps.
 //
 //   bench_stages SPAWNED     SPAWNED: the monotonic clock, in nanoseconds, when the process
 //                            was started
@@ -6,17 +6,23 @@
 // Must stand in a package root, like the launcher. Prints a line "<step> <nanoseconds>" for
 // each step; the last, "end", is the clock when main() returns.
 
-#define main launcher_main
-#include "launcher/main.cpp"
-#undef main
-
+#include <QApplication>
 #include <QFontMetrics>
 #include <QLocale>
+#include <QTextCodec>
+#include <QTranslator>
 
+#include <clocale>
+#include <cstdio>
 #include <cstdlib>
+#include <optional>
 
 #include "bench/stopwatch.h"
+#include "launcher/launcher.h"
 #include "launcher/linux/linux-service.h"
+#include "launcher/startup.h"
+#include "launcher/texts/strtab.h"
+#include "qtsingleapplication/qtsingleapplication.h"
 
 namespace {
 
@@ -71,12 +77,14 @@ void warm_up_toolkit() {
 
 int run(int argc, char** argv) {
   warm_up_libraries();
+  open_standard_streams();
+  outlive_signals();
   initialize_resources(argv[0]);
   step("locale and resources");
-  QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-  QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-  name_application();
+  initialize_application();
+  std::optional<PlatformFallback> fallback(std::in_place);
   QtSingleApplication app(argc, argv, true);
+  fallback.reset();
   if (app.isRunning()) return 1;
   step("lock");
   ensure_utf8_names();
@@ -84,9 +92,7 @@ int run(int argc, char** argv) {
   step("log");
   warm_up_toolkit();
   QTranslator translator;
-  const QString none("");
-  (void)translator.load(getCurrentLanguageFileName(), none, none, none);
-  if (!translator.isEmpty()) QCoreApplication::installTranslator(&translator);
+  install_translator(&translator);
   StrTable::InitStrTable();
   step("translation");
   Launcher* const launcher = new Launcher;

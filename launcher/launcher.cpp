@@ -61,13 +61,18 @@ Worker::~Worker() {
   delete m_service;
 }
 
-void Worker::StartThread() { m_handler_thread->start(QThread::InheritPriority); }
+bool Worker::StartThread() {
+  m_handler_thread->start(QThread::InheritPriority);
+  return m_handler_thread->isRunning();
+}
 
 void Worker::QuitThread() { m_handler_thread->quit(); }
 
 void Worker::JoinThread() {
   (void)m_handler_thread->wait();  // without a time limit there is nothing to report
 }
+
+void Worker::StartClient() { m_service->PostUpgrade(); }
 
 void Worker::HandleServicce() {
   Logger::LogMsg(Logger::L_DEBUG, kComponent, "[DEBUG] launcher(%d): running\n", 88);
@@ -128,7 +133,17 @@ Launcher::~Launcher() {
   delete m_progress;
 }
 
-void Launcher::Run() { m_worker->StartThread(); }
+void Launcher::Run() {
+  if (m_worker->StartThread()) return;
+  Logger::LogMsg(Logger::L_ERR, kComponent,
+                 "[ERROR] launcher(%d): Failed to start the worker thread, no upgrade\n", __LINE__);
+  const auto start_client = [this] {
+    m_worker->StartClient();
+    LaunchDone();
+  };
+  // Quitting takes an event loop that runs. The call cannot fail for a function object.
+  (void)QMetaObject::invokeMethod(this, start_client, Qt::QueuedConnection);
+}
 
 void Launcher::Start() { emit sigStart(); }
 

@@ -45,17 +45,21 @@ class Worker : public QObject {
   // GUI thread. Waits for a job that still runs.
   ~Worker() override;
 
-  void StartThread();
+  // False when the system has no thread to give: nothing will be delivered then.
+  [[nodiscard]] bool StartThread();
   void QuitThread();
 
   // Blocks until the thread has ended, without a time limit.
   void JoinThread();
 
+  // GUI thread, without a worker thread only: starts the client as it is.
+  void StartClient();
+
  signals:
   // Emitted on the worker thread, received by the Launcher on the GUI thread.
   void sigServiceDone();             // the job is over, whatever its outcome
   void sigShowMsg();                 // an upgrade begins
-  void sigUpdateProgress(int, int);  // (total, steps)
+  void sigUpdateProgress(int, int);  // (total, done)
   void sigSetLabelText(QString);
 
  public slots:
@@ -79,7 +83,8 @@ class Launcher : public QObject {
   // Waits for a job that still runs.
   ~Launcher() override;
 
-  // Starts the worker thread.
+  // Starts the worker thread. Where there is none to be had, the client is started without it
+  // as soon as the event loop runs, and the application ends.
   void Run();
 
   // Has the worker begin. To be called once, after Run().

@@ -13,26 +13,35 @@ namespace {
 
 constexpr int kAttempts = 100;  // holders that come and go between two looks at the lock
 
-bool isPrivateDirectory(const QString& path) {
+// Empty when there is none that is the user's alone.
+QString runtimeDirectory() {
+  const QString path = QStringLiteral("/run/user/%1").arg(geteuid());
   struct stat st;
-  return QDir::isAbsolutePath(path) && lstat(QFile::encodeName(path).constData(), &st) == 0 &&
-         S_ISDIR(st.st_mode) && st.st_uid == geteuid() && (st.st_mode & 077) == 0;
+  const bool isPrivate = lstat(QFile::encodeName(path).constData(), &st) == 0 &&
+                         S_ISDIR(st.st_mode) && st.st_uid == geteuid() && (st.st_mode & 077) == 0;
+  return isPrivate ? path : QString();
+}
+
+// Empty when it cannot be made.
+QString homeDirectory() {
+  const QString path = QDir::homePath() + QLatin1String("/.Quillmere");
+  return QDir().mkpath(path) ? path : QString();
 }
 
 QString lockFileName() {
   const QString executable = QCoreApplication::applicationFilePath();
   const QByteArray key =
       QCryptographicHash::hash(executable.toUtf8(), QCryptographicHash::Sha1).toHex();
-  const QString runtimeDir = qEnvironmentVariable("XDG_RUNTIME_DIR");
-  return QStringLiteral("%1/qtsingleapp-%2-%3-%4-lockfile")
-      .arg(isPrivateDirectory(runtimeDir) ? runtimeDir : QDir::tempPath(),
-           QFileInfo(executable).fileName(), QString::fromLatin1(key), QString::number(geteuid()));
+  return QStringLiteral("qtsingleapp-%1-%2-%3-lockfile")
+      .arg(QFileInfo(executable).fileName(), QString::fromLatin1(key), QString::number(geteuid()));
 }
 
-// Opens the lock file, -1 when it cannot be had. In a directory that anybody may write to,
-// the name may have been taken by a link or by somebody else's file: neither is used.
-int openLockFile() {
-  const QByteArray name = QFile::encodeName(lockFileName());
+// Opens the lock file in `directory`, -1 when it cannot be had. In a home directory that others
+// may write to, the name may have been taken by a link or by somebody else's file: neither is
+// used.
+int openLockFile(const QString& directory) {
+  if (directory.isEmpty()) return -1;
+  const QByteArray name = QFile::encodeName(directory + '/' + lockFileName());
   const int fd = open(name.constData(), O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC,
                       S_IRUSR | S_IWUSR);
   struct stat st;
@@ -50,29 +59,36 @@ struct flock wholeFile() {
   return lock;
 }
 
+// A record lock belongs to the process: no child inherits it, and the kernel drops it with
+// the process.
+bool isHeldByAnother(int lockFile) {
+  for (int attempt = 0; attempt < kAttempts; ++attempt) {
+    struct flock lock = wholeFile();
+    if (fcntl(lockFile, F_SETLK, &lock) == 0) return false;
+    // Held by another, or not to be had at all? The holder may also just have gone: then
+    // nobody holds it, and it is tried again.
+    lock = wholeFile();
+    if (fcntl(lockFile, F_GETLK, &lock) != 0) return false;
+    if (lock.l_type != F_UNLCK) return true;
+  }
+  return false;
+}
+
 }  // namespace
 
 QtSingleApplication::QtSingleApplication(int& argc, char** argv, bool /*GUIenabled*/)
     : QApplication(argc, argv) {
-  m_lockFile = openLockFile();
-  m_isRunning = m_lockFile >= 0 && isHeldByAnother();
+  // Always in this order: of several that start at once, one has all that there are.
+  for (const QString& directory : {runtimeDirectory(), homeDirectory()}) {
+    const int lockFile = openLockFile(directory);
+    if (lockFile < 0) continue;
+    m_lockFiles.append(lockFile);
+    m_isRunning = isHeldByAnother(lockFile);
+    if (m_isRunning) return;
+  }
 }
 
 QtSingleApplication::~QtSingleApplication() {
-  if (m_lockFile >= 0) (void)close(m_lockFile);  // releases the lock; nothing was written
-}
-
-// A record lock belongs to the process: no child inherits it, and the kernel drops it with
-// the process.
-bool QtSingleApplication::isHeldByAnother() {
-  for (int attempt = 0; attempt < kAttempts; ++attempt) {
-    struct flock lock = wholeFile();
-    if (fcntl(m_lockFile, F_SETLK, &lock) == 0) return false;
-    // Held by another, or not to be had at all? The holder may also just have gone: then
-    // nobody holds it, and it is tried again.
-    lock = wholeFile();
-    if (fcntl(m_lockFile, F_GETLK, &lock) != 0) return false;
-    if (lock.l_type != F_UNLCK) return true;
-  }
-  return false;
+  // Releases the locks; nothing was written.
+  for (const int lockFile : m_lockFiles) (void)close(lockFile);
 }
