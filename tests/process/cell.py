@@ -15,7 +15,7 @@ import sys
 from typing import Callable
 
 WORK = "/dev/shm"  # where every machine has a directory; the disk is seen by this run alone
-SOCKETS = "/tmp/.X11-unix"  # the X servers', likewise
+SOCKETS = "/tmp/.X11-unix"  # the X servers', likewise; and /run, where locks may lie
 INSIDE = "QUILLMERE_TESTS_INSIDE"
 NOBODY = 65534  # a user and a group, the second ones where there are any
 EXIT_CANNOT = 77
@@ -41,7 +41,8 @@ def enter(command: list[str]) -> int:
     # A process group reaches through namespaces, hence the session of its own. The shell is the
     # first process: it takes leave of every process that has lost its parent.
     script = f"""mount -t tmpfs -o mode=755 tmpfs {WORK} && mkdir -p {SOCKETS} &&
-                 mount -t tmpfs -o mode=1777 tmpfs {SOCKETS} || exit
+                 mount -t tmpfs -o mode=1777 tmpfs {SOCKETS} &&
+                 mount -t tmpfs -o mode=755 tmpfs /run || exit
                  setsid --wait "$@"; exit $?"""
     return subprocess.run([*unshare, "sh", "-c", script, "sh", *command],
                           env={**os.environ, INSIDE: "1", "TMPDIR": WORK}).returncode

@@ -1,0 +1,173 @@
+"""Starts from surroundings that are not a desktop's, and what a start leaves to the client."""
+import os
+import signal
+import subprocess
+from pathlib import Path
+
+import pytest
+
+from cell import NOBODY
+from user import TREE, User, until, write
+
+ALREADY = "[DEBUG] main(80): app has already launched, return"
+
+# What a program that is started takes over from the one that starts it.
+INHERITING = """#!/bin/sh
+grep -E 'Sig(Blk|Ign)' /proc/self/status >>"$NOTES"
+echo "platform=${QT_QPA_PLATFORM-unset}" >>"$NOTES"
+"""
+
+
+def locks(directory: Path) -> list[Path]:
+    return list(directory.glob("qtsingleapp-*-lockfile"))
+
+
+def has_upgraded(user, started) -> None:
+    """The start ended with 0, and the log and the lock hold nothing that was not meant for them."""
+    assert started.wait(timeout=60) == 0, started.err.read_text()
+    user.copy_is(2)
+    log = user.log()
+    assert log[-1] == "[DEBUG] launcher(111): done" and all(line[0] == "[" for line in log), log
+    assert [lock.stat().st_size for lock in locks(user.top)] == [0]
+
+
+@pytest.mark.parametrize("closed", ["<&-", ">&- 2>&-", "<&- >&- 2>&-"])
+def test_closed_streams(user, closed):
+    user.install_copy(1)
+    has_upgraded(user, user.start("sh", "-c", f'exec "$@" {closed}', "sh"))
+    user.started("start")
+
+
+def test_broken_pipe(user):
+    read, write_end = os.pipe()
+    os.close(read)
+    user.install_copy(1)
+    has_upgraded(user, user.start(stdout=write_end, stderr=write_end))
+    user.started("start")
+
+
+@pytest.mark.parametrize("number", [signal.SIGTERM, signal.SIGHUP, signal.SIGINT])
+def test_session_ends(user, number):
+    user.install_copy(1)
+    user.hold()
+    started = user.start()
+    until(user.log_file.exists, "the launcher is at work")
+    while not user.notes.exists():
+        started.send_signal(number)
+        assert started.poll() is None
+    user.let_go()
+    has_upgraded(user, started)
+    user.started("start")
+
+
+@pytest.mark.parametrize("platform, session", [
+    (None, {}), (None, {"DISPLAY": ":77"}), ("nonsense", {}), ("", {"DISPLAY": ":77"}),
+    (None, {"XDG_SESSION_TYPE": "wayland", "WAYLAND_DISPLAY": "wayland-0"})])
+def test_no_display(user, platform, session):
+    """The client takes over neither the platforms that were tried nor the signals' handling."""
+    user.install_copy(2)
+    write(user.app / "package/start-stop", INHERITING, 0o755)
+    user.launch(QT_QPA_PLATFORM=platform, **session)
+    none, platform = "0" * 16, "unset" if platform is None else platform
+    assert user.notes.read_text().split() == ["SigBlk:", none, "SigIgn:", none,
+                                              f"platform={platform}"]
+
+
+def test_ignored_signal_stays_ignored(user):
+    user.install_copy(2)
+    write(user.app / "package/start-stop", INHERITING, 0o755)
+    user.launch("nohup")
+    assert "SigIgn:\t0000000000000001" in user.notes.read_text()
+
+
+@pytest.mark.parametrize("way", ["PATH", "link", "linked directory", "relative", "no name"])
+def test_ways_to_the_executable(user, way):
+    """What lies beside a working directory or a link is never loaded."""
+    binary = user.root / "bin"
+    elsewhere = user.dir / "elsewhere"
+    elsewhere.mkdir()
+    (elsewhere / "link").symlink_to(binary / "launcher")
+    (elsewhere / "bin").symlink_to(binary)
+    options, plugins = {
+        "PATH": ({"program": "launcher", "PATH": f"{binary}:{os.environ['PATH']}"}, None),
+        "link": ({"program": elsewhere / "link"}, None),
+        "linked directory": ({"program": elsewhere / "bin/launcher"}, None),
+        "relative": ({"program": "./launcher", "cwd": binary}, "../lib/plugins"),
+        "no name": ({"program": "launcher", "cwd": binary,
+                     "PATH": f"{binary}:{os.environ['PATH']}"}, "../lib/plugins"),
+    }[way]
+    user.launch("env", plugins=plugins, **options)
+    user.copy_is(2)
+
+
+@pytest.mark.parametrize("arguments, answer", [
+    ("--version", "launcher "), ("--help", "usage: launcher "), ("--version --help", None),
+    ("x --version", None), ("--versions", None)])
+def test_questions(user, arguments, answer):
+    user.install_copy(2)
+    started = user.start("sh", "-c", f'exec "$@" {arguments}', "sh")
+    if answer is None:
+        user.wait(started)
+        return user.started("start")
+    assert started.wait(timeout=60) == 0
+    assert started.out.read_text().startswith(answer) and not started.err.read_text()
+    user.started()
+    assert not user.log_file.exists() and not locks(user.top)
+    version = (TREE / "CMakeLists.txt").read_text().split("VERSION ")[2].split()[0]
+    assert answer[0] == "u" or started.out.read_text() == f"launcher {version}\n"
+
+
+# ---- One instance
+
+def runtime_directory(mode: int, owner: int) -> Path:
+    """The directory of the user who runs the launcher, which nobody else has seen."""
+    subprocess.run(["mount", "-t", "tmpfs", "tmpfs", "/run"], check=True)
+    directory = Path(f"/run/user/{os.getuid()}")
+    directory.mkdir(parents=True)
+    directory.chmod(mode)
+    os.chown(directory, owner, owner)
+    return directory
+
+
+@pytest.mark.parametrize("other_home", [False, True])
+def test_one_instance_in_every_environment(user, other_home):
+    """A second launcher from another kind of session finds the first."""
+    directory = runtime_directory(0o700, os.getuid())
+    user.install_copy(2)
+    user.hold()
+    first = user.start()
+    until(user.notes.exists, "the client starts")
+    assert locks(directory) and locks(user.top)
+    if other_home:
+        user.live_in("other")
+    else:
+        directory.rename("/run/user/gone")  # the user has logged out, and in again
+    user.launch(XDG_RUNTIME_DIR=None)
+    assert user.log()[-1] == ALREADY
+    user.let_go()
+    user.wait(first)
+    assert user.notes.read_text().count("start-stop") == 1
+
+
+@pytest.mark.second_user
+@pytest.mark.parametrize("mode, owner", [(0o755, 0), (0o770, 0), (0o700, NOBODY)])
+def test_runtime_directory_is_not_the_users_own(user, mode, owner):
+    directory = runtime_directory(mode, owner)
+    user.install_copy(2)
+    user.launch(XDG_RUNTIME_DIR=str(directory))
+    assert not locks(directory) and locks(user.top)
+
+
+@pytest.mark.second_user
+def test_two_users(user, builds):
+    user.install_copy(2)
+    user.hold()
+    first = user.start()
+    until(user.notes.exists, "the client starts")
+    other = User(user.dir / "others", builds)
+    other.install_copy(2)
+    other.give_away()
+    other.launch()
+    other.started("start")
+    user.let_go()
+    user.wait(first)
