@@ -1,4 +1,5 @@
 """Starts from surroundings that are not a desktop's, and what a start leaves to the client."""
+import fcntl
 import os
 import signal
 import subprocess
@@ -55,6 +56,7 @@ def test_session_ends(user, number):
     while not user.notes.exists():
         started.send_signal(number)
         assert started.poll() is None
+    assert started.out.read_text()  # at once, not at the end
     user.let_go()
     has_upgraded(user, started)
     user.started("start")
@@ -171,3 +173,22 @@ def test_two_users(user, builds):
     other.started("start")
     user.let_go()
     user.wait(first)
+
+
+@pytest.mark.second_user
+@pytest.mark.parametrize("link, owner", [(Path.symlink_to, NOBODY), (Path.hardlink_to, 0)])
+def test_lock_is_taken_by_somebody_else(user, link, owner):
+    """In a directory that anybody may write to, the lock's name leads to a lock that is held."""
+    user.install_copy(2)
+    user.give_away()
+    user.top.chmod(0o777)
+    user.launch()
+    (lock,) = locks(user.top)
+    lock.unlink()
+    held = write(user.top / "held", "", 0o666)
+    os.chown(held, owner, owner)
+    link(lock, held)
+    with open(held, "r+b") as file:
+        fcntl.lockf(file, fcntl.LOCK_EX)
+        user.launch()
+    user.started("start", "start")
