@@ -1,4 +1,3 @@
-#include <QProcess>
 #include <QRegularExpression>
 #include <QResource>
 #include <QTranslator>
@@ -6,7 +5,6 @@
 #include <QtTest>
 
 #include "launcher/texts/strtab.h"
-#include "libcommon/ParvLocale.h"
 
 using namespace StrTable;
 
@@ -24,31 +22,28 @@ const std::pair<const char*, const char*> kScripts[] = {
     {"\\p{Han}", "[^\\p{Han}\\p{Latin}\\p{Common}]|[这个们设时连应务档]"},
 };
 
-// In the order of the language numbers: locales that have the language, and the texts that are
-// rightly the same as in English, beside the name.
-const std::tuple<const char*, Script, const char*, const char*> kLanguages[] = {
-    {"enu", Latin, "C POSIX en_GB sr_RS", "*"},
-    {"cht", Traditional, "zh_TW zh_HK zh_MO", "ID"},
-    {"chs", Simplified, "zh_CN zh_SG", "ID"},
-    {"jpn", Japanese, "ja_JP", "ID|OK"},
-    {"deu", Latin, "de_AT", "Computer|ID|Internet|Name|OK|Port|Proxy|Status|Status:|Version"},
-    {"krn", Hangul, "ko_KR", "ID"},
-    {"fra", Latin, "fr_CA",
-     "Action|Destination|ID|Internet|OK|Port|Proxy|Version"},
-    {"ita", Latin, "it_IT", "&No|Computer|ID|Internet|OK|Password|Proxy"},
-    {"esn", Latin, "es_MX", "&No|Error|ID|Internet|Proxy"},
-    {"ptb", Latin, "pt_BR", "ID|Internet|OK|Proxy|Status|Status:"},
-    {"rus", Cyrillic, "ru_RU", "ID"},
-    {"dan", Latin, "da_DK",
-     "Computer|Destination|Internet|OK|Port|Proxy|Standby|Status|Status:|Version"},
-    {"nor", Latin, "nb_NO nn_NO no_NO", "ID|OK|Port|Proxy|Status|Status:"},
-    {"sve", Latin, "sv_SE", "ID|Internet|OK|Port|Proxy|Status|Status:|Version"},
-    {"nld", Latin, "nl_BE", "Computer|Help|ID|Internet|OK|Proxy|Status|Status:"},
-    {"plk", Latin, "pl_PL", "ID|Internet|OK|Port"},
-    {"hun", Latin, "hu_HU", "Internet|OK|Port|Proxy"},
-    {"ptg", Latin, "pt_PT", "ID|Internet|OK|Proxy"},
-    {"trk", Latin, "tr_TR", ""},
-    {"csy", Latin, "cs_CZ", "ID|Internet|OK|Port"},
+// The texts that are rightly the same as in English, beside the name.
+const std::tuple<const char*, Script, const char*> kLanguages[] = {
+    {"enu", Latin, "*"},
+    {"cht", Traditional, "ID"},
+    {"chs", Simplified, "ID"},
+    {"jpn", Japanese, "ID|OK"},
+    {"deu", Latin, "Computer|ID|Internet|Name|OK|Port|Proxy|Status|Status:|Version"},
+    {"krn", Hangul, "ID"},
+    {"fra", Latin, "Action|Destination|ID|Internet|OK|Port|Proxy|Version"},
+    {"ita", Latin, "&No|Computer|ID|Internet|OK|Password|Proxy"},
+    {"esn", Latin, "&No|Error|ID|Internet|Proxy"},
+    {"ptb", Latin, "ID|Internet|OK|Proxy|Status|Status:"},
+    {"rus", Cyrillic, "ID"},
+    {"dan", Latin, "Computer|Destination|Internet|OK|Port|Proxy|Standby|Status|Status:|Version"},
+    {"nor", Latin, "ID|OK|Port|Proxy|Status|Status:"},
+    {"sve", Latin, "ID|Internet|OK|Port|Proxy|Status|Status:|Version"},
+    {"nld", Latin, "Computer|Help|ID|Internet|OK|Proxy|Status|Status:"},
+    {"plk", Latin, "ID|Internet|OK|Port"},
+    {"hun", Latin, "Internet|OK|Port|Proxy"},
+    {"ptg", Latin, "ID|Internet|OK|Proxy"},
+    {"trk", Latin, ""},
+    {"csy", Latin, "ID|Internet|OK|Port"},
 };
 
 // The accelerators that stand side by side in one dialog; "msi_" comes before each.
@@ -87,35 +82,10 @@ class TestTexts : public QObject {
     QCOMPARE(LoadStr(app_name), QString("Parvenor Quillmere"));
   }
 
-  void languageNumbers() {
-    QStringList codes;
-    for (const auto& row : kLanguages) codes += std::get<0>(row);
-    QCOMPARE(ParvLocale::getSupportedLanguages(), codes);
-    for (int id = 0; id < 20; ++id) QCOMPARE(ParvLocale::getLanguageAbbrByID(id), codes[id]);
-    for (const int id : {20, -1, INT_MIN}) QVERIFY(ParvLocale::getLanguageAbbrByID(id).isEmpty());
-    for (const char* code : {"", "xyz", "DEU"}) QVERIFY(!ParvLocale::isLanguageInstalled(code));
-  }
-
-  void defaultLanguage_data() {
-    QTest::addColumn<QString>("code");
-    for (const auto& row : kLanguages) {
-      for (const QByteArray& locale : QByteArray(std::get<2>(row)).split(' '))
-        QTest::newRow(locale) << QString(std::get<0>(row));
-    }
-  }
-
-  // The system locale is read once a process, so each row is one.
-  void defaultLanguage() {
-    QVERIFY(qputenv("LC_ALL", QByteArray(QTest::currentDataTag()) + ".UTF-8"));
-    QProcess child;
-    child.start(QCoreApplication::applicationFilePath(), {"--default-language"});
-    QVERIFY(child.waitForFinished());
-    QTEST(QString(child.readAllStandardOutput()), "code");
-  }
-
   // Two sections, the messages and their index, and the compression that is agreed on.
   void collection() {
-    for (const QString& code : ParvLocale::getSupportedLanguages()) {
+    for (const auto& row : kLanguages) {
+      const QString code = std::get<0>(row);
       const QResource resource(":/" + code + ".qm");
       const bool plain = QStringList{"chs", "cht", "jpn", "krn"}.contains(code);
       QCOMPARE(resource.compressionAlgorithm(),
@@ -135,7 +105,7 @@ class TestTexts : public QObject {
   void language_data() {
     QTest::addColumn<int>("script");
     QTest::addColumn<QStringList>("same");
-    for (const auto& [code, script, locales, same] : kLanguages) {
+    for (const auto& [code, script, same] : kLanguages) {
       QTest::newRow(code) << int(script) << (QString(same).split('|') << "Parvenor Quillmere");
     }
   }
@@ -175,10 +145,6 @@ class TestTexts : public QObject {
 int main(int argc, char** argv) {
   Q_INIT_RESOURCE(texts);
   QCoreApplication application(argc, argv);
-  if (argc == 2 && strcmp(argv[1], "--default-language") == 0) {
-    printf("%s", qPrintable(ParvLocale::getDefaultLanguage()));
-    return 0;
-  }
   InitStrTable();
   TestTexts test;
   return QTest::qExec(&test, argc, argv);
