@@ -6,6 +6,10 @@
 #include <QFont>
 #include <QGuiApplication>
 #include <QIcon>
+#include <QLabel>
+#include <QStyle>
+
+#include <algorithm>
 
 #include "launcher/adapter.h"
 #include "launcher/texts/strtab.h"
@@ -36,6 +40,18 @@ ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr) 
   setModal(true);
   setWindowModality(Qt::WindowModal);
   setStyleSheet(" QProgressDialog { background-color: WhiteSmoke; \n  vertical-align: middle } ");
+  // A label that is too long, in a large font for instance, takes more lines.
+  findChild<QLabel*>()->setWordWrap(true);
+  resize(sizeHint());
+}
+
+QSize ProcessingProgressDialog::sizeHint() const {
+  // The base takes the label's own wish, which is for another width.
+  const QLabel* const label = findChild<QLabel*>();
+  const int margins = style()->pixelMetric(QStyle::PM_LayoutLeftMargin, nullptr, this) +
+                      style()->pixelMetric(QStyle::PM_LayoutRightMargin, nullptr, this);
+  const int missing = label->heightForWidth(kDialogWidth - margins) - label->sizeHint().height();
+  return QProgressDialog::sizeHint() + QSize(0, std::max(missing, 0));
 }
 
 void ProcessingProgressDialog::reject() {}

@@ -22,6 +22,9 @@ class ProcessingProgressDialog : public QProgressDialog {
   // goes on; both are ignored.
   void reject() override;
 
+  // As high as it takes to show the whole label in the fixed width.
+  QSize sizeHint() const override;
+
  protected:
   void closeEvent(QCloseEvent* event) override;
 };

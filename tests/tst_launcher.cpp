@@ -7,15 +7,19 @@
 
 #include <archive.h>
 #include <archive_entry.h>
+#include <langinfo.h>
+#include <pthread.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <clocale>
 #include <memory>
 #include <thread>
 
 #include "launcher/adapter.h"
 #include "launcher/extractor.h"
 #include "launcher/launcher.h"
+#include "launcher/startup.h"
 #include "launcher/texts/strtab.h"
 #include "lib/log.h"
 #include "tests/support.h"
@@ -36,6 +40,23 @@ class Application : public QApplication {
   }
   int depth = 0;
   int deepest = 0;
+};
+
+// While it lives, no thread can be started: the stacks asked for are larger than memory.
+class NoMoreThreads {
+ public:
+  NoMoreThreads() {
+    if (pthread_getattr_default_np(&m_earlier) != 0) qFatal("default attributes");
+    pthread_attr_t attributes = m_earlier;
+    if (pthread_attr_setstacksize(&attributes, size_t(-1) / 4 & ~size_t(4095)) != 0 ||
+        pthread_setattr_default_np(&attributes) != 0) {
+      qFatal("stack size");
+    }
+  }
+  ~NoMoreThreads() { (void)pthread_setattr_default_np(&m_earlier); }  // what was in force
+
+ private:
+  pthread_attr_t m_earlier;
 };
 
 using Entry = std::pair<QByteArray, QByteArray>;  // name and content
@@ -96,10 +117,18 @@ class TestLauncher : public QObject {
     std::thread([] { Notify_Adapter::GetInstance().UpdateProgress(3, 1); }).join();
     QCOMPARE(dialog->value(), 0);  // queued, not delivered on the other thread
     QTRY_COMPARE(dialog->value(), 33);
+    launcher.UpdateProgress(3, 2);
+    QCOMPARE(dialog->value(), 66);
     Notify_Adapter::GetInstance().UpdateDialogText(QString(300, 'w'));
     QCOMPARE(dialog->labelText(), QString(300, 'w'));
     dialog->adjustSize();
     QCOMPARE(dialog->width(), 400);
+    const int height = dialog->height();
+    launcher.SetLabelText(QString("Quillmere is initializing... ").repeated(9));
+    const QLabel* const label = dialog->findChild<QLabel*>();
+    QVERIFY(dialog->height() > height && label->height() >= label->heightForWidth(label->width()));
+    QVERIFY(!QGuiApplication::quitOnLastWindowClosed() &&
+            !QGuiApplication::isFallbackSessionManagementEnabled());
     QTest::keyClick(dialog, Qt::Key_Escape);
     QCloseEvent close;
     QApplication::sendEvent(dialog, &close);
@@ -127,6 +156,49 @@ class TestLauncher : public QObject {
     }).join();
     QTRY_COMPARE(findDialog()->value(), 100);
     QVERIFY2(application->deepest <= 101, qPrintable(QString::number(application->deepest)));
+  }
+
+  // An event loop that ends in another way, and a system without another thread: either way
+  // the client is started, and its start script has ended when the launcher does.
+  void clientIsStarted_data() {
+    QTest::addColumn<bool>("thread");
+    QTest::newRow("loop ends early") << true;
+    QTest::newRow("no thread") << false;
+  }
+  void clientIsStarted() {
+    QFETCH(bool, thread);
+    put(".Quillmere/app/bin/cloud-ui", "");
+    put(".Quillmere/app/package/start-stop", "#!/bin/sh\ntouch begun; sleep 0.3; touch ended\n");
+    QVERIFY(QFile::setPermissions(".Quillmere/app/package/start-stop", QFile::Permissions(0x7000)));
+    QCOMPARE(Logger::Initialize(Logger::FILE_LOGGER, "log", "", 0), 0);
+    {
+      Launcher launcher;
+      if (thread) {
+        launcher.Run();
+        launcher.Start();
+        QTRY_VERIFY(QFile::exists("begun"));
+      } else {
+        const NoMoreThreads limit;
+        launcher.Run();
+        launcher.Start();
+        QCOMPARE(QApplication::exec(), 0);
+      }
+    }
+    QVERIFY(QFile::exists("ended"));
+    QCOMPARE(content("log").contains("[ERROR] launcher("), !thread);
+  }
+
+  void startUp() {
+    for (const char* number : {"0", "47", "48"})
+      put(QString(".Quillmere/log/launcher.log_") + number, number);
+    initialize_logger();
+    QCOMPARE(Logger::Rotate(), 0);
+    QCOMPARE(tree(".Quillmere/log"), QStringList({"launcher.log:", "launcher.log_0:",
+                                                  "launcher.log_1:0", "launcher.log_48:47"}));
+    QVERIFY(setlocale(LC_ALL, "C"));
+    ensure_utf8_names();
+    QCOMPARE(nl_langinfo(CODESET), "UTF-8");
+    QVERIFY(setlocale(LC_ALL, "C.UTF-8"));
   }
 
   void extract_data() {
