@@ -9,8 +9,6 @@
 #include <QLabel>
 #include <QStyle>
 
-#include <algorithm>
-
 #include "launcher/adapter.h"
 #include "launcher/texts/strtab.h"
 #include "lib/log.h"
@@ -33,6 +31,8 @@ ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr) 
   setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint);
   setValue(0);
   setRange(0, 100);
+  // A label that is too long, in a large font for instance, takes more lines.
+  findChild<QLabel*>()->setWordWrap(true);
   setLabelText(StrTable::LoadStr(StrTable::desc_qlmr_env_preparing));
   setFont(font);
   setFixedWidth(kDialogWidth);
@@ -40,9 +40,6 @@ ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr) 
   setModal(true);
   setWindowModality(Qt::WindowModal);
   setStyleSheet(" QProgressDialog { background-color: WhiteSmoke; \n  vertical-align: middle } ");
-  // A label that is too long, in a large font for instance, takes more lines.
-  findChild<QLabel*>()->setWordWrap(true);
-  resize(sizeHint());
 }
 
 QSize ProcessingProgressDialog::sizeHint() const {
@@ -50,8 +47,8 @@ QSize ProcessingProgressDialog::sizeHint() const {
   const QLabel* const label = findChild<QLabel*>();
   const int margins = style()->pixelMetric(QStyle::PM_LayoutLeftMargin, nullptr, this) +
                       style()->pixelMetric(QStyle::PM_LayoutRightMargin, nullptr, this);
-  const int missing = label->heightForWidth(kDialogWidth - margins) - label->sizeHint().height();
-  return QProgressDialog::sizeHint() + QSize(0, std::max(missing, 0));
+  const int height = label->heightForWidth(kDialogWidth - margins);
+  return QProgressDialog::sizeHint() + QSize(0, height - label->sizeHint().height());
 }
 
 void ProcessingProgressDialog::reject() {}
