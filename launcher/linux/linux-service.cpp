@@ -6,6 +6,7 @@
 
 #include <signal.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -26,6 +27,7 @@ const ustring kComponent("service_debug");
 constexpr int kTimeout = 10000;      // milliseconds; nothing reads it
 constexpr int kProbes = 5;           // looks at a client that was asked to end,
 constexpr unsigned kProbeDelay = 1;  // seconds apart
+constexpr int kForkAttempts = 3;     // to start a process, likewise
 
 // The process that `text` names, 0 when it names none that may be signalled. Anything
 // below 1 would reach a whole group of processes, a number that does not fit pid_t another
@@ -84,6 +86,20 @@ QString quoted(const QString& program) {
   const auto splits = [](QChar c) { return c.isSpace() || c == '"'; };
   if (std::none_of(program.begin(), program.end(), splits)) return program;
   return '"' + QString(program).replace("\"", "\"\"\"") + '"';
+}
+
+// Whether the system has another process to give; one that is short of them is asked again.
+// The toolkit takes a refusal for a program that runs, and waits for its end for ever.
+bool can_start_process() {
+  for (int attempt = 0; attempt < kForkAttempts; ++attempt) {
+    if (attempt > 0) (void)sleep(kProbeDelay);  // cut short by a signal, it is asked sooner
+    const pid_t pid = fork();
+    if (pid == 0) _exit(0);
+    if (pid < 0) continue;
+    (void)waitpid(pid, nullptr, 0);  // its outcome is known
+    return true;
+  }
+  return false;
 }
 
 }  // namespace
@@ -179,6 +195,13 @@ void LinuxService::PostUpgrade() {
 }
 
 int LinuxService::LaunchPerUserBin() {
+  if (!can_start_process()) {
+    const int error = errno;
+    Logger::LogMsg(Logger::L_ERR, kComponent,
+                   "[ERROR] linux/linux-service(%d): Failed to start the client: %s (%d)\n",
+                   __LINE__, strerror(error), error);
+    return 0;
+  }
   const ustring script = per_user_install_path + "/package/start-stop";
   const QString command = quoted(QString::fromUtf8(script.c_str())) + " start";
   QStringList arguments = QProcess::splitCommand(command);

@@ -62,6 +62,19 @@ def test_session_ends(user, number):
     user.started("start")
 
 
+@pytest.mark.second_user
+@pytest.mark.parametrize("processes", [1, 2, 3])
+def test_no_more_processes(user, processes):
+    """Threads count as well. What cannot be done is logged, and the launcher ends."""
+    user.install_copy(2)
+    user.give_away()
+    user.launch("prlimit", f"--nproc={processes}")
+    failed = "\n".join(line for line in user.log() if line.startswith("[ERROR]"))
+    if processes == 1:
+        assert "Failed to start the worker thread" in failed
+    assert user.notes.exists() or "Failed to start the client" in failed
+
+
 @pytest.mark.parametrize("platform, session", [
     (None, {}), (None, {"DISPLAY": ":77"}), ("nonsense", {}), ("", {"DISPLAY": ":77"}),
     (None, {"XDG_SESSION_TYPE": "wayland", "WAYLAND_DISPLAY": "wayland-0"})])
