@@ -87,6 +87,7 @@ void Worker::JoinThread() {
 
 void Worker::StartClient() { m_service->PostUpgrade(); }
 
+// Support knows these messages by their numbers, whatever lines they stand on.
 void Worker::HandleServicce() {
   Logger::LogMsg(Logger::L_DEBUG, kComponent, "[DEBUG] launcher(%d): running\n", 88);
   m_service->PreUpgrade();

@@ -21,6 +21,7 @@ int main(int argc, char** argv) {
   ensure_utf8_names();
   initialize_logger();
   if (app.isRunning()) {
+    // Support knows it by its number.
     Logger::LogMsg(Logger::L_DEBUG, "launcher_debug",
                    "[DEBUG] main(%d): app has already launched, return\n", 80);
     return 0;
