@@ -9,6 +9,8 @@
 #include <QLabel>
 #include <QStyle>
 
+#include <cstdlib>
+
 #include "launcher/adapter.h"
 #include "launcher/texts/strtab.h"
 #include "lib/log.h"
@@ -118,6 +120,21 @@ static void set_application_font() {
   QApplication::setFont(font);
 }
 
+// Has `worker`, from now on the only one, end its job before the process exits. The toolkit
+// exits by itself when the display goes away, which is how many a session ends.
+static void finish_at_exit(Worker* worker) {
+  static Worker* unfinished = nullptr;
+  const auto finish = [] {
+    if (!unfinished) return;
+    unfinished->QuitThread();
+    unfinished->JoinThread();
+  };
+  // Without room for it such an exit cuts the job short, which the next start mends.
+  static const int registered = std::atexit(finish);
+  (void)registered;
+  unfinished = worker;
+}
+
 Launcher::Launcher() {
   set_application_font();
   m_worker = new Worker;
@@ -143,12 +160,16 @@ Launcher::Launcher() {
 }
 
 Launcher::~Launcher() {
+  finish_at_exit(nullptr);
   delete m_worker;
   delete m_progress;
 }
 
 void Launcher::Run() {
-  if (m_worker->StartThread()) return;
+  if (m_worker->StartThread()) {
+    finish_at_exit(m_worker);
+    return;
+  }
   Logger::LogMsg(Logger::L_ERR, kComponent,
                  "[ERROR] launcher(%d): Failed to start the worker thread, no upgrade\n", __LINE__);
   const auto start_client = [this] {

@@ -86,7 +86,8 @@ class Launcher : public QObject {
   // Waits for a job that still runs.
   ~Launcher() override;
 
-  // Starts the worker thread. Where there is none to be had, the client is started without it
+  // Starts the worker thread, whose job is brought to its end even if the toolkit ends the
+  // process because the display has gone. Where there is none to be had, the client is started without it
   // as soon as the event loop runs, and the application ends.
   void Run();
 

@@ -62,6 +62,23 @@ def test_session_ends(user, number):
     user.started("start")
 
 
+def test_display_goes_away(user):
+    server = subprocess.Popen(["Xvfb", ":78", "-noreset", "-nolisten", "tcp", "-nolock"],
+                              stderr=subprocess.DEVNULL)
+    until(lambda: subprocess.run(["xprop", "-root", "-display", ":78"], stdout=subprocess.DEVNULL,
+                                 stderr=subprocess.DEVNULL).returncode == 0, "the X server answers")
+    user.install_copy(1)
+    user.hold()
+    started = user.start(QT_QPA_PLATFORM="xcb", DISPLAY=":78")
+    until(user.notes.exists, "the client starts")
+    server.kill()
+    until(lambda: "X11 connection broke" in started.err.read_text(), "the launcher notices")
+    user.let_go()
+    started.wait(timeout=60)
+    user.copy_is(2)
+    assert user.log()[-1] == "[DEBUG] launcher(111): done"
+
+
 @pytest.mark.second_user
 @pytest.mark.parametrize("processes", [1, 2, 3])
 def test_no_more_processes(user, processes):
