@@ -31,6 +31,7 @@ class Application : public QApplication {
  public:
   using QApplication::QApplication;
   bool notify(QObject* receiver, QEvent* event) override {
+    if (QThread::currentThread() != thread()) return QApplication::notify(receiver, event);
     const bool counts = event->type() == QEvent::MetaCall && qobject_cast<Launcher*>(receiver);
     depth += counts;
     deepest = std::max(depth, deepest);
@@ -168,7 +169,10 @@ class TestLauncher : public QObject {
   // the client is started, and its start script has ended when the launcher does.
   void clientIsStarted_data() {
     QTest::addColumn<bool>("thread");
+    // The thread sanitizer sees nothing of the queue by which the toolkit hands on a call.
+#ifndef __SANITIZE_THREAD__
     QTest::newRow("loop ends early") << true;
+#endif
     QTest::newRow("no thread") << false;
   }
   void clientIsStarted() {
