@@ -99,6 +99,7 @@ extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/) {
     EXPECT(prctl(PR_SET_DUMPABLE, 1) == 0);            // the leak check traces the process
   }
   EXPECT(mkdtemp(root));
+  (void)archive_read_free(archive_read_new());  // loads the library, whose names are used below
   EXPECT(setenv("PATH", "/nonexistent", 1) == 0);  // no helper programs for rare filters
   sentinel = std::string(root) + "/sentinel";
   target = sentinel + "/target";
