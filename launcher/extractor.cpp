@@ -1,5 +1,7 @@
 #include "launcher/extractor.h"
 
+#include <QDir>
+
 #include <archive.h>
 #include <archive_entry.h>
 
@@ -92,6 +94,38 @@ bool takes_target(archive_entry* entry, const char* name) {
   return archive_entry_filetype(entry) != AE_IFDIR || archive_entry_hardlink(entry);
 }
 
+// Whether the file that a hard link is made to lies in the directory `target` and is reached
+// without a symbolic link, which the library would remove. The stored name counts from the
+// working directory.
+bool links_into(const ustring& target, const char* name) {
+  const QString path = QDir::cleanPath(QDir::current().absoluteFilePath(QString::fromUtf8(name)));
+  const ustring parent = path.left(path.lastIndexOf('/')).toUtf8().constData();
+  ustring resolved = parent;
+  ustring inside = target;
+  return FSGetRealPath(resolved) == 0 && FSGetRealPath(inside) == 0 && resolved == parent &&
+         strncmp((parent + "/").c_str(), (inside + "/").c_str(), inside.length() + 1) == 0;
+}
+
+// Whether `entry` may be unpacked into `target`; logged when it may not.
+bool is_welcome(archive_entry* entry, const ustring& target) {
+  const char* const name = archive_entry_pathname(entry);
+  if (!name || takes_target(entry, name)) {
+    Logger::LogMsg(Logger::L_ERR, kComponent,
+                   "[ERROR] extractor(%d): entry '%s' would replace the target\n", __LINE__,
+                   name ? name : "");
+    return false;
+  }
+  // The user's own files must neither get into the copy nor be written through it.
+  const char* const link = archive_entry_hardlink(entry);
+  if (link && !links_into(target, link)) {
+    Logger::LogMsg(Logger::L_ERR, kComponent,
+                   "[ERROR] extractor(%d): entry '%s' is a hard link to '%s', not inside '%s'\n",
+                   __LINE__, name, link, target.c_str());
+    return false;
+  }
+  return true;
+}
+
 }  // namespace
 
 int Extractor::Extract() {
@@ -151,20 +185,14 @@ int Extractor::ExtractEntries(archive* reader, archive* writer, int total) {
       return -1;
     }
 
-    const char* const name = archive_entry_pathname(entry);
-    if (!name || takes_target(entry, name)) {
-      Logger::LogMsg(Logger::L_ERR, kComponent,
-                     "[ERROR] extractor(%d): entry '%s' would replace the target\n", __LINE__,
-                     name ? name : "");
-      return -1;
-    }
+    if (!is_welcome(entry, target)) return -1;
     // Without the barrier a loss of power could leave the last entry on the disk and an
     // earlier one not, and the copy would pass for complete. A package that was replaced
     // since the count may have more entries than were counted: then any may be the last.
     if (done > 0 && done + 1 >= total && FSSync(target) != 0) return -1;
 
     // Only the name is put below the target: a hard link's target stays as stored.
-    const ustring path = target + "/" + name;
+    const ustring path = target + "/" + archive_entry_pathname(entry);
     archive_entry_set_pathname(entry, path.c_str());
     if (archive_read_extract2(reader, entry, writer) != ARCHIVE_OK) {
       Logger::LogMsg(Logger::L_ERR, kComponent,
