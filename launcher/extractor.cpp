@@ -1,18 +1,17 @@
 #include "launcher/extractor.h"
 
-#include <QSemaphore>
-#include <QThread>
+#include <QDir>
 
 #include <archive.h>
 #include <archive_entry.h>
 
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <memory>
-#include <mutex>
-#include <utility>
-#include <vector>
 
 #include "launcher/adapter.h"
+#include "launcher/early-sync.h"
 #include "launcher/texts/strtab.h"
 #include "lib/file-op.h"
 #include "lib/log.h"
@@ -22,11 +21,6 @@ namespace {
 const ustring kComponent("extractor_debug");
 
 constexpr size_t kBlockSize = 10240;  // bytes read from the archive file at once
-
-// Bytes from which on a file is sent to the disk before the barrier, and the bytes that are
-// sent at once. With less the calls cost more than the barrier gains; with more the disk idles.
-constexpr int64_t kEarlySyncSize = 65536;
-constexpr int64_t kEarlySyncBatch = 2097152;
 
 // Neither owner, permissions nor times are asked for: the copy is the user's own.
 constexpr int kWriteOptions =
@@ -46,11 +40,16 @@ struct WriterCloser {
 };
 using Writer = std::unique_ptr<archive, WriterCloser>;
 
-// An archive handle's error text; without one, that of the handle it worked for.
-const char* error_text(archive* handle, archive* other = nullptr) {
-  const char* text = archive_error_string(handle);
-  if (!text && other) text = archive_error_string(other);
-  return text ? text : "";
+// An archive handle's error text, and behind it the system's reason where it has one; without
+// a text, that of the handle it worked for.
+ustring error_text(archive* handle, archive* other = nullptr) {
+  archive* const failed = archive_error_string(handle) || !other ? handle : other;
+  const char* const text = archive_error_string(failed);
+  const int code = archive_errno(failed);
+  // The library's own codes are -1 and these two, which would say nothing about the system.
+  const bool has_reason = code > 0 && code != EILSEQ && code != EINVAL;
+  return ustring(text ? text : "") +
+         (has_reason ? ustring(" (") + strerror(code) + ")" : ustring());
 }
 
 // A reader for every format and compression, null when there is no memory or no library.
@@ -79,54 +78,11 @@ Reader open_for_listing(const ustring& source) {
   if (open_source(reader.get(), source) != ARCHIVE_OK) {
     Logger::LogMsg(Logger::L_ERR, kComponent,
                    "[ERROR] extractor(%d): archive_read_open_filename failed: '%s'\n", __LINE__,
-                   error_text(reader.get()));
+                   error_text(reader.get()).c_str());
     return nullptr;
   }
   return reader;
 }
-
-// Sends unpacked files to the disk while the next ones are unpacked, or the barrier would
-// take as long as the unpacking has. On a thread of its own, since the sending takes time, too;
-// where none can be had, everything is left to the barrier.
-class EarlySync : private QThread {
- public:
-  ~EarlySync() override {
-    requestInterruption();
-    m_batches.release();
-    (void)wait();  // without a time limit there is nothing to report
-  }
-
-  // Takes note of a file that has been unpacked.
-  void Add(const ustring& path, int64_t size) {
-    if (size < kEarlySyncSize) return;
-    {
-      const std::lock_guard<std::mutex> lock(m_mutex);
-      m_paths.push_back(path);
-    }
-    m_bytes += size;
-    if (m_bytes < kEarlySyncBatch) return;
-    m_bytes = 0;
-    if (!isRunning()) start();
-    m_batches.release();
-  }
-
- private:
-  void run() override {
-    for (m_batches.acquire(); !isInterruptionRequested(); m_batches.acquire()) {
-      for (const ustring& path : TakePaths()) FSStartSync(path);
-    }
-  }
-
-  std::vector<ustring> TakePaths() {
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    return std::exchange(m_paths, {});
-  }
-
-  std::mutex m_mutex;            // for m_paths
-  std::vector<ustring> m_paths;  // not sent yet
-  int64_t m_bytes = 0;           // since the last batch
-  QSemaphore m_batches;          // of paths that are to be sent
-};
 
 // Whether `entry` would put something else in the place of the target directory: its name has
 // no component but "." and it is no directory.
@@ -136,6 +92,38 @@ bool takes_target(archive_entry* entry, const char* name) {
     if (*p != '/' && !dot) return false;
   }
   return archive_entry_filetype(entry) != AE_IFDIR || archive_entry_hardlink(entry);
+}
+
+// Whether the file that a hard link is made to lies in the directory `target` and is reached
+// without a symbolic link, which the library would remove. The stored name counts from the
+// working directory.
+bool links_into(const ustring& target, const char* name) {
+  const QString path = QDir::cleanPath(QDir::current().absoluteFilePath(QString::fromUtf8(name)));
+  const ustring parent = path.left(path.lastIndexOf('/')).toUtf8().constData();
+  ustring resolved = parent;
+  ustring inside = target;
+  return FSGetRealPath(resolved) == 0 && FSGetRealPath(inside) == 0 && resolved == parent &&
+         strncmp((parent + "/").c_str(), (inside + "/").c_str(), inside.length() + 1) == 0;
+}
+
+// Whether `entry` may be unpacked into `target`; logged when it may not.
+bool is_welcome(archive_entry* entry, const ustring& target) {
+  const char* const name = archive_entry_pathname(entry);
+  if (!name || takes_target(entry, name)) {
+    Logger::LogMsg(Logger::L_ERR, kComponent,
+                   "[ERROR] extractor(%d): entry '%s' would replace the target\n", __LINE__,
+                   name ? name : "");
+    return false;
+  }
+  // The user's own files must neither get into the copy nor be written through it.
+  const char* const link = archive_entry_hardlink(entry);
+  if (link && !links_into(target, link)) {
+    Logger::LogMsg(Logger::L_ERR, kComponent,
+                   "[ERROR] extractor(%d): entry '%s' is a hard link to '%s', not inside '%s'\n",
+                   __LINE__, name, link, target.c_str());
+    return false;
+  }
+  return true;
 }
 
 }  // namespace
@@ -178,7 +166,7 @@ int Extractor::Extract() {
   if (open_source(reader.get(), source) != ARCHIVE_OK) {
     Logger::LogMsg(Logger::L_ERR, kComponent,
                    "[ERROR] extractor(%d): Failed to read file '%s' ('%s')\n", __LINE__,
-                   source.c_str(), error_text(reader.get()));
+                   source.c_str(), error_text(reader.get()).c_str());
     return -1;
   }
   return ExtractEntries(reader.get(), writer.get(), total);
@@ -193,29 +181,23 @@ int Extractor::ExtractEntries(archive* reader, archive* writer, int total) {
     if (status != ARCHIVE_OK) {
       Logger::LogMsg(Logger::L_ERR, kComponent,
                      "[ERROR] extractor(%d): archive_read_next_header failed: '%s'\n", __LINE__,
-                     error_text(reader));
+                     error_text(reader).c_str());
       return -1;
     }
 
-    const char* const name = archive_entry_pathname(entry);
-    if (!name || takes_target(entry, name)) {
-      Logger::LogMsg(Logger::L_ERR, kComponent,
-                     "[ERROR] extractor(%d): entry '%s' would replace the target\n", __LINE__,
-                     name ? name : "");
-      return -1;
-    }
+    if (!is_welcome(entry, target)) return -1;
     // Without the barrier a loss of power could leave the last entry on the disk and an
     // earlier one not, and the copy would pass for complete. A package that was replaced
     // since the count may have more entries than were counted: then any may be the last.
     if (done > 0 && done + 1 >= total && FSSync(target) != 0) return -1;
 
     // Only the name is put below the target: a hard link's target stays as stored.
-    const ustring path = target + "/" + name;
+    const ustring path = target + "/" + archive_entry_pathname(entry);
     archive_entry_set_pathname(entry, path.c_str());
     if (archive_read_extract2(reader, entry, writer) != ARCHIVE_OK) {
       Logger::LogMsg(Logger::L_ERR, kComponent,
                      "[ERROR] extractor(%d): archive_read_extract2 failed: '%s'\n", __LINE__,
-                     error_text(writer, reader));
+                     error_text(writer, reader).c_str());
       return -1;
     }
     ++done;
@@ -223,7 +205,7 @@ int Extractor::ExtractEntries(archive* reader, archive* writer, int total) {
     if (archive_write_finish_entry(writer) != ARCHIVE_OK) {
       Logger::LogMsg(Logger::L_ERR, kComponent,
                      "[ERROR] extractor(%d): archive_write_finish_entry failed: '%s'\n", __LINE__,
-                     error_text(writer));
+                     error_text(writer).c_str());
       return -1;
     }
     early_sync.Add(path, archive_entry_size(entry));
@@ -284,13 +266,13 @@ int Extractor::copy_data(archive* reader, archive* writer) {
     if (status != ARCHIVE_OK) {
       Logger::LogMsg(Logger::L_ERR, kComponent,
                      "[ERROR] extractor(%d): archive_read_data_block failed: '%s'\n", __LINE__,
-                     error_text(reader));
+                     error_text(reader).c_str());
       return -1;
     }
     if (archive_write_data_block(writer, buffer, size, offset) != ARCHIVE_OK) {
       Logger::LogMsg(Logger::L_ERR, kComponent,
                      "[ERROR] extractor(%d): archive_write_data_block failed: '%s'\n", __LINE__,
-                     error_text(writer));
+                     error_text(writer).c_str());
       return -1;
     }
   }

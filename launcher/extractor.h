@@ -22,9 +22,10 @@ class Extractor {
   // ".." fails. Reports (total, done) once an entry. The last entry is taken for the
   // archive's mark of completeness: everything before it is on the disk when it is written.
   // Returns 0, or -1 for an empty source or target, an archive that holds no entry or
-  // cannot be read to its end without a warning, an entry that cannot be written, a disk
-  // that cannot be brought up to date before the last one, and where libarchive is not to be
-  // had. What was written until then stays on disk; removing it is the caller's part.
+  // cannot be read to its end without a warning, an entry that cannot be written or is a hard
+  // link to a file that is not in the target, a disk that cannot be brought up to date before
+  // the last one, and where libarchive is not to be had. What was written until then stays on disk;
+  // removing it is the caller's part.
   [[nodiscard]] int Extract();
 
   // The number of entries up to the end of the archive or the first that cannot be read;

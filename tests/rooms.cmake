@@ -18,7 +18,7 @@ list(APPEND ALLOWED
   "launcher/linux/linux-service>launcher/cloud-service"
   "launcher/linux/linux-service>launcher/linux/process"
   "launcher/cloud-service>launcher/extractor" "launcher/cloud-service>launcher/version-file"
-  "launcher/extractor>launcher/adapter")
+  "launcher/extractor>launcher/adapter" "launcher/extractor>launcher/early-sync")
 # Rooms that know nothing of the toolkit.
 set(PLAIN ustring lib)
 

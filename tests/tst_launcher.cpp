@@ -5,8 +5,6 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include <archive.h>
-#include <archive_entry.h>
 #include <langinfo.h>
 #include <pthread.h>
 #include <unistd.h>
@@ -17,7 +15,6 @@
 #include <thread>
 
 #include "launcher/adapter.h"
-#include "launcher/extractor.h"
 #include "launcher/launcher.h"
 #include "launcher/startup.h"
 #include "launcher/texts/strtab.h"
@@ -59,28 +56,6 @@ class NoMoreThreads {
  private:
   pthread_attr_t m_earlier;
 };
-
-using Entry = std::pair<QByteArray, QByteArray>;  // name and content
-using Entries = QVector<Entry>;
-
-void pack(const QString& path, const Entries& entries) {
-  archive* const a = archive_write_new();
-  archive_write_set_format_ustar(a);
-  archive_write_set_bytes_in_last_block(a, 1);
-  if (archive_write_open_filename(a, u(path).c_str()) != ARCHIVE_OK) qFatal("pack");
-  for (const auto& [name, data] : entries) {
-    archive_entry* const entry = archive_entry_new();
-    archive_entry_set_pathname(entry, name.constData());
-    archive_entry_set_filetype(entry, AE_IFREG);
-    archive_entry_set_size(entry, data.size());
-    if (archive_write_header(a, entry) != ARCHIVE_OK ||
-        archive_write_data(a, data.constData(), size_t(data.size())) < 0) {
-      qFatal("pack");
-    }
-    archive_entry_free(entry);
-  }
-  archive_write_free(a);
-}
 
 }  // namespace
 
@@ -209,47 +184,6 @@ class TestLauncher : public QObject {
     ensure_utf8_names();
     QCOMPARE(nl_langinfo(CODESET), "UTF-8");
     QVERIFY(setlocale(LC_ALL, "C.UTF-8"));
-  }
-
-  void extract_data() {
-    QTest::addColumn<Entries>("entries");
-    QTest::addColumn<int>("size");  // bytes the archive is cut to, 0 for none
-    QTest::addColumn<int>("count");
-    QTest::addColumn<int>("result");
-    QTest::addColumn<QString>("written");
-    const Entries three{{"a/b", "b"}, {"c", QByteArray(600, 'c')}, {"INFO", "i"}};
-    const QString c(600, 'c');
-    QTest::newRow("all") << three << 0 << 3 << 0 << "INFO:i a/ a/b:b c:" + c + " old:o";
-    QTest::newRow("replaces") << Entries{{"old", "new"}} << 0 << 1 << 0 << "old:new";
-    QTest::newRow("cut in data") << three << 1800 << 2 << -1
-                                 << "a/ a/b:b c:" + c.left(264) + " old:o";
-    QTest::newRow("cut in a header") << three << 1100 << 1 << -1 << "a/ a/b:b old:o";
-    QTest::newRow("parent inside") << Entries{{"d/../../x", "x"}} << 0 << 1 << -1 << "old:o";
-    QTest::newRow("absolute") << Entries{{"/x", "x"}} << 0 << 1 << 0 << "old:o x:x";
-  }
-  void extract() {
-    QFETCH(Entries, entries);
-    QFETCH(int, size);
-    QFETCH(int, result);
-    put("target/old", "o");
-    pack("package", entries);
-    if (size > 0) QVERIFY(QFile::resize("package", size));
-    Extractor extractor;
-    extractor.SetSource("package");
-    QVERIFY(extractor.Extract() == -1 && extractor.Count() == -1);
-    extractor.SetTarget("target");
-    QTEST(extractor.Count(), "count");
-    QSignalSpy reports(&Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateProgress);
-    QSignalSpy texts(&Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateDialogText);
-    QCOMPARE(extractor.Extract(), result);
-    QCOMPARE(texts.size(), 1);
-    QCOMPARE(texts[0][0].toString(), QString("Quillmere is initializing..."));
-    for (int i = 0; i < reports.size(); ++i) {
-      QCOMPARE(reports[i], QVariantList({extractor.Count(), i + 1}));
-    }
-    if (result == 0) QCOMPARE(reports.size(), entries.size());
-    QTEST(tree("target").join(' '), "written");
-    QVERIFY(!QFileInfo::exists("x"));
   }
 
  private:

@@ -1,6 +1,6 @@
-// Extractor: nothing of an archive may land outside the target, but through a link that an
-// earlier entry made, and nothing gets a set-id bit. The input describes the entries, which a
-// real archive is made of first.
+// Extractor: nothing of an archive may land outside the target, but through a symbolic link
+// that an earlier entry made, and nothing gets a set-id bit. The input describes the entries,
+// which a real archive is made of first.
 //
 // Escapes through links do happen here, so started by root the harness mounts a small disk
 // of its own and becomes an unprivileged user.
@@ -59,7 +59,7 @@ std::string make_name(FuzzedDataProvider& in) {
   return name;
 }
 
-// Returns whether an entry is a link.
+// Returns whether an entry is a symbolic link.
 bool write_package(const uint8_t* data, size_t size) {
   const __lsan::ScopedDisabler writers_leak;  // when the format refuses an entry
   FuzzedDataProvider in(data, size);
@@ -80,7 +80,7 @@ bool write_package(const uint8_t* data, size_t size) {
     archive_entry_set_size(entry, static_cast<la_int64_t>(content.size()));
     if (archive_write_header(writer, entry) >= ARCHIVE_WARN)
       (void)archive_write_data(writer, content.data(), content.size());
-    links |= archive_entry_symlink(entry) || archive_entry_hardlink(entry);
+    links |= archive_entry_symlink(entry) != nullptr;
     archive_entry_free(entry);
   }
   (void)archive_write_free(writer);
@@ -99,6 +99,7 @@ extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/) {
     EXPECT(prctl(PR_SET_DUMPABLE, 1) == 0);            // the leak check traces the process
   }
   EXPECT(mkdtemp(root));
+  (void)archive_read_free(archive_read_new());     // loads the library, whose names are used below
   EXPECT(setenv("PATH", "/nonexistent", 1) == 0);  // no helper programs for rare filters
   sentinel = std::string(root) + "/sentinel";
   target = sentinel + "/target";
