@@ -111,13 +111,15 @@ void Worker::HandleServicce() {
   emit sigServiceDone();
 }
 
-// Makes the dialog's font family that of the application. The toolkit measures a new dialog
-// before that has a font of its own: were the two families different, the system's fonts would
-// be searched twice, which takes a tenth of a start.
-static void set_application_font() {
+// The dialog's font family for the whole application: the toolkit measures a new dialog before
+// that has a font of its own, and were the two families different, the system's fonts would be
+// searched twice, which takes a tenth of a start. And colours that go with the dialog's light
+// background: those of a dark desktop would be light on light.
+static void set_application_look() {
   QFont font = QApplication::font();
   font.setFamily(kFontFamily);
   QApplication::setFont(font);
+  QApplication::setPalette(QApplication::style()->standardPalette());
 }
 
 // Has `worker`, from now on the only one, end its job before the process exits. The toolkit
@@ -136,7 +138,7 @@ static void finish_at_exit(Worker* worker) {
 }
 
 Launcher::Launcher() {
-  set_application_font();
+  set_application_look();
   m_worker = new Worker;
   m_progress = new ProcessingProgressDialog;
   m_progress->setCancelButton(nullptr);
