@@ -75,6 +75,7 @@ class TestLauncher : public QObject {
   void dialog() {
     const QFont earlier = QApplication::font();
     QApplication::setFont(QFont("Arial", 30));
+    QApplication::setPalette(QPalette(Qt::black));  // a dark desktop's: light on dark
     Launcher launcher;
     ProcessingProgressDialog* const dialog = findDialog();
     QVERIFY(dialog && !dialog->isVisible());
@@ -84,6 +85,7 @@ class TestLauncher : public QObject {
              int(Qt::WindowTitleHint | Qt::WindowSystemMenuHint));
     QCOMPARE(dialog->windowModality(), Qt::WindowModal);
     QCOMPARE(dialog->font().family(), QString("Arial"));
+    QVERIFY(dialog->palette().windowText().color().lightness() < 128);
     QCOMPARE(dialog->styleSheet(), QString(" QProgressDialog { background-color: WhiteSmoke; \n"
                                            "  vertical-align: middle } "));
     QVERIFY(dialog->minimum() == 0 && dialog->maximum() == 100 && dialog->value() == 0);
