@@ -477,7 +477,7 @@
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
-        <translation>Todas as alterações escolhidas foram feitas. Clique em Concluir para sair do Assistente de Instalação.</translation>
+        <translation>O programa de instalação fez todas as alterações escolhidas. Clique em Concluir para sair do Assistente de Instalação.</translation>
     </message>
     <message>
         <source>Click Remove to remove [ProductName] from your computer. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>

@@ -477,7 +477,7 @@
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
-        <translation>Foram efetuadas todas as alterações que escolheu. Clique em Terminar para sair do assistente de instalação.</translation>
+        <translation>O programa de instalação efetuou todas as alterações que escolheu. Clique em Terminar para sair do assistente de instalação.</translation>
     </message>
     <message>
         <source>Click Remove to remove [ProductName] from your computer. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
