@@ -477,7 +477,7 @@
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
-        <translation>セットアップは、選択された変更をすべて行いました。「完了」をクリックすると、セットアップウィザードが終了します。</translation>
+        <translation>セットアップは、選択された変更をすべて実行しました。「完了」をクリックすると、セットアップウィザードが終了します。</translation>
     </message>
     <message>
         <source>Click Remove to remove [ProductName] from your computer. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>

@@ -809,7 +809,7 @@
     </message>
     <message>
         <source>The folder is read-only. Choose a folder you can write to.</source>
-        <translation>이 폴더는 읽기 전용입니다. 쓰기가 가능한 폴더를 선택하십시오.</translation>
+        <translation>이 폴더는 읽기 전용입니다. 쓸 수 있는 폴더를 선택하십시오.</translation>
     </message>
     <message>
         <source>Next</source>
