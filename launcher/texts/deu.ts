@@ -581,7 +581,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
-        <translation>Die folgenden Anwendungen verwenden Dateien, die vom Setup aktualisiert werden müssen. Schließen Sie die Anwendungen und klicken Sie dann auf „Wiederholen“. Um fortzufahren, ohne sie zu schließen, klicken Sie auf „Ignorieren“. Um das Setup zu verlassen, klicken Sie auf „Beenden“.</translation>
+        <translation>Die folgenden Anwendungen verwenden Dateien, die vom Setup aktualisiert werden müssen. Schließen Sie die Anwendungen und klicken Sie dann auf „Wiederholen“. Um fortzufahren, ohne sie zu schließen, klicken Sie auf „Ignorieren“. Um das Setup zu beenden, klicken Sie auf „Beenden“.</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -1229,7 +1229,7 @@
     </message>
     <message>
         <source>Direct connection</source>
-        <translation>Direkte Verbindung</translation>
+        <translation>Direktverbindung</translation>
     </message>
     <message>
         <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
