@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
-        <translation>De toepassingen &amp;sluiten en na de installatie opnieuw starten</translation>
+        <translation>De toepassingen &amp;sluiten en na afloop opnieuw starten</translation>
     </message>
     <message>
         <source>The folder is a mount point. Choose a folder that is not a mount point.</source>
@@ -333,7 +333,7 @@
     </message>
     <message>
         <source>Choose shared folders to sync</source>
-        <translation>Gedeelde mappen kiezen om te synchroniseren</translation>
+        <translation>Te synchroniseren gedeelde mappen kiezen</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -581,7 +581,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
-        <translation>De volgende toepassingen gebruiken bestanden die door het installatieprogramma moeten worden bijgewerkt. Sluit deze toepassingen en klik daarna op ‘Opnieuw proberen’. Klik op ‘Negeren’ om door te gaan zonder ze te sluiten. Klik op ‘Afsluiten’ om het installatieprogramma te verlaten.</translation>
+        <translation>De volgende toepassingen gebruiken bestanden die door het installatieprogramma moeten worden bijgewerkt. Sluit deze toepassingen en klik daarna op ‘Opnieuw proberen’. Klik op ‘Negeren’ om door te gaan zonder ze te sluiten. Klik op ‘Afsluiten’ om het installatieprogramma af te sluiten.</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
-        <translation>De volgende toepassingen gebruiken bestanden die door het installatieprogramma moeten worden bijgewerkt. Kies of het installatieprogramma deze toepassingen moet sluiten. Als ze geopend blijven, moet u de computer opnieuw opstarten om de installatie te voltooien.</translation>
+        <translation>De volgende toepassingen gebruiken bestanden die door het installatieprogramma moeten worden bijgewerkt. Kies of het installatieprogramma deze toepassingen moet sluiten. Als ze geopend blijven, moet u de computer opnieuw opstarten om de wijzigingen te voltooien.</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the repair.</source>
@@ -1057,7 +1057,7 @@
     </message>
     <message>
         <source>Trying to sync...</source>
-        <translation>Poging tot synchroniseren...</translation>
+        <translation>Er wordt geprobeerd te synchroniseren...</translation>
     </message>
     <message>
         <source>Click Install to begin the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
