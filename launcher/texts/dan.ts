@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
-        <translation>&amp;Luk programmerne, og genstart dem efter installationen</translation>
+        <translation>&amp;Luk programmerne, og genstart dem bagefter</translation>
     </message>
     <message>
         <source>The folder is a mount point. Choose a folder that is not a mount point.</source>
@@ -73,7 +73,7 @@
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
-        <translation>Vil du slette dette delingslink?\nPersoner der har linket, kan ikke længere åbne filen.</translation>
+        <translation>Vil du slette dette delingslink?\nPersoner der har linket, kan derefter ikke længere åbne filen.</translation>
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server.</source>
@@ -581,7 +581,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
-        <translation>Følgende programmer bruger filer som installationsprogrammet skal opdatere. Luk dem, og klik derefter på ”Prøv igen”. Klik på ”Ignorer” for at fortsætte uden at lukke dem. Klik på ”Afslut” for at forlade installationsprogrammet.</translation>
+        <translation>Følgende programmer bruger filer som installationsprogrammet skal opdatere. Luk dem, og klik derefter på ”Prøv igen”. Klik på ”Ignorer” for at fortsætte uden at lukke dem. Klik på ”Afslut” for at afslutte installationsprogrammet.</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
-        <translation>Følgende programmer bruger filer som installationsprogrammet skal opdatere. Vælg om installationsprogrammet skal lukke dem. Hvis de forbliver åbne, skal du genstarte computeren for at fuldføre installationen.</translation>
+        <translation>Følgende programmer bruger filer som installationsprogrammet skal opdatere. Vælg om installationsprogrammet skal lukke dem. Hvis de forbliver åbne, skal du genstarte computeren for at fuldføre ændringerne.</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the repair.</source>
