@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
-        <translation>&amp;Stäng programmen och starta dem igen efter installationen</translation>
+        <translation>&amp;Stäng programmen och starta dem igen efteråt</translation>
     </message>
     <message>
         <source>The folder is a mount point. Choose a folder that is not a mount point.</source>
@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
-        <translation>Serverns certifikat är inte betrott: det kan ha upphört att gälla, tillhöra en annan server eller komma från en okänd utfärdare. Andra kan eventuellt läsa de data du skickar. Vill du fortsätta?</translation>
+        <translation>Serverns certifikat är inte betrott: det kan ha upphört att gälla, tillhöra en annan server eller komma från en okänd utfärdare. Andra kan eventuellt läsa de data som du skickar. Vill du fortsätta?</translation>
     </message>
     <message>
         <source>New shared folder</source>
@@ -273,7 +273,7 @@
     </message>
     <message>
         <source>This file has no earlier versions yet. Change the file and let it sync to create one.</source>
-        <translation>Det finns ännu inga tidigare versioner av filen. Ändra filen och låt den synkroniseras så skapas en.</translation>
+        <translation>Det finns ännu inga tidigare versioner av filen. Ändra filen och låt den synkroniseras, så skapas en.</translation>
     </message>
     <message>
         <source>Disconnect</source>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Quillmere is initializing...</source>
-        <translation>Quillmere initieras...</translation>
+        <translation>Initierar Quillmere...</translation>
     </message>
     <message>
         <source>Start now</source>
@@ -581,7 +581,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
-        <translation>Följande program använder filer som installationsprogrammet behöver uppdatera. Stäng dem och klicka sedan på Försök igen. Klicka på Ignorera för att fortsätta utan att stänga dem. Klicka på Avsluta för att lämna installationsprogrammet.</translation>
+        <translation>Följande program använder filer som installationsprogrammet behöver uppdatera. Stäng dem och klicka sedan på Försök igen. Klicka på Ignorera för att fortsätta utan att stänga dem. Klicka på Avsluta för att avsluta installationsprogrammet.</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
-        <translation>Följande program använder filer som installationsprogrammet behöver uppdatera. Välj om installationsprogrammet ska stänga dem. Om de förblir öppna måste du starta om datorn för att slutföra installationen.</translation>
+        <translation>Följande program använder filer som installationsprogrammet behöver uppdatera. Välj om installationsprogrammet ska stänga dem. Om de förblir öppna måste du starta om datorn för att slutföra ändringarna.</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the repair.</source>
@@ -1161,7 +1161,7 @@
     </message>
     <message>
         <source>Quillmere is set up</source>
-        <translation>Quillmere är klart att använda</translation>
+        <translation>Quillmere är konfigurerat</translation>
     </message>
     <message>
         <source>Language</source>
