@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
-        <translation>&amp;Lukk programmene, og start dem på nytt etter installasjonen</translation>
+        <translation>&amp;Lukk programmene, og start dem på nytt etterpå</translation>
     </message>
     <message>
         <source>The folder is a mount point. Choose a folder that is not a mount point.</source>
@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
-        <translation>Sertifikatet til serveren er ikke klarert: det kan være utløpt, tilhøre en annen server eller komme fra en ukjent utsteder. Andre kan kanskje lese dataene du sender. Vil du fortsette?</translation>
+        <translation>Sertifikatet til serveren er ikke klarert: Det kan være utløpt, tilhøre en annen server eller komme fra en ukjent utsteder. Andre kan kanskje lese dataene du sender. Vil du fortsette?</translation>
     </message>
     <message>
         <source>New shared folder</source>
@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
-        <translation>[DlgTitleFont]Installasjonsprogrammet stoppet på grunn av en feil. Endringene det hadde gjort, er tilbakeført.</translation>
+        <translation>[DlgTitleFont]Installasjonsprogrammet stoppet på grunn av en feil. Endringene det hadde gjort, er angret.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -473,7 +473,7 @@
     </message>
     <message>
         <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
-        <translation>Mappene og filene du fjernet avmerkingen for, blir fjernet fra denne datamaskinen. De beholdes på serveren.</translation>
+        <translation>Mappene og filene du valgte bort, blir fjernet fra denne datamaskinen. De beholdes på serveren.</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
@@ -581,7 +581,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
-        <translation>Følgende programmer bruker filer som installasjonsprogrammet må oppdatere. Lukk dem, og klikk deretter på «Prøv på nytt». Klikk på «Ignorer» for å fortsette uten å lukke dem. Klikk på «Avslutt» for å forlate installasjonsprogrammet.</translation>
+        <translation>Følgende programmer bruker filer som installasjonsprogrammet må oppdatere. Lukk dem, og klikk deretter på «Prøv på nytt». Klikk på «Ignorer» for å fortsette uten å lukke dem. Klikk på «Avslutt» for å avslutte installasjonsprogrammet.</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
-        <translation>Følgende programmer bruker filer som installasjonsprogrammet må oppdatere. Velg om installasjonsprogrammet skal lukke dem. Hvis de forblir åpne, må du starte datamaskinen på nytt for å fullføre installasjonen.</translation>
+        <translation>Følgende programmer bruker filer som installasjonsprogrammet må oppdatere. Velg om installasjonsprogrammet skal lukke dem. Hvis de forblir åpne, må du starte datamaskinen på nytt for å fullføre endringene.</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the repair.</source>
@@ -717,7 +717,7 @@
     </message>
     <message>
         <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
-        <translation>Sertifikatet til serveren kunne ikke verifiseres: det kan være utløpt, tilhøre en annen server eller komme fra en ukjent utsteder. Be serveradministratoren om å kontrollere sertifikatet.</translation>
+        <translation>Sertifikatet til serveren kunne ikke verifiseres: Det kan være utløpt, tilhøre en annen server eller komme fra en ukjent utsteder. Be serveradministratoren om å kontrollere sertifikatet.</translation>
     </message>
     <message>
         <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
