@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>Connect to another server...</source>
-        <translation>Connecter à un autre serveur...</translation>
+        <translation>Se connecter à un autre serveur...</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]Making changes to [ProductName]</source>
-        <translation>[DlgTitleFont]Modifications de [ProductName] en cours</translation>
+        <translation>[DlgTitleFont]Modification de [ProductName] en cours</translation>
     </message>
     <message>
         <source>Service turned off</source>
