@@ -673,7 +673,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup is complete</source>
-        <translation>{\VerdanaBold13}Il programma di installazione di [ProductName] ha terminato</translation>
+        <translation>{\VerdanaBold13}Il programma di installazione di [ProductName] ha completato l&apos;operazione</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -825,7 +825,7 @@
     </message>
     <message>
         <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
-        <translation>L&apos;accesso non è stato eseguito come amministratore, quindi Quillmere potrebbe non essere installato completamente. Continuare?</translation>
+        <translation>L&apos;accesso non è stato eseguito come amministratore, quindi Quillmere potrebbe non venire installato completamente. Continuare?</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
@@ -1117,7 +1117,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup did not finish</source>
-        <translation>{\VerdanaBold13}Il programma di installazione di [ProductName] non ha terminato</translation>
+        <translation>{\VerdanaBold13}Il programma di installazione di [ProductName] non ha completato l&apos;operazione</translation>
     </message>
     <message>
         <source>Quillmere is already running.</source>
