@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>The server has been replaced. Click here to reconnect.</source>
-        <translation>Se reemplazó el servidor. Haga clic aquí para volver a conectar este equipo.</translation>
+        <translation>Se ha reemplazado el servidor. Haga clic aquí para volver a conectar este equipo.</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -181,7 +181,7 @@
     </message>
     <message>
         <source>Some settings have not been saved. Save them?</source>
-        <translation>Algunos ajustes no se guardaron. ¿Guardarlos?</translation>
+        <translation>Hay ajustes sin guardar. ¿Guardarlos?</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -349,7 +349,7 @@
     </message>
     <message>
         <source>No settings have been changed.</source>
-        <translation>No se cambió ningún ajuste.</translation>
+        <translation>No se ha cambiado ningún ajuste.</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Files in use</source>
@@ -529,7 +529,7 @@
     </message>
     <message>
         <source>Folders to sync</source>
-        <translation>Carpetas para sincronizar</translation>
+        <translation>Carpetas que se sincronizarán</translation>
     </message>
     <message>
         <source>Choose sync folder</source>
@@ -633,7 +633,7 @@
     </message>
     <message>
         <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
-        <translation>Se alcanzó el límite de carpetas compartidas sincronizadas: %1. Deje de sincronizar una carpeta compartida antes de añadir otra.</translation>
+        <translation>Se ha alcanzado el límite de carpetas compartidas sincronizadas: %1. Deje de sincronizar una carpeta compartida antes de añadir otra.</translation>
     </message>
     <message>
         <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
@@ -673,7 +673,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup is complete</source>
-        <translation>{\VerdanaBold13}El programa de instalación de [ProductName] terminó</translation>
+        <translation>{\VerdanaBold13}El programa de instalación de [ProductName] ha terminado</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -789,7 +789,7 @@
     </message>
     <message>
         <source>Files to exclude</source>
-        <translation>Archivos para excluir</translation>
+        <translation>Archivos que se excluirán</translation>
     </message>
     <message>
         <source>Status details</source>
