@@ -333,7 +333,7 @@
     </message>
     <message>
         <source>Choose shared folders to sync</source>
-        <translation>Escolha as pastas compartilhadas para sincronizar</translation>
+        <translation>Escolha as pastas compartilhadas que deseja sincronizar</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -357,7 +357,7 @@
     </message>
     <message>
         <source>Repairs errors in the installation of [ProductName] by restoring missing or damaged files and shortcuts.</source>
-        <translation>Repara erros na instalação do [ProductName] restaurando arquivos e atalhos ausentes ou danificados.</translation>
+        <translation>Corrige erros na instalação do [ProductName] restaurando arquivos e atalhos ausentes ou danificados.</translation>
     </message>
     <message>
         <source>Excluded file extensions</source>
@@ -529,7 +529,7 @@
     </message>
     <message>
         <source>Folders to sync</source>
-        <translation>Pastas para sincronizar</translation>
+        <translation>Pastas a sincronizar</translation>
     </message>
     <message>
         <source>Choose sync folder</source>
@@ -789,7 +789,7 @@
     </message>
     <message>
         <source>Files to exclude</source>
-        <translation>Arquivos para ignorar</translation>
+        <translation>Arquivos a ignorar</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -1085,7 +1085,7 @@
     </message>
     <message>
         <source>You can open the files in this shared folder, but changes you make are not uploaded.</source>
-        <translation>Você pode abrir os arquivos desta pasta compartilhada, mas as alterações que fizer não serão enviadas.</translation>
+        <translation>Você pode abrir os arquivos desta pasta compartilhada, mas as alterações que fizer não serão enviadas ao servidor.</translation>
     </message>
     <message>
         <source>Network settings</source>
