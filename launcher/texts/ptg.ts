@@ -357,7 +357,7 @@
     </message>
     <message>
         <source>Repairs errors in the installation of [ProductName] by restoring missing or damaged files and shortcuts.</source>
-        <translation>Repara erros na instalação do [ProductName], restaurando ficheiros e atalhos em falta ou danificados.</translation>
+        <translation>Corrige erros na instalação do [ProductName], restaurando ficheiros e atalhos em falta ou danificados.</translation>
     </message>
     <message>
         <source>Excluded file extensions</source>
@@ -1085,7 +1085,7 @@
     </message>
     <message>
         <source>You can open the files in this shared folder, but changes you make are not uploaded.</source>
-        <translation>Pode abrir os ficheiros desta pasta partilhada, mas as alterações que fizer não serão enviadas.</translation>
+        <translation>Pode abrir os ficheiros desta pasta partilhada, mas as alterações que fizer não serão enviadas para o servidor.</translation>
     </message>
     <message>
         <source>Network settings</source>
