@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
-        <translation>&amp;Закрыть приложения и запустить их снова после установки</translation>
+        <translation>&amp;Закрыть приложения и запустить их снова после внесения изменений</translation>
     </message>
     <message>
         <source>The folder is a mount point. Choose a folder that is not a mount point.</source>
@@ -81,7 +81,7 @@
     </message>
     <message>
         <source>[ProductName] Setup</source>
-        <translation>Установка [ProductName]</translation>
+        <translation>Программа установки [ProductName]</translation>
     </message>
     <message>
         <source>Sign-in failed</source>
@@ -165,7 +165,7 @@
     </message>
     <message>
         <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
-        <translation>Установку можно запустить снова в любое время. Нажмите кнопку «Завершить», чтобы выйти из мастера установки.</translation>
+        <translation>Программу установки можно запустить снова в любое время. Нажмите кнопку «Завершить», чтобы выйти из мастера установки.</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -177,7 +177,7 @@
     </message>
     <message>
         <source>Click Repair to repair the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
-        <translation>Нажмите кнопку «Восстановить», чтобы исправить установку [ProductName]. Нажмите кнопку «Назад», чтобы проверить выбранные параметры, или кнопку «Отмена», чтобы выйти из мастера установки.</translation>
+        <translation>Нажмите кнопку «Восстановить», чтобы восстановить [ProductName]. Нажмите кнопку «Назад», чтобы проверить выбранные параметры, или кнопку «Отмена», чтобы выйти из мастера установки.</translation>
     </message>
     <message>
         <source>Some settings have not been saved. Save them?</source>
@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
-        <translation>[DlgTitleFont]Установка прервана из-за ошибки. Внесённые изменения отменены.</translation>
+        <translation>[DlgTitleFont]Работа программы установки прервана из-за ошибки. Внесённые изменения отменены.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
-        <translation>Следующие приложения используют файлы, которые должна обновить программа установки. Выберите, следует ли ей закрыть эти приложения. Если оставить их открытыми, для завершения установки потребуется перезагрузить компьютер.</translation>
+        <translation>Следующие приложения используют файлы, которые должна обновить программа установки. Выберите, следует ли ей закрыть эти приложения. Если оставить их открытыми, для завершения работы программы установки потребуется перезагрузить компьютер.</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the repair.</source>
@@ -673,7 +673,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup is complete</source>
-        <translation>{\VerdanaBold13}Установка [ProductName] завершена</translation>
+        <translation>{\VerdanaBold13}Работа программы установки [ProductName] завершена</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -1065,7 +1065,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
-        <translation>{\VerdanaBold13}Установка [ProductName] отменена</translation>
+        <translation>{\VerdanaBold13}Работа программы установки [ProductName] прервана</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1117,7 +1117,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup did not finish</source>
-        <translation>{\VerdanaBold13}Установка [ProductName] не завершена</translation>
+        <translation>{\VerdanaBold13}Работа программы установки [ProductName] завершилась с ошибкой</translation>
     </message>
     <message>
         <source>Quillmere is already running.</source>
@@ -1149,7 +1149,7 @@
     </message>
     <message>
         <source>Cancel the setup of [ProductName]?</source>
-        <translation>Отменить установку [ProductName]?</translation>
+        <translation>Прервать работу программы установки [ProductName]?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1213,7 +1213,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]You canceled setup, and your computer was not changed.</source>
-        <translation>[DlgTitleFont]Вы отменили установку, на компьютере ничего не изменено.</translation>
+        <translation>[DlgTitleFont]Вы прервали работу программы установки. На компьютере ничего не изменено.</translation>
     </message>
     <message>
         <source>The port number is not valid. Enter a number from 1 to 65535.</source>
