@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
-        <translation>&amp;Zamknij aplikacje i uruchom je ponownie po zakończeniu instalacji</translation>
+        <translation>&amp;Zamknij aplikacje i uruchom je ponownie po zakończeniu pracy instalatora</translation>
     </message>
     <message>
         <source>The folder is a mount point. Choose a folder that is not a mount point.</source>
@@ -81,7 +81,7 @@
     </message>
     <message>
         <source>[ProductName] Setup</source>
-        <translation>Instalacja programu [ProductName]</translation>
+        <translation>Instalator programu [ProductName]</translation>
     </message>
     <message>
         <source>Sign-in failed</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
-        <translation>Następujące aplikacje używają plików, które instalator musi zaktualizować. Wybierz, czy instalator ma zamknąć te aplikacje. Jeśli pozostaną otwarte, do ukończenia instalacji konieczne będzie ponowne uruchomienie komputera.</translation>
+        <translation>Następujące aplikacje używają plików, które instalator musi zaktualizować. Wybierz, czy instalator ma zamknąć te aplikacje. Jeśli pozostaną otwarte, do ukończenia pracy instalatora konieczne będzie ponowne uruchomienie komputera.</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the repair.</source>
@@ -673,7 +673,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup is complete</source>
-        <translation>{\VerdanaBold13}Instalacja programu [ProductName] została ukończona</translation>
+        <translation>{\VerdanaBold13}Instalator programu [ProductName] zakończył pracę</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -801,7 +801,7 @@
     </message>
     <message>
         <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
-        <translation>Coś poszło nie tak. Spróbuj ponownie, a jeśli problem będzie się powtarzał, skontaktuj się z administratorem serwera. Szczegóły znajdują się w ~/.Quillmere/log.</translation>
+        <translation>Wystąpił błąd. Spróbuj ponownie, a jeśli problem będzie się powtarzał, skontaktuj się z administratorem serwera. Szczegóły znajdują się w ~/.Quillmere/log.</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -1065,7 +1065,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
-        <translation>{\VerdanaBold13}Instalacja programu [ProductName] została anulowana</translation>
+        <translation>{\VerdanaBold13}Praca instalatora programu [ProductName] została przerwana</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1117,7 +1117,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup did not finish</source>
-        <translation>{\VerdanaBold13}Instalacja programu [ProductName] nie została ukończona</translation>
+        <translation>{\VerdanaBold13}Instalator programu [ProductName] nie ukończył pracy</translation>
     </message>
     <message>
         <source>Quillmere is already running.</source>
@@ -1149,7 +1149,7 @@
     </message>
     <message>
         <source>Cancel the setup of [ProductName]?</source>
-        <translation>Czy anulować instalację programu [ProductName]?</translation>
+        <translation>Czy przerwać pracę instalatora programu [ProductName]?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1189,7 +1189,7 @@
     </message>
     <message>
         <source>Certificate warning</source>
-        <translation>Ostrzeżenie o certyfikacie</translation>
+        <translation>Ostrzeżenie dotyczące certyfikatu</translation>
     </message>
     <message>
         <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
@@ -1213,7 +1213,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]You canceled setup, and your computer was not changed.</source>
-        <translation>[DlgTitleFont]Instalacja została anulowana, a na komputerze nie wprowadzono żadnych zmian.</translation>
+        <translation>[DlgTitleFont]Praca instalatora została przerwana, a na komputerze nie wprowadzono żadnych zmian.</translation>
     </message>
     <message>
         <source>The port number is not valid. Enter a number from 1 to 65535.</source>
