@@ -41,11 +41,11 @@
     </message>
     <message>
         <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
-        <translation>Místní databáze je poškozená. Odpojte se od serveru a poté se k němu znovu připojte, databáze se tím obnoví. Podrobnosti najdete v ~/.Quillmere/log.</translation>
+        <translation>Místní databáze je poškozená. Chcete-li databázi znovu vytvořit, odpojte se od serveru a poté se k němu znovu připojte. Podrobnosti najdete v ~/.Quillmere/log.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
-        <translation>&amp;Zavřít aplikace a po instalaci je znovu spustit</translation>
+        <translation>&amp;Zavřít aplikace a po provedení změn je znovu spustit</translation>
     </message>
     <message>
         <source>The folder is a mount point. Choose a folder that is not a mount point.</source>
@@ -81,7 +81,7 @@
     </message>
     <message>
         <source>[ProductName] Setup</source>
-        <translation>Instalace programu [ProductName]</translation>
+        <translation>Průvodce instalací programu [ProductName]</translation>
     </message>
     <message>
         <source>Sign-in failed</source>
@@ -165,7 +165,7 @@
     </message>
     <message>
         <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
-        <translation>Instalaci můžete kdykoli spustit znovu. Průvodce instalací ukončíte kliknutím na tlačítko „Dokončit“.</translation>
+        <translation>Instalační program můžete kdykoli spustit znovu. Průvodce instalací ukončíte kliknutím na tlačítko „Dokončit“.</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
-        <translation>[DlgTitleFont]Instalace se zastavila kvůli chybě. Provedené změny byly vráceny zpět.</translation>
+        <translation>[DlgTitleFont]Instalační program se zastavil kvůli chybě. Provedené změny byly vráceny zpět.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -581,7 +581,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
-        <translation>Následující aplikace používají soubory, které instalační program potřebuje aktualizovat. Zavřete tyto aplikace a poté klikněte na tlačítko „Opakovat“. Chcete-li pokračovat bez jejich zavření, klikněte na tlačítko „Ignorovat“. Chcete-li instalaci opustit, klikněte na tlačítko „Ukončit“.</translation>
+        <translation>Následující aplikace používají soubory, které instalační program potřebuje aktualizovat. Zavřete tyto aplikace a poté klikněte na tlačítko „Opakovat“. Chcete-li pokračovat bez jejich zavření, klikněte na tlačítko „Ignorovat“. Chcete-li instalační program opustit, klikněte na tlačítko „Ukončit“.</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
-        <translation>Následující aplikace používají soubory, které instalační program potřebuje aktualizovat. Zvolte, zda má instalační program tyto aplikace zavřít. Pokud zůstanou spuštěné, bude k dokončení instalace nutné restartovat počítač.</translation>
+        <translation>Následující aplikace používají soubory, které instalační program potřebuje aktualizovat. Zvolte, zda má instalační program tyto aplikace zavřít. Pokud zůstanou spuštěné, bude k dokončení změn nutné restartovat počítač.</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the repair.</source>
@@ -633,7 +633,7 @@
     </message>
     <message>
         <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
-        <translation>Byl dosažen nejvyšší počet synchronizovaných sdílených složek: %1. Než přidáte další, ukončete synchronizaci některé sdílené složky.</translation>
+        <translation>Bylo dosaženo nejvyššího počtu synchronizovaných sdílených složek: %1. Než přidáte další, ukončete synchronizaci některé sdílené složky.</translation>
     </message>
     <message>
         <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
@@ -673,7 +673,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup is complete</source>
-        <translation>{\VerdanaBold13}Instalace programu [ProductName] je dokončena</translation>
+        <translation>{\VerdanaBold13}Průvodce instalací programu [ProductName] dokončil práci</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -1065,7 +1065,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
-        <translation>{\VerdanaBold13}Instalace programu [ProductName] byla zrušena</translation>
+        <translation>{\VerdanaBold13}Průvodce instalací programu [ProductName] byl předčasně ukončen</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1117,7 +1117,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup did not finish</source>
-        <translation>{\VerdanaBold13}Instalace programu [ProductName] nebyla dokončena</translation>
+        <translation>{\VerdanaBold13}Průvodce instalací programu [ProductName] nedokončil práci</translation>
     </message>
     <message>
         <source>Quillmere is already running.</source>
@@ -1149,7 +1149,7 @@
     </message>
     <message>
         <source>Cancel the setup of [ProductName]?</source>
-        <translation>Zrušit instalaci programu [ProductName]?</translation>
+        <translation>Předčasně ukončit průvodce instalací programu [ProductName]?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1213,7 +1213,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]You canceled setup, and your computer was not changed.</source>
-        <translation>[DlgTitleFont]Instalace byla zrušena a v počítači nebyly provedeny žádné změny.</translation>
+        <translation>[DlgTitleFont]Průvodce instalací byl předčasně ukončen a v počítači nebyly provedeny žádné změny.</translation>
     </message>
     <message>
         <source>The port number is not valid. Enter a number from 1 to 65535.</source>
