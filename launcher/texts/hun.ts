@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
-        <translation>Az alkalmazások &amp;bezárása, majd újraindításuk a telepítés után</translation>
+        <translation>Az alkalmazások &amp;bezárása, majd újraindításuk a módosítások után</translation>
     </message>
     <message>
         <source>The folder is a mount point. Choose a folder that is not a mount point.</source>
@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
-        <translation>A program a mappában lévő fájlokat szinkronizálja a kiszolgálóval.</translation>
+        <translation>A program az ebben a mappában lévő fájlokat szinkronizálja a kiszolgálóval.</translation>
     </message>
     <message>
         <source>The proxy server requires sign-in</source>
@@ -501,7 +501,7 @@
     </message>
     <message>
         <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
-        <translation>Hiba történt a közvetítő szolgáltatásban. Próbálkozzon újra később, vagy kapcsolódjon a kiszolgálóhoz az IP-címével.</translation>
+        <translation>Hiba történt a közvetítő szolgáltatásban. Próbálkozzon újra később, vagy kapcsolódjon a kiszolgálóhoz az IP-címe használatával.</translation>
     </message>
     <message>
         <source>Server ID</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
-        <translation>A következő alkalmazások olyan fájlokat használnak, amelyeket a telepítőnek frissítenie kell. Válassza ki, hogy a telepítő bezárja-e az alkalmazásokat. Ha nyitva maradnak, a telepítés befejezéséhez újra kell indítania a számítógépet.</translation>
+        <translation>A következő alkalmazások olyan fájlokat használnak, amelyeket a telepítőnek frissítenie kell. Válassza ki, hogy a telepítő bezárja-e az alkalmazásokat. Ha nyitva maradnak, a módosítások befejezéséhez újra kell indítania a számítógépet.</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the repair.</source>
@@ -673,7 +673,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup is complete</source>
-        <translation>{\VerdanaBold13}A [ProductName] telepítése befejeződött</translation>
+        <translation>{\VerdanaBold13}A [ProductName] telepítője befejezte a műveletet</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -1065,7 +1065,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
-        <translation>{\VerdanaBold13}A [ProductName] telepítése megszakítva</translation>
+        <translation>{\VerdanaBold13}Megszakította a [ProductName] telepítőjét</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1117,7 +1117,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup did not finish</source>
-        <translation>{\VerdanaBold13}A [ProductName] telepítése nem fejeződött be</translation>
+        <translation>{\VerdanaBold13}A [ProductName] telepítője nem fejezte be a műveletet</translation>
     </message>
     <message>
         <source>Quillmere is already running.</source>
@@ -1149,7 +1149,7 @@
     </message>
     <message>
         <source>Cancel the setup of [ProductName]?</source>
-        <translation>Megszakítja a [ProductName] telepítését?</translation>
+        <translation>Megszakítja a [ProductName] telepítőjét?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1181,7 +1181,7 @@
     </message>
     <message>
         <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
-        <translation>Ez a számítógép nem kapcsolódik a kiszolgálóhoz, mert a kapcsolatot bontották. A szinkronizálás folytatásához kapcsolódjon újra.</translation>
+        <translation>Ennek a számítógépnek a kapcsolatát a kiszolgálóval bontották. A szinkronizálás folytatásához kapcsolódjon újra.</translation>
     </message>
     <message>
         <source>Detecting...</source>
@@ -1213,7 +1213,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]You canceled setup, and your computer was not changed.</source>
-        <translation>[DlgTitleFont]Megszakította a telepítést, a számítógépen semmi sem változott.</translation>
+        <translation>[DlgTitleFont]Megszakította a telepítőt, a számítógépen semmi sem változott.</translation>
     </message>
     <message>
         <source>The port number is not valid. Enter a number from 1 to 65535.</source>
