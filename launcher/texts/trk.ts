@@ -613,7 +613,7 @@
     </message>
     <message>
         <source>Open Quillmere</source>
-        <translation>Quillmere penceresini aç</translation>
+        <translation>Quillmere uygulamasını aç</translation>
     </message>
     <message>
         <source>Please restart %1 to apply the new language settings.</source>
@@ -673,7 +673,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup is complete</source>
-        <translation>{\VerdanaBold13}[ProductName] kurulumu tamamlandı</translation>
+        <translation>{\VerdanaBold13}[ProductName] kurulum sihirbazı tamamlandı</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -1065,7 +1065,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
-        <translation>{\VerdanaBold13}[ProductName] kurulumu iptal edildi</translation>
+        <translation>{\VerdanaBold13}[ProductName] kurulum sihirbazı iptal edildi</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1117,7 +1117,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup did not finish</source>
-        <translation>{\VerdanaBold13}[ProductName] kurulumu tamamlanmadı</translation>
+        <translation>{\VerdanaBold13}[ProductName] kurulum sihirbazı tamamlanamadı</translation>
     </message>
     <message>
         <source>Quillmere is already running.</source>
@@ -1149,7 +1149,7 @@
     </message>
     <message>
         <source>Cancel the setup of [ProductName]?</source>
-        <translation>[ProductName] kurulumu iptal edilsin mi?</translation>
+        <translation>[ProductName] kurulum sihirbazı iptal edilsin mi?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1213,7 +1213,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]You canceled setup, and your computer was not changed.</source>
-        <translation>[DlgTitleFont]Kurulumu iptal ettiniz ve bilgisayarınızda değişiklik yapılmadı.</translation>
+        <translation>[DlgTitleFont]Kurulum sihirbazını iptal ettiniz ve bilgisayarınızda değişiklik yapılmadı.</translation>
     </message>
     <message>
         <source>The port number is not valid. Enter a number from 1 to 65535.</source>
