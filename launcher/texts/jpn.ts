@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
-        <translation>アプリケーションを閉じ、セットアップ後に再起動する(&amp;C)</translation>
+        <translation>アプリケーションを閉じ、変更の完了後に再起動する(&amp;C)</translation>
     </message>
     <message>
         <source>The folder is a mount point. Choose a folder that is not a mount point.</source>
@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>A newer version of Quillmere is already installed. To install this version, remove the newer one first.</source>
-        <translation>新しいバージョンのQuillmereがすでにインストールされています。このバージョンをインストールするには、先に新しいバージョンを削除してください。</translation>
+        <translation>より新しいバージョンのQuillmereがすでにインストールされています。このバージョンをインストールするには、先に新しい方のバージョンを削除してください。</translation>
     </message>
     <message>
         <source>Click Repair to repair the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
@@ -477,7 +477,7 @@
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
-        <translation>セットアップは、選択された変更をすべて実行しました。「完了」をクリックすると、セットアップウィザードが終了します。</translation>
+        <translation>セットアップで、選択した変更をすべて実行しました。「完了」をクリックすると、セットアップウィザードが終了します。</translation>
     </message>
     <message>
         <source>Click Remove to remove [ProductName] from your computer. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
-        <translation>次のアプリケーションは、セットアップで更新する必要のあるファイルを使用しています。セットアップでこれらのアプリケーションを閉じるかどうかを選択してください。開いたままにする場合、セットアップを完了するにはコンピューターの再起動が必要です。</translation>
+        <translation>次のアプリケーションは、セットアップで更新する必要のあるファイルを使用しています。セットアップでこれらのアプリケーションを閉じるかどうかを選択してください。開いたままにする場合、変更を完了するにはコンピューターの再起動が必要です。</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the repair.</source>
@@ -673,7 +673,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup is complete</source>
-        <translation>{\VerdanaBold13}[ProductName]のセットアップが完了しました</translation>
+        <translation>{\VerdanaBold13}[ProductName]セットアップが完了しました</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -685,7 +685,7 @@
     </message>
     <message>
         <source>Shared folder not found</source>
-        <translation>共有フォルダーなし</translation>
+        <translation>見つからない共有フォルダー</translation>
     </message>
     <message>
         <source>&amp;Next</source>
@@ -1065,7 +1065,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
-        <translation>{\VerdanaBold13}[ProductName]のセットアップはキャンセルされました</translation>
+        <translation>{\VerdanaBold13}[ProductName]セットアップはキャンセルされました</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1117,7 +1117,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup did not finish</source>
-        <translation>{\VerdanaBold13}[ProductName]のセットアップを完了できませんでした</translation>
+        <translation>{\VerdanaBold13}[ProductName]セットアップを完了できませんでした</translation>
     </message>
     <message>
         <source>Quillmere is already running.</source>
@@ -1149,7 +1149,7 @@
     </message>
     <message>
         <source>Cancel the setup of [ProductName]?</source>
-        <translation>[ProductName]のセットアップをキャンセルしますか？</translation>
+        <translation>[ProductName]セットアップをキャンセルしますか？</translation>
     </message>
     <message>
         <source>Continue anyway</source>
