@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
-        <translation>응용 프로그램을 닫고 설치 후 다시 시작(&amp;C)</translation>
+        <translation>응용 프로그램을 닫고 설치 프로그램 작업이 끝난 후 다시 시작(&amp;C)</translation>
     </message>
     <message>
         <source>The folder is a mount point. Choose a folder that is not a mount point.</source>
@@ -65,7 +65,7 @@
     </message>
     <message>
         <source>The Setup Wizard lets you change, repair, or remove [ProductName]. Click Next to continue, or click Cancel to exit the Setup Wizard.</source>
-        <translation>설치 마법사를 사용하여 [ProductName] 설치를 변경, 복구 또는 제거할 수 있습니다. 계속하려면 ‘다음’을 클릭하고, 설치 마법사를 끝내려면 ‘취소’를 클릭하십시오.</translation>
+        <translation>설치 마법사를 사용하여 [ProductName] 프로그램을 변경, 복구 또는 제거할 수 있습니다. 계속하려면 ‘다음’을 클릭하고, 설치 마법사를 끝내려면 ‘취소’를 클릭하십시오.</translation>
     </message>
     <message>
         <source>Exclusion list</source>
@@ -81,7 +81,7 @@
     </message>
     <message>
         <source>[ProductName] Setup</source>
-        <translation>[ProductName] 설치</translation>
+        <translation>[ProductName] 설치 프로그램</translation>
     </message>
     <message>
         <source>Sign-in failed</source>
@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
-        <translation>[DlgTitleFont]오류로 인해 설치가 중단되었습니다. 설치 프로그램에서 변경한 내용은 원래대로 되돌려졌습니다.</translation>
+        <translation>[DlgTitleFont]오류로 인해 설치 프로그램이 중단되었습니다. 설치 프로그램에서 변경한 내용은 원래대로 되돌려졌습니다.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -473,7 +473,7 @@
     </message>
     <message>
         <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
-        <translation>선택을 취소한 폴더와 파일은 이 컴퓨터에서 제거됩니다. 서버에는 그대로 유지됩니다.</translation>
+        <translation>선택을 해제한 폴더와 파일은 이 컴퓨터에서 제거됩니다. 서버에는 그대로 유지됩니다.</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
-        <translation>다음 응용 프로그램이 설치 프로그램에서 업데이트해야 하는 파일을 사용하고 있습니다. 설치 프로그램에서 이 응용 프로그램을 닫을지 선택하십시오. 열어 두면 설치를 완료하기 위해 컴퓨터를 다시 시작해야 합니다.</translation>
+        <translation>다음 응용 프로그램이 설치 프로그램에서 업데이트해야 하는 파일을 사용하고 있습니다. 설치 프로그램에서 이 응용 프로그램을 닫을지 선택하십시오. 열어 두면 설치 프로그램 작업을 완료하기 위해 컴퓨터를 다시 시작해야 합니다.</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the repair.</source>
@@ -645,7 +645,7 @@
     </message>
     <message>
         <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
-        <translation>Quillmere 프로그램을 업그레이드할 수 없습니다. 이전 버전은 그대로 유지됩니다. 컴퓨터를 다시 시작한 다음 다시 시도하십시오. 자세한 내용은 ‘~/.Quillmere/log’에 있습니다.</translation>
+        <translation>Quillmere 프로그램을 업그레이드할 수 없습니다. 이전 버전은 그대로 유지되었습니다. 컴퓨터를 다시 시작한 다음 다시 시도하십시오. 자세한 내용은 ‘~/.Quillmere/log’에 있습니다.</translation>
     </message>
     <message>
         <source>Exclude names that begin with a dot</source>
@@ -673,7 +673,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup is complete</source>
-        <translation>{\VerdanaBold13}[ProductName] 설치 작업이 완료됨</translation>
+        <translation>{\VerdanaBold13}[ProductName] 설치 프로그램 작업이 완료됨</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -1065,7 +1065,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
-        <translation>{\VerdanaBold13}[ProductName] 설치 작업이 취소됨</translation>
+        <translation>{\VerdanaBold13}[ProductName] 설치 프로그램 작업이 취소됨</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1117,7 +1117,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup did not finish</source>
-        <translation>{\VerdanaBold13}[ProductName] 설치 작업이 완료되지 않음</translation>
+        <translation>{\VerdanaBold13}[ProductName] 설치 프로그램 작업이 완료되지 않음</translation>
     </message>
     <message>
         <source>Quillmere is already running.</source>
@@ -1149,7 +1149,7 @@
     </message>
     <message>
         <source>Cancel the setup of [ProductName]?</source>
-        <translation>[ProductName] 설치 작업을 취소하시겠습니까?</translation>
+        <translation>[ProductName] 설치 프로그램의 작업을 취소하시겠습니까?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1213,7 +1213,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]You canceled setup, and your computer was not changed.</source>
-        <translation>[DlgTitleFont]설치 작업이 취소되었으며 컴퓨터는 변경되지 않았습니다.</translation>
+        <translation>[DlgTitleFont]설치 프로그램 작업이 취소되었으며 컴퓨터는 변경되지 않았습니다.</translation>
     </message>
     <message>
         <source>The port number is not valid. Enter a number from 1 to 65535.</source>
