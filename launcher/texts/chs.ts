@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
-        <translation>关闭应用程序，并在安装完成后重新启动(&amp;C)</translation>
+        <translation>关闭应用程序，并在操作完成后将其重新启动(&amp;C)</translation>
     </message>
     <message>
         <source>The folder is a mount point. Choose a folder that is not a mount point.</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
-        <translation>以下应用程序正在使用安装程序需要更新的文件。请选择是否由安装程序关闭这些应用程序。如果不关闭，则需要重新启动计算机才能完成安装。</translation>
+        <translation>以下应用程序正在使用安装程序需要更新的文件。请选择是否由安装程序关闭这些应用程序。如果不关闭，则需要重新启动计算机才能完成操作。</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the repair.</source>
@@ -1149,7 +1149,7 @@
     </message>
     <message>
         <source>Cancel the setup of [ProductName]?</source>
-        <translation>要取消并退出 [ProductName] 安装程序吗？</translation>
+        <translation>要取消 [ProductName] 安装程序的操作吗？</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1213,7 +1213,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]You canceled setup, and your computer was not changed.</source>
-        <translation>[DlgTitleFont]您已取消操作，计算机未做任何更改。</translation>
+        <translation>[DlgTitleFont]您已取消安装程序的操作，计算机未发生任何更改。</translation>
     </message>
     <message>
         <source>The port number is not valid. Enter a number from 1 to 65535.</source>
