@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
-        <translation>關閉應用程式，並在安裝完成後重新啟動(&amp;C)</translation>
+        <translation>關閉應用程式，並在作業完成後重新啟動(&amp;C)</translation>
     </message>
     <message>
         <source>The folder is a mount point. Choose a folder that is not a mount point.</source>
@@ -193,7 +193,7 @@
     </message>
     <message>
         <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
-        <translation>此資料夾已由其他同步程式使用。請選擇其他資料夾以避免衝突。</translation>
+        <translation>此資料夾已被其他同步程式使用。請選擇其他資料夾以避免衝突。</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -565,7 +565,7 @@
     </message>
     <message>
         <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
-        <translation>此檔案在這台電腦和伺服器上都有修改。兩份複本以不同的名稱存放在同一個資料夾中。請比較兩份複本，然後保留您需要的那一份。</translation>
+        <translation>此檔案在這台電腦和伺服器上都經過修改。兩份複本以不同的名稱存放在同一個資料夾中。請比較兩份複本，然後保留您需要的那一份。</translation>
     </message>
     <message>
         <source>All your files on every computer, kept on your own server</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
-        <translation>下列應用程式正在使用安裝程式需要更新的檔案。請選擇是否由安裝程式關閉這些應用程式。若保持開啟，則必須重新開機才能完成安裝。</translation>
+        <translation>下列應用程式正在使用安裝程式需要更新的檔案。請選擇是否由安裝程式關閉這些應用程式。若保持開啟，則必須重新開機才能完成作業。</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the repair.</source>
@@ -1149,7 +1149,7 @@
     </message>
     <message>
         <source>Cancel the setup of [ProductName]?</source>
-        <translation>要取消並離開 [ProductName] 安裝程式嗎？</translation>
+        <translation>要取消 [ProductName] 安裝程式的作業嗎？</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1213,7 +1213,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]You canceled setup, and your computer was not changed.</source>
-        <translation>[DlgTitleFont]您已取消作業，電腦未做任何變更。</translation>
+        <translation>[DlgTitleFont]您已取消安裝程式的作業，電腦沒有任何變更。</translation>
     </message>
     <message>
         <source>The port number is not valid. Enter a number from 1 to 65535.</source>
