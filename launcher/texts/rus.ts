@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
-        <translation>Сертификат сервера не является доверенным: возможно, срок его действия истёк, он принадлежит другому серверу или выдан неизвестным издателем. Отправляемые данные могут прочитать посторонние. Продолжить?</translation>
+        <translation>Сертификат сервера не является доверенным: возможно, он просрочен, принадлежит другому серверу или выдан неизвестным издателем. Отправляемые данные могут прочитать посторонние. Продолжить?</translation>
     </message>
     <message>
         <source>New shared folder</source>
@@ -249,7 +249,7 @@
     </message>
     <message>
         <source>Read-only</source>
-        <translation>Только чтение</translation>
+        <translation>Только для чтения</translation>
     </message>
     <message>
         <source>Help</source>
@@ -461,7 +461,7 @@
     </message>
     <message>
         <source>Destination</source>
-        <translation>Назначение</translation>
+        <translation>Место назначения</translation>
     </message>
     <message>
         <source>The Setup Wizard is making the changes you chose.</source>
@@ -717,7 +717,7 @@
     </message>
     <message>
         <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
-        <translation>Не удалось проверить сертификат сервера: возможно, срок его действия истёк, он принадлежит другому серверу или выдан неизвестным издателем. Попросите администратора сервера проверить сертификат.</translation>
+        <translation>Не удалось проверить сертификат сервера: возможно, он просрочен, принадлежит другому серверу или выдан неизвестным издателем. Попросите администратора сервера проверить сертификат.</translation>
     </message>
     <message>
         <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
@@ -917,7 +917,7 @@
     </message>
     <message>
         <source>The user name or password was not accepted by the server. Edit the connection and enter them again.</source>
-        <translation>Сервер не принял имя пользователя или пароль. Откройте настройки подключения и введите имя и пароль ещё раз.</translation>
+        <translation>Сервер не принял имя пользователя или пароль. Измените подключение: введите имя и пароль ещё раз.</translation>
     </message>
     <message>
         <source>Recently updated files</source>
