@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
-        <translation>Certyfikat serwera nie jest zaufany: mógł wygasnąć, może należeć do innego serwera lub pochodzić od nieznanego wystawcy. Wysyłane dane mogą odczytać inne osoby. Czy kontynuować?</translation>
+        <translation>Certyfikat serwera nie jest zaufany: mógł wygasnąć, może należeć do innego serwera lub pochodzić od nieznanego wystawcy. Inne osoby mogą odczytać wysyłane dane. Czy kontynuować?</translation>
     </message>
     <message>
         <source>New shared folder</source>
