@@ -273,7 +273,7 @@
     </message>
     <message>
         <source>This file has no earlier versions yet. Change the file and let it sync to create one.</source>
-        <translation>Ennek a fájlnak még nincsenek korábbi verziói. Módosítsa a fájlt, és várja meg a szinkronizálását, hogy létrejöjjön egy.</translation>
+        <translation>Ennek a fájlnak még nincsenek korábbi verziói. Verzió létrehozásához módosítsa a fájlt, és várja meg a szinkronizálását.</translation>
     </message>
     <message>
         <source>Disconnect</source>
@@ -633,7 +633,7 @@
     </message>
     <message>
         <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
-        <translation>Elérte a szinkronizált megosztott mappák korlátját: %1. Újabb mappa hozzáadása előtt szüntesse meg egy megosztott mappa szinkronizálását.</translation>
+        <translation>Elérte a szinkronizálható megosztott mappák maximális számát: %1. Újabb mappa hozzáadása előtt szüntesse meg egy megosztott mappa szinkronizálását.</translation>
     </message>
     <message>
         <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
@@ -1181,7 +1181,7 @@
     </message>
     <message>
         <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
-        <translation>Ennek a számítógépnek a kapcsolatát a kiszolgálóval bontották. A szinkronizálás folytatásához kapcsolódjon újra.</translation>
+        <translation>Ez a számítógép bontotta a kapcsolatot a kiszolgálóval. A szinkronizálás folytatásához kapcsolódjon újra.</translation>
     </message>
     <message>
         <source>Detecting...</source>
@@ -1237,7 +1237,7 @@
     </message>
     <message>
         <source>This version of Quillmere is already installed. Install it again?</source>
-        <translation>A Quillmere ezen verziója már telepítve van. Telepíti újra?</translation>
+        <translation>A Quillmere ezen verziója már telepítve van. Újratelepíti?</translation>
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
