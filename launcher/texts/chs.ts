@@ -912,7 +912,7 @@
         <translation>端口</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Create share link</source>
         <translation>创建分享链接</translation>
     </message>
     <message>
@@ -1148,7 +1148,7 @@
         <translation>Quillmere 无法启动。请重新启动计算机，然后再次启动 Quillmere。详情请见“~/.Quillmere/log”。</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
+        <source>Cancel [ProductName] setup?</source>
         <translation>要取消 [ProductName] 安装程序的操作吗？</translation>
     </message>
     <message>

@@ -912,7 +912,7 @@
         <translation>連接埠</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Create share link</source>
         <translation>建立分享連結</translation>
     </message>
     <message>
@@ -1148,7 +1148,7 @@
         <translation>Quillmere 無法啟動。請重新開機，然後再次啟動 Quillmere。詳細資料請見「~/.Quillmere/log」。</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
+        <source>Cancel [ProductName] setup?</source>
         <translation>要取消 [ProductName] 安裝程式的作業嗎？</translation>
     </message>
     <message>

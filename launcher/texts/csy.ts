@@ -912,7 +912,7 @@
         <translation>Port</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Create share link</source>
         <translation>Vytvořit odkaz ke sdílení</translation>
     </message>
     <message>
@@ -1148,7 +1148,7 @@
         <translation>Program Quillmere se nepodařilo spustit. Restartujte počítač a poté program Quillmere spusťte znovu. Podrobnosti najdete v ~/.Quillmere/log.</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
+        <source>Cancel [ProductName] setup?</source>
         <translation>Předčasně ukončit průvodce instalací programu [ProductName]?</translation>
     </message>
     <message>

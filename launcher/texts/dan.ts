@@ -912,7 +912,7 @@
         <translation>Port</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Create share link</source>
         <translation>Opret delingslink</translation>
     </message>
     <message>
@@ -1148,7 +1148,7 @@
         <translation>Quillmere kunne ikke starte. Genstart computeren, og start derefter Quillmere igen. Du finder detaljer i ”~/.Quillmere/log”.</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
+        <source>Cancel [ProductName] setup?</source>
         <translation>Vil du afbryde installationsprogrammet til [ProductName]?</translation>
     </message>
     <message>

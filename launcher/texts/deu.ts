@@ -912,7 +912,7 @@
         <translation>Port</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Create share link</source>
         <translation>Freigabelink erstellen</translation>
     </message>
     <message>
@@ -1148,7 +1148,7 @@
         <translation>Quillmere konnte nicht gestartet werden. Starten Sie den Computer neu und starten Sie dann Quillmere erneut. Details finden Sie in „~/.Quillmere/log“.</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
+        <source>Cancel [ProductName] setup?</source>
         <translation>Setup von [ProductName] abbrechen?</translation>
     </message>
     <message>

@@ -912,7 +912,7 @@
         <translation>Puerto</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Create share link</source>
         <translation>Crear enlace compartido</translation>
     </message>
     <message>
@@ -1148,7 +1148,7 @@
         <translation>No se pudo iniciar Quillmere. Reinicie el equipo y vuelva a iniciar Quillmere. Los detalles están en «~/.Quillmere/log».</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
+        <source>Cancel [ProductName] setup?</source>
         <translation>¿Cancelar el programa de instalación de [ProductName]?</translation>
     </message>
     <message>

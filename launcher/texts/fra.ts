@@ -912,7 +912,7 @@
         <translation>Port</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Create share link</source>
         <translation>Créer un lien de partage</translation>
     </message>
     <message>
@@ -1148,7 +1148,7 @@
         <translation>Impossible de démarrer Quillmere. Redémarrez l’ordinateur, puis relancez Quillmere. Les détails se trouvent dans «&#xa0;~/.Quillmere/log&#xa0;».</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
+        <source>Cancel [ProductName] setup?</source>
         <translation>Annuler le programme d’installation de [ProductName]&#xa0;?</translation>
     </message>
     <message>

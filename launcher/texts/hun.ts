@@ -912,7 +912,7 @@
         <translation>Port</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Create share link</source>
         <translation>Megosztás hivatkozással</translation>
     </message>
     <message>
@@ -1148,7 +1148,7 @@
         <translation>Nem sikerült elindítani a Quillmere programot. Indítsa újra a számítógépet, majd indítsa el ismét a Quillmere programot. A részletek itt találhatók: ~/.Quillmere/log.</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
+        <source>Cancel [ProductName] setup?</source>
         <translation>Megszakítja a [ProductName] telepítőjét?</translation>
     </message>
     <message>

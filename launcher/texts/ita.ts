@@ -912,7 +912,7 @@
         <translation>Porta</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Create share link</source>
         <translation>Crea link di condivisione</translation>
     </message>
     <message>
@@ -1148,7 +1148,7 @@
         <translation>Non è stato possibile avviare Quillmere. Riavviare il computer, quindi avviare di nuovo Quillmere. I dettagli sono in «~/.Quillmere/log».</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
+        <source>Cancel [ProductName] setup?</source>
         <translation>Annullare il programma di installazione di [ProductName]?</translation>
     </message>
     <message>

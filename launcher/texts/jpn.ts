@@ -912,7 +912,7 @@
         <translation>ポート</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Create share link</source>
         <translation>共有リンクを作成</translation>
     </message>
     <message>
@@ -1148,7 +1148,7 @@
         <translation>Quillmereを起動できませんでした。コンピューターを再起動してから、もう一度Quillmereを起動してください。詳細は「~/.Quillmere/log」に記録されています。</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
+        <source>Cancel [ProductName] setup?</source>
         <translation>[ProductName]セットアップをキャンセルしますか？</translation>
     </message>
     <message>

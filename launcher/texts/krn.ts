@@ -912,7 +912,7 @@
         <translation>포트</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Create share link</source>
         <translation>공유 링크 만들기</translation>
     </message>
     <message>
@@ -1148,7 +1148,7 @@
         <translation>Quillmere 프로그램을 시작할 수 없습니다. 컴퓨터를 다시 시작한 다음 Quillmere 프로그램을 다시 시작하십시오. 자세한 내용은 ‘~/.Quillmere/log’에 있습니다.</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
+        <source>Cancel [ProductName] setup?</source>
         <translation>[ProductName] 설치 프로그램의 작업을 취소하시겠습니까?</translation>
     </message>
     <message>

@@ -912,7 +912,7 @@
         <translation>Poort</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Create share link</source>
         <translation>Deellink maken</translation>
     </message>
     <message>
@@ -1148,7 +1148,7 @@
         <translation>Quillmere kan niet worden gestart. Start de computer opnieuw op en start daarna Quillmere opnieuw. Meer informatie staat in ‘~/.Quillmere/log’.</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
+        <source>Cancel [ProductName] setup?</source>
         <translation>Het installatieprogramma van [ProductName] afbreken?</translation>
     </message>
     <message>

@@ -912,7 +912,7 @@
         <translation>Port</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Create share link</source>
         <translation>Opprett delingslenke</translation>
     </message>
     <message>
@@ -1148,7 +1148,7 @@
         <translation>Quillmere kunne ikke starte. Start datamaskinen på nytt, og start deretter Quillmere igjen. Du finner detaljer i «~/.Quillmere/log».</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
+        <source>Cancel [ProductName] setup?</source>
         <translation>Vil du avbryte installasjonsprogrammet for [ProductName]?</translation>
     </message>
     <message>

@@ -912,7 +912,7 @@
         <translation>Port</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Create share link</source>
         <translation>Utwórz link udostępniania</translation>
     </message>
     <message>
@@ -1148,7 +1148,7 @@
         <translation>Nie udało się uruchomić programu Quillmere. Uruchom ponownie komputer, a następnie uruchom program Quillmere jeszcze raz. Szczegóły znajdują się w ~/.Quillmere/log.</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
+        <source>Cancel [ProductName] setup?</source>
         <translation>Czy przerwać pracę instalatora programu [ProductName]?</translation>
     </message>
     <message>

@@ -912,7 +912,7 @@
         <translation>Porta</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Create share link</source>
         <translation>Criar hiperligação de partilha</translation>
     </message>
     <message>
@@ -1148,7 +1148,7 @@
         <translation>Não foi possível iniciar o Quillmere. Reinicie o computador e volte a iniciar o Quillmere. Os detalhes estão em ~/.Quillmere/log.</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
+        <source>Cancel [ProductName] setup?</source>
         <translation>Cancelar o programa de instalação do [ProductName]?</translation>
     </message>
     <message>

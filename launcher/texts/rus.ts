@@ -912,7 +912,7 @@
         <translation>Порт</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Create share link</source>
         <translation>Создать ссылку общего доступа</translation>
     </message>
     <message>
@@ -1148,7 +1148,7 @@
         <translation>Не удалось запустить Quillmere. Перезагрузите компьютер и запустите Quillmere снова. Подробности см. в ~/.Quillmere/log.</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
+        <source>Cancel [ProductName] setup?</source>
         <translation>Прервать работу программы установки [ProductName]?</translation>
     </message>
     <message>

@@ -912,7 +912,7 @@
         <translation>Port</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Create share link</source>
         <translation>Skapa delningslänk</translation>
     </message>
     <message>
@@ -1148,7 +1148,7 @@
         <translation>Quillmere kunde inte startas. Starta om datorn och starta sedan Quillmere igen. Mer information finns i ~/.Quillmere/log.</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
+        <source>Cancel [ProductName] setup?</source>
         <translation>Vill du avbryta installationsprogrammet för [ProductName]?</translation>
     </message>
     <message>

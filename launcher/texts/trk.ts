@@ -912,7 +912,7 @@
         <translation>Bağlantı noktası</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Create share link</source>
         <translation>Paylaşım bağlantısı oluştur</translation>
     </message>
     <message>
@@ -1148,7 +1148,7 @@
         <translation>Quillmere başlatılamadı. Bilgisayarı yeniden başlatın, ardından Quillmere uygulamasını tekrar başlatın. Ayrıntılar ~/.Quillmere/log içinde.</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
+        <source>Cancel [ProductName] setup?</source>
         <translation>[ProductName] kurulum sihirbazı iptal edilsin mi?</translation>
     </message>
     <message>
