@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>All files are up to date.</source>
-        <translation>所有文件均已是最新。</translation>
+        <translation>所有文件均已是最新状态。</translation>
     </message>
     <message>
         <source>Processing...</source>
@@ -41,11 +41,11 @@
     </message>
     <message>
         <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">本地数据库已损坏。请取消关联此连接，然后重新关联以重建数据库。</translation>
+        <translation>本地数据库已损坏。请断开与服务器的连接，然后重新连接以重建数据库。详情请见“~/.Quillmere/log”。</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
-        <translation>关闭应用程序，并在安装完成后重新启动它们(&amp;C)</translation>
+        <translation>关闭应用程序，并在操作完成后将其重新启动(&amp;C)</translation>
     </message>
     <message>
         <source>The folder is a mount point. Choose a folder that is not a mount point.</source>
@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>The server has been replaced. Click here to reconnect.</source>
-        <translation type="unfinished">服务器已被更换。单击此处重新关联。</translation>
+        <translation>服务器已更换。单击此处重新连接。</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -69,7 +69,7 @@
     </message>
     <message>
         <source>Exclusion list</source>
-        <translation type="unfinished">排除列表</translation>
+        <translation>排除列表</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server.</source>
-        <translation type="unfinished">此客户端版本过旧，与服务器不兼容。</translation>
+        <translation>此计算机上的 Quillmere 版本过旧，无法与服务器配合使用。</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
-        <translation type="unfinished">服务器的 SSL 证书不受信任，因此您发送的数据可能会被他人读取。要继续吗？</translation>
+        <translation>服务器的证书不受信任：证书可能已过期、属于其他服务器，或由未知颁发者颁发。他人可能会读取您发送的数据。要继续吗？</translation>
     </message>
     <message>
         <source>New shared folder</source>
@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>About Quillmere</source>
-        <translation type="unfinished">关于</translation>
+        <translation>关于 Quillmere</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
-        <translation type="unfinished">此计算机已与此服务器关联。请编辑现有连接，或输入其他服务器。</translation>
+        <translation>此计算机已连接到此服务器。请编辑现有连接，或输入其他服务器。</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -129,15 +129,15 @@
     </message>
     <message>
         <source>The connection to the server was lost. Check the network connection, then try again.</source>
-        <translation>与服务器的连接已断开。请检查网络连接，然后重试。</translation>
+        <translation>与服务器的连接已中断。请检查网络连接，然后重试。</translation>
     </message>
     <message>
         <source>The certificate of the server could not be verified.</source>
-        <translation type="unfinished">无法验证服务器的 SSL 证书。</translation>
+        <translation>无法验证服务器的证书。</translation>
     </message>
     <message>
         <source>Use a black-and-white tray icon</source>
-        <translation type="unfinished">使用黑白托盘图标</translation>
+        <translation>使用黑白托盘图标</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -153,7 +153,7 @@
     </message>
     <message>
         <source>Excluded files</source>
-        <translation type="unfinished">排除的文件</translation>
+        <translation>排除的文件</translation>
     </message>
     <message>
         <source>No permission</source>
@@ -161,11 +161,11 @@
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
-        <translation type="unfinished">服务器版本过旧，与此客户端不兼容。请联系服务器管理员升级服务器。</translation>
+        <translation>服务器上的 Quillmere 版本过旧，无法与此计算机配合使用。请联系服务器管理员升级服务器上的 Quillmere。</translation>
     </message>
     <message>
         <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
-        <translation type="unfinished">要重试，请稍后再次运行安装程序。单击“完成”退出安装向导。</translation>
+        <translation>您可以随时再次运行安装程序。单击“完成”退出安装向导。</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -181,7 +181,7 @@
     </message>
     <message>
         <source>Some settings have not been saved. Save them?</source>
-        <translation type="unfinished">部分设置尚未保存。要保存吗？</translation>
+        <translation>部分设置尚未保存。要保存吗？</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -193,7 +193,7 @@
     </message>
     <message>
         <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
-        <translation type="unfinished">此文件夹已被其他同步程序使用。请选择其他文件夹以避免冲突。</translation>
+        <translation>此文件夹已被其他同步程序使用。请选择其他文件夹以避免冲突。</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -205,15 +205,15 @@
     </message>
     <message>
         <source>Change sync folder</source>
-        <translation type="unfinished">更改同步文件夹</translation>
+        <translation>更改同步文件夹</translation>
     </message>
     <message>
         <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
-        <translation type="unfinished">请输入完整的文件名，不要包含文件夹路径。</translation>
+        <translation>请输入不含文件夹路径的完整文件名，例如 thumbs.db。</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
-        <translation type="unfinished">[DlgTitleFont]安装程序因出错而停止，所做的更改已撤销。</translation>
+        <translation>[DlgTitleFont]安装程序因出错而停止。安装程序所做的更改已撤销。</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -241,7 +241,7 @@
     </message>
     <message>
         <source>Use an encrypted connection (TLS)</source>
-        <translation type="unfinished">使用 SSL 加密数据传输</translation>
+        <translation>使用加密连接（TLS）</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -277,7 +277,7 @@
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished">取消关联</translation>
+        <translation>断开连接</translation>
     </message>
     <message>
         <source>Back</source>
@@ -317,7 +317,7 @@
     </message>
     <message>
         <source>Files excluded from syncing</source>
-        <translation type="unfinished">不同步的文件</translation>
+        <translation>排除在同步之外的文件</translation>
     </message>
     <message>
         <source>Created</source>
@@ -333,7 +333,7 @@
     </message>
     <message>
         <source>Choose shared folders to sync</source>
-        <translation type="unfinished">选择要同步的共享文件夹</translation>
+        <translation>选择要同步的共享文件夹</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -361,7 +361,7 @@
     </message>
     <message>
         <source>Excluded file extensions</source>
-        <translation type="unfinished">排除的文件扩展名</translation>
+        <translation>排除的文件扩展名</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -377,7 +377,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
-        <translation type="unfinished">同步文件夹所在的卷未挂载。请挂载该卷，然后恢复同步。</translation>
+        <translation>同步文件夹所在的驱动器未挂载。请挂载该驱动器，然后恢复同步。您可以在“同步任务”中查看该文件夹。</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is full.</source>
-        <translation type="unfinished">此计算机没有可用磁盘空间。</translation>
+        <translation>同步文件夹所在的驱动器已满。</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -401,7 +401,7 @@
     </message>
     <message>
         <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
-        <translation type="unfinished">已存在同名文件夹。要将其中的文件与服务器上的文件合并吗？</translation>
+        <translation>此计算机上已存在同名文件夹。要将其中的文件与服务器上的文件合并吗？</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
@@ -449,11 +449,11 @@
     </message>
     <message>
         <source>Files being synced: %1</source>
-        <translation type="unfinished">正在同步 %1 个文件…</translation>
+        <translation>正在同步的文件数：%1</translation>
     </message>
     <message>
         <source>Reconnect</source>
-        <translation type="unfinished">重新关联</translation>
+        <translation>重新连接</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -473,7 +473,7 @@
     </message>
     <message>
         <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
-        <translation type="unfinished">您取消勾选的文件夹和文件将从此计算机中移除，但会保留在服务器上。</translation>
+        <translation>您取消勾选的文件夹和文件将从此计算机中移除，但会保留在服务器上。</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
@@ -489,19 +489,19 @@
     </message>
     <message>
         <source>Disconnected</source>
-        <translation type="unfinished">非活动</translation>
+        <translation>已断开连接</translation>
     </message>
     <message>
         <source>You have used all of your space on the server.</source>
-        <translation type="unfinished">您在服务器上的配额已用尽。</translation>
+        <translation>您在服务器上的空间已全部用完。</translation>
     </message>
     <message>
         <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">要取消关联此连接吗？\n您的文件将保留在此计算机和服务器上，但不再同步。</translation>
+        <translation>要断开与服务器的连接吗？\n您的文件将保留在此计算机和服务器上，但不再同步。</translation>
     </message>
     <message>
         <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
-        <translation type="unfinished">中继服务出现问题。请稍后重试，或使用服务器的 IP 地址连接。</translation>
+        <translation>中继服务出现问题。请稍后重试，或使用 IP 地址连接到服务器。</translation>
     </message>
     <message>
         <source>Server ID</source>
@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>Excluded file names</source>
-        <translation type="unfinished">排除的文件名</translation>
+        <translation>排除的文件名</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -521,11 +521,11 @@
     </message>
     <message>
         <source>Turned on</source>
-        <translation type="unfinished">已启用</translation>
+        <translation>已开启</translation>
     </message>
     <message>
         <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
-        <translation type="unfinished">此计算机没有可用磁盘空间。请释放部分空间以继续同步。</translation>
+        <translation>同步文件夹所在的驱动器已满。请释放该驱动器上的部分空间以继续同步。</translation>
     </message>
     <message>
         <source>Folders to sync</source>
@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>Choose sync folder</source>
-        <translation type="unfinished">选择同步文件夹</translation>
+        <translation>选择同步文件夹</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -549,11 +549,11 @@
     </message>
     <message>
         <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
-        <translation type="unfinished">您在服务器上的配额已用尽。请删除不需要的文件，或联系服务器管理员增加配额。</translation>
+        <translation>您在服务器上的空间已全部用完。请删除不需要的文件，或联系服务器管理员增加空间。</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
-        <translation>启动 [ProductName] 后，您可以在系统托盘中找到它。</translation>
+        <translation>启动 [ProductName] 后，其图标会显示在系统托盘中。</translation>
     </message>
     <message>
         <source>&amp;Leave the applications open and restart the computer later</source>
@@ -565,11 +565,11 @@
     </message>
     <message>
         <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
-        <translation type="unfinished">此文件在两处被修改。请比较两个副本，然后保留需要的副本。</translation>
+        <translation>此文件在此计算机和服务器上都被修改过。两个副本以不同的名称保存在同一文件夹中。请比较两个副本，然后保留需要的副本。</translation>
     </message>
     <message>
         <source>All your files on every computer, kept on your own server</source>
-        <translation type="unfinished">通过您自己的服务器，让所有计算机上的文件汇集一处</translation>
+        <translation>所有文件保存在自己的服务器上，每台计算机随时可用</translation>
     </message>
     <message>
         <source>OK</source>
@@ -581,7 +581,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
-        <translation type="unfinished">以下应用程序正在使用安装程序需要更新的文件。请关闭这些应用程序并单击“重试”；或单击“忽略”，不关闭它们而继续；或单击“退出”以退出安装程序。</translation>
+        <translation>以下应用程序正在使用安装程序需要更新的文件。请关闭这些应用程序，然后单击“重试”。要在不关闭的情况下继续，请单击“忽略”。要退出安装程序，请单击“退出”。</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -597,7 +597,7 @@
     </message>
     <message>
         <source>Edit connection...</source>
-        <translation type="unfinished">编辑连接</translation>
+        <translation>编辑连接…</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
-        <translation>以下应用程序正在使用安装程序需要更新的文件。请选择是否由安装程序关闭它们。如果不关闭，则需要重新启动计算机才能完成安装。</translation>
+        <translation>以下应用程序正在使用安装程序需要更新的文件。请选择是否由安装程序关闭这些应用程序。如果不关闭，则需要重新启动计算机才能完成操作。</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the repair.</source>
@@ -625,7 +625,7 @@
     </message>
     <message>
         <source>Show icon overlays on excluded files</source>
-        <translation type="unfinished">在已过滤的文件上显示叠加图标</translation>
+        <translation>在已排除的文件上显示叠加图标</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -633,11 +633,11 @@
     </message>
     <message>
         <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
-        <translation type="unfinished">最多可以同步 %1 个共享文件夹。请先停止同步其中一个，然后再添加其他文件夹。</translation>
+        <translation>同步的共享文件夹数量已达上限：%1。请先停止同步一个共享文件夹，然后再添加其他共享文件夹。</translation>
     </message>
     <message>
         <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">要取消关联此同步任务吗？\n其文件将保留在此计算机和服务器上，但不再同步。</translation>
+        <translation>要移除此同步任务吗？\n其文件将保留在此计算机和服务器上，但不再同步。</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
@@ -645,11 +645,11 @@
     </message>
     <message>
         <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">无法升级 Quillmere。请重新启动计算机，然后重试。</translation>
+        <translation>无法升级 Quillmere。先前的版本已保留。请重新启动计算机，然后重试。详情请见“~/.Quillmere/log”。</translation>
     </message>
     <message>
         <source>Exclude names that begin with a dot</source>
-        <translation type="unfinished">排除以点开头的名称</translation>
+        <translation>排除以点开头的名称</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -673,7 +673,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup is complete</source>
-        <translation type="unfinished">{\VerdanaBold13}[ProductName] 安装向导已完成</translation>
+        <translation>{\VerdanaBold13}[ProductName] 安装程序已完成操作</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -709,19 +709,19 @@
     </message>
     <message>
         <source>Quillmere settings</source>
-        <translation type="unfinished">客户端选项</translation>
+        <translation>Quillmere 设置</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
-        <translation>无法删除此分享链接。请检查与服务器的连接，然后重试。</translation>
+        <translation>无法删除分享链接。请检查与服务器的连接，然后重试。</translation>
     </message>
     <message>
         <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
-        <translation type="unfinished">无法验证服务器的 SSL 证书。请联系服务器管理员检查证书。</translation>
+        <translation>无法验证服务器的证书：证书可能已过期、属于其他服务器，或由未知颁发者颁发。请联系服务器管理员检查证书。</translation>
     </message>
     <message>
         <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
-        <translation type="unfinished">此服务器不是该连接所关联的服务器。请检查服务器地址，或重新关联。</translation>
+        <translation>此服务器不是此计算机之前连接的服务器。请检查服务器地址，或重新连接。</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -741,7 +741,7 @@
     </message>
     <message>
         <source>Delete link</source>
-        <translation>删除链接</translation>
+        <translation>删除分享链接</translation>
     </message>
     <message>
         <source>Error</source>
@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>Connect to another server...</source>
-        <translation type="unfinished">关联其他服务器</translation>
+        <translation>连接到其他服务器…</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]Making changes to [ProductName]</source>
-        <translation type="unfinished">[DlgTitleFont]正在配置 [ProductName]</translation>
+        <translation>[DlgTitleFont]正在对 [ProductName] 进行更改</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -789,7 +789,7 @@
     </message>
     <message>
         <source>Files to exclude</source>
-        <translation type="unfinished">文件过滤</translation>
+        <translation>要排除的文件</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -801,7 +801,7 @@
     </message>
     <message>
         <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">出现错误。请重试；如果问题仍然存在，请联系服务器管理员。</translation>
+        <translation>出现错误。请重试；如果问题仍然存在，请联系服务器管理员。详情请见“~/.Quillmere/log”。</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -825,7 +825,7 @@
     </message>
     <message>
         <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
-        <translation type="unfinished">您未以管理员身份登录，Quillmere 可能无法完整安装。要继续吗？</translation>
+        <translation>您未以管理员身份登录，Quillmere 可能无法完整安装。要继续吗？</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
@@ -873,7 +873,7 @@
     </message>
     <message>
         <source>Choose another folder...</source>
-        <translation type="unfinished">选择其他文件夹</translation>
+        <translation>选择其他文件夹…</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -897,22 +897,22 @@
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">取消关联</translation>
+        <translation>移除</translation>
     </message>
     <message>
         <source>Another server was found at the server address.</source>
-        <translation type="unfinished">服务器地址指向了另一台服务器。</translation>
+        <translation>服务器地址指向了另一台服务器。</translation>
     </message>
     <message>
         <source>Connecting to the server...</source>
-        <translation type="unfinished">正在与服务器关联…</translation>
+        <translation>正在连接到服务器…</translation>
     </message>
     <message>
         <source>Port</source>
         <translation>端口</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Create share link</source>
         <translation>创建分享链接</translation>
     </message>
     <message>
@@ -929,7 +929,7 @@
     </message>
     <message>
         <source>Change folder...</source>
-        <translation type="unfinished">更改文件夹</translation>
+        <translation>更改文件夹…</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -945,7 +945,7 @@
     </message>
     <message>
         <source>File locked</source>
-        <translation type="unfinished">文件已锁定</translation>
+        <translation>文件已锁定</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -957,7 +957,7 @@
     </message>
     <message>
         <source>Syncing files...</source>
-        <translation type="unfinished">正在更新文件…</translation>
+        <translation>正在同步文件…</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -969,7 +969,7 @@
     </message>
     <message>
         <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
-        <translation type="unfinished">安装向导正在配置 [ProductName]，请稍候。这可能需要几分钟时间。</translation>
+        <translation>安装向导正在对 [ProductName] 进行更改，请稍候。这可能需要几分钟时间。</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1021,7 +1021,7 @@
     </message>
     <message>
         <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
-        <translation type="unfinished">找不到本地同步文件夹。请恢复该文件夹，或选择其他文件夹。</translation>
+        <translation>找不到本地同步文件夹。请恢复该文件夹，或选择其他文件夹。您可以在“同步任务”中查看其路径。</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
@@ -1029,15 +1029,15 @@
     </message>
     <message>
         <source>Add sync task...</source>
-        <translation type="unfinished">添加同步任务</translation>
+        <translation>添加同步任务…</translation>
     </message>
     <message>
         <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
-        <translation type="unfinished">共享文件夹未在服务器上挂载。请联系服务器管理员挂载该文件夹。</translation>
+        <translation>共享文件夹未在服务器上挂载。请联系服务器管理员挂载该文件夹。您可以在“共享文件夹”中查看其名称。</translation>
     </message>
     <message>
         <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">服务器返回了意外的响应。请升级客户端和服务器，然后重试。</translation>
+        <translation>服务器返回了意外的响应。请升级此计算机上的 Quillmere，并联系服务器管理员升级服务器上的 Quillmere。详情请见“~/.Quillmere/log”。</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1053,7 +1053,7 @@
     </message>
     <message>
         <source>Checking files...</source>
-        <translation type="unfinished">正在检查数据…</translation>
+        <translation>正在检查文件…</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
@@ -1065,7 +1065,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
-        <translation type="unfinished">{\VerdanaBold13}[ProductName] 安装程序被中断</translation>
+        <translation>{\VerdanaBold13}[ProductName] 安装程序的操作已取消</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1093,7 +1093,7 @@
     </message>
     <message>
         <source>This folder is already synced with another shared folder. Choose another folder.</source>
-        <translation type="unfinished">此文件夹已与另一个共享文件夹同步。请选择其他文件夹。</translation>
+        <translation>此文件夹已与另一个共享文件夹同步。请选择其他文件夹。</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1117,7 +1117,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup did not finish</source>
-        <translation>{\VerdanaBold13}[ProductName] 安装程序未能完成</translation>
+        <translation>{\VerdanaBold13}[ProductName] 安装程序未能完成操作</translation>
     </message>
     <message>
         <source>Quillmere is already running.</source>
@@ -1133,7 +1133,7 @@
     </message>
     <message>
         <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
-        <translation type="unfinished">两个文件夹中的所有文件都会保留。如果同一文件的两个版本不同，则两个版本都会保留。</translation>
+        <translation>两个文件夹中的所有文件都会保留。如果同一文件的两个版本不同，则两个版本都会以不同的名称保留。</translation>
     </message>
     <message>
         <source>Repair the installation</source>
@@ -1141,15 +1141,15 @@
     </message>
     <message>
         <source>Syncing turned on</source>
-        <translation type="unfinished">已启用同步</translation>
+        <translation>同步已开启</translation>
     </message>
     <message>
         <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Quillmere 无法启动。请重新启动计算机，然后再次启动 Quillmere。</translation>
+        <translation>Quillmere 无法启动。请重新启动计算机，然后再次启动 Quillmere。详情请见“~/.Quillmere/log”。</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
-        <translation type="unfinished">要取消并退出 [ProductName] 安装程序吗？</translation>
+        <source>Cancel [ProductName] setup?</source>
+        <translation>要取消 [ProductName] 安装程序的操作吗？</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1173,7 +1173,7 @@
     </message>
     <message>
         <source>Browse versions...</source>
-        <translation type="unfinished">浏览历史版本</translation>
+        <translation>浏览历史版本…</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
@@ -1181,7 +1181,7 @@
     </message>
     <message>
         <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
-        <translation type="unfinished">此连接处于非活动状态。请重新关联以继续同步。</translation>
+        <translation>此计算机已断开与服务器的连接。请重新连接以继续同步。</translation>
     </message>
     <message>
         <source>Detecting...</source>
@@ -1189,11 +1189,11 @@
     </message>
     <message>
         <source>Certificate warning</source>
-        <translation type="unfinished">SSL 警告</translation>
+        <translation>证书警告</translation>
     </message>
     <message>
         <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
-        <translation type="unfinished">无法连接到中继服务。请检查互联网连接，然后重试。</translation>
+        <translation>无法连接到中继服务。请检查互联网连接，然后重试。</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
@@ -1213,7 +1213,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]You canceled setup, and your computer was not changed.</source>
-        <translation>[DlgTitleFont]您已取消操作，计算机未做任何更改。</translation>
+        <translation>[DlgTitleFont]您已取消安装程序的操作，计算机未发生任何更改。</translation>
     </message>
     <message>
         <source>The port number is not valid. Enter a number from 1 to 65535.</source>
@@ -1233,23 +1233,23 @@
     </message>
     <message>
         <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
-        <translation type="unfinished">此文件夹所在的服务器卷未挂载。请联系服务器管理员挂载该卷。</translation>
+        <translation>服务器上此文件夹所在的驱动器未挂载。请联系服务器管理员挂载该驱动器。您可以在“同步任务”中查看该文件夹。</translation>
     </message>
     <message>
         <source>This version of Quillmere is already installed. Install it again?</source>
-        <translation type="unfinished">此版本的 Quillmere 已安装。要重新安装吗？</translation>
+        <translation>此版本的 Quillmere 已安装。要重新安装吗？</translation>
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
-        <translation type="unfinished">此客户端版本过旧，与服务器不兼容。请升级客户端，然后重试。</translation>
+        <translation>此计算机上的 Quillmere 版本过旧，无法与服务器配合使用。请升级 Quillmere，然后重试。</translation>
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer.</source>
-        <translation type="unfinished">服务器版本过旧，与此客户端不兼容。</translation>
+        <translation>服务器上的 Quillmere 版本过旧，无法与此计算机配合使用。</translation>
     </message>
     <message>
         <source>Turned off</source>
-        <translation type="unfinished">已禁用</translation>
+        <translation>已关闭</translation>
     </message>
 </context>
 </TS>

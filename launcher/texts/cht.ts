@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>Exit</source>
-        <translation>結束</translation>
+        <translation>離開</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the installation.</source>
@@ -41,11 +41,11 @@
     </message>
     <message>
         <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">本機資料庫已損毀。請取消連結此連線，然後重新連結以重建資料庫。</translation>
+        <translation>本機資料庫已損毀。請與伺服器斷線，然後重新連線以重建資料庫。詳細資料請見「~/.Quillmere/log」。</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
-        <translation>關閉應用程式，並在安裝完成後重新啟動(&amp;C)</translation>
+        <translation>關閉應用程式，並在作業完成後重新啟動(&amp;C)</translation>
     </message>
     <message>
         <source>The folder is a mount point. Choose a folder that is not a mount point.</source>
@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>The server has been replaced. Click here to reconnect.</source>
-        <translation type="unfinished">伺服器已更換。按一下這裡重新連結。</translation>
+        <translation>伺服器已更換。按一下這裡重新連線。</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -65,11 +65,11 @@
     </message>
     <message>
         <source>The Setup Wizard lets you change, repair, or remove [ProductName]. Click Next to continue, or click Cancel to exit the Setup Wizard.</source>
-        <translation>安裝精靈可讓您變更、修復或移除 [ProductName]。按一下「下一步」繼續，或按一下「取消」結束安裝精靈。</translation>
+        <translation>安裝精靈可讓您變更、修復或移除 [ProductName]。按一下「下一步」繼續，或按一下「取消」離開安裝精靈。</translation>
     </message>
     <message>
         <source>Exclusion list</source>
-        <translation type="unfinished">排除清單</translation>
+        <translation>排除清單</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server.</source>
-        <translation type="unfinished">此用戶端版本過舊，無法搭配伺服器使用。</translation>
+        <translation>這台電腦上的 Quillmere 版本過舊，無法與伺服器搭配使用。</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
-        <translation type="unfinished">伺服器的 SSL 憑證不受信任，因此其他人可能得以讀取您傳送的資料。要繼續嗎？</translation>
+        <translation>伺服器的憑證不受信任：憑證可能已過期、屬於其他伺服器，或是由不明的簽發者簽發。其他人可能會讀取您傳送的資料。要繼續嗎？</translation>
     </message>
     <message>
         <source>New shared folder</source>
@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>About Quillmere</source>
-        <translation type="unfinished">關於</translation>
+        <translation>關於 Quillmere</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
-        <translation type="unfinished">這台電腦已連結到此伺服器。請編輯現有連線，或輸入其他伺服器。</translation>
+        <translation>這台電腦已連線到此伺服器。請編輯現有連線，或輸入其他伺服器。</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -133,11 +133,11 @@
     </message>
     <message>
         <source>The certificate of the server could not be verified.</source>
-        <translation type="unfinished">無法驗證伺服器的 SSL 憑證。</translation>
+        <translation>無法驗證伺服器的憑證。</translation>
     </message>
     <message>
         <source>Use a black-and-white tray icon</source>
-        <translation type="unfinished">使用黑白系統匣圖示</translation>
+        <translation>使用黑白系統匣圖示</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -153,7 +153,7 @@
     </message>
     <message>
         <source>Excluded files</source>
-        <translation type="unfinished">排除的檔案</translation>
+        <translation>排除的檔案</translation>
     </message>
     <message>
         <source>No permission</source>
@@ -161,11 +161,11 @@
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
-        <translation type="unfinished">伺服器版本過舊，無法搭配此用戶端使用。請聯絡伺服器管理員升級伺服器。</translation>
+        <translation>伺服器上的 Quillmere 版本過舊，無法與這台電腦搭配使用。請聯絡伺服器管理員升級伺服器上的 Quillmere。</translation>
     </message>
     <message>
         <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
-        <translation type="unfinished">若要重試，請稍後再次執行安裝程式。按一下「完成」結束安裝精靈。</translation>
+        <translation>您可以隨時再次執行安裝程式。按一下「完成」離開安裝精靈。</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -177,11 +177,11 @@
     </message>
     <message>
         <source>Click Repair to repair the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
-        <translation>按一下「修復」來修復 [ProductName] 的安裝。按一下「上一步」檢視您的選擇，或按一下「取消」結束安裝精靈。</translation>
+        <translation>按一下「修復」來修復 [ProductName] 的安裝。按一下「返回」檢視您的選擇，或按一下「取消」離開安裝精靈。</translation>
     </message>
     <message>
         <source>Some settings have not been saved. Save them?</source>
-        <translation type="unfinished">部分設定尚未儲存。要儲存嗎？</translation>
+        <translation>部分設定尚未儲存。要儲存嗎？</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -193,7 +193,7 @@
     </message>
     <message>
         <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
-        <translation type="unfinished">此資料夾已由其他同步程式使用。請選擇其他資料夾以避免衝突。</translation>
+        <translation>此資料夾已被其他同步程式使用。請選擇其他資料夾以避免衝突。</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -205,15 +205,15 @@
     </message>
     <message>
         <source>Change sync folder</source>
-        <translation type="unfinished">變更同步資料夾</translation>
+        <translation>變更同步資料夾</translation>
     </message>
     <message>
         <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
-        <translation type="unfinished">請輸入完整的檔案名稱，不含資料夾路徑。</translation>
+        <translation>請輸入不含資料夾路徑的完整檔案名稱，例如 thumbs.db。</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
-        <translation type="unfinished">[DlgTitleFont]安裝程式因發生錯誤而停止，所做的變更已復原。</translation>
+        <translation>[DlgTitleFont]安裝程式因發生錯誤而停止。安裝程式所做的變更已復原。</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -221,7 +221,7 @@
     </message>
     <message>
         <source>The Setup Wizard will install [ProductName] on your computer. Click Next to continue, or click Cancel to exit the Setup Wizard.</source>
-        <translation>安裝精靈將在您的電腦上安裝 [ProductName]。按一下「下一步」繼續，或按一下「取消」結束安裝精靈。</translation>
+        <translation>安裝精靈將在您的電腦上安裝 [ProductName]。按一下「下一步」繼續，或按一下「取消」離開安裝精靈。</translation>
     </message>
     <message>
         <source>Sync problem</source>
@@ -241,7 +241,7 @@
     </message>
     <message>
         <source>Use an encrypted connection (TLS)</source>
-        <translation type="unfinished">使用 SSL 加密資料傳輸</translation>
+        <translation>使用加密連線（TLS）</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -277,11 +277,11 @@
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished">取消連結</translation>
+        <translation>斷線</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation>上一步</translation>
+        <translation>返回</translation>
     </message>
     <message>
         <source>Quillmere is initializing...</source>
@@ -317,7 +317,7 @@
     </message>
     <message>
         <source>Files excluded from syncing</source>
-        <translation type="unfinished">不同步的檔案</translation>
+        <translation>排除在同步之外的檔案</translation>
     </message>
     <message>
         <source>Created</source>
@@ -333,7 +333,7 @@
     </message>
     <message>
         <source>Choose shared folders to sync</source>
-        <translation type="unfinished">選擇要同步的共用資料夾</translation>
+        <translation>選擇要同步的共用資料夾</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -361,7 +361,7 @@
     </message>
     <message>
         <source>Excluded file extensions</source>
-        <translation type="unfinished">排除的副檔名</translation>
+        <translation>排除的副檔名</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -377,7 +377,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
-        <translation type="unfinished">同步資料夾所在的磁碟區未掛載。請掛載該磁碟區，然後繼續同步。</translation>
+        <translation>同步資料夾所在的磁碟機未掛載。請掛載該磁碟機，然後繼續同步。您可以在「同步工作」中查看該資料夾。</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is full.</source>
-        <translation type="unfinished">這台電腦已沒有可用的磁碟空間。</translation>
+        <translation>同步資料夾所在的磁碟機已滿。</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -397,11 +397,11 @@
     </message>
     <message>
         <source>&amp;Ignore</source>
-        <translation>略過(&amp;I)</translation>
+        <translation>忽略(&amp;I)</translation>
     </message>
     <message>
         <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
-        <translation type="unfinished">已有同名的資料夾。要將其中的檔案與伺服器上的檔案合併嗎？</translation>
+        <translation>這台電腦上已有同名的資料夾。要將其中的檔案與伺服器上的檔案合併嗎？</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
@@ -449,11 +449,11 @@
     </message>
     <message>
         <source>Files being synced: %1</source>
-        <translation type="unfinished">正在同步 %1 個檔案…</translation>
+        <translation>正在同步的檔案數：%1</translation>
     </message>
     <message>
         <source>Reconnect</source>
-        <translation type="unfinished">重新連結</translation>
+        <translation>重新連線</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -473,15 +473,15 @@
     </message>
     <message>
         <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
-        <translation type="unfinished">您取消勾選的資料夾和檔案將從這台電腦移除，但會保留在伺服器上。</translation>
+        <translation>您取消勾選的資料夾和檔案將從這台電腦移除，但會保留在伺服器上。</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
-        <translation>安裝程式已完成您選擇的所有變更。按一下「完成」結束安裝精靈。</translation>
+        <translation>安裝程式已完成您選擇的所有變更。按一下「完成」離開安裝精靈。</translation>
     </message>
     <message>
         <source>Click Remove to remove [ProductName] from your computer. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
-        <translation>按一下「移除」，從您的電腦移除 [ProductName]。按一下「上一步」檢視您的選擇，或按一下「取消」結束安裝精靈。</translation>
+        <translation>按一下「移除」，從您的電腦移除 [ProductName]。按一下「返回」檢視您的選擇，或按一下「取消」離開安裝精靈。</translation>
     </message>
     <message>
         <source>No space left</source>
@@ -489,19 +489,19 @@
     </message>
     <message>
         <source>Disconnected</source>
-        <translation type="unfinished">非作用中</translation>
+        <translation>已斷線</translation>
     </message>
     <message>
         <source>You have used all of your space on the server.</source>
-        <translation type="unfinished">您在伺服器上的配額已用完。</translation>
+        <translation>您在伺服器上的空間已全部用完。</translation>
     </message>
     <message>
         <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">要取消連結此連線嗎？\n您的檔案會保留在這台電腦和伺服器上，但不會再同步。</translation>
+        <translation>要與伺服器斷線嗎？\n您的檔案會保留在這台電腦和伺服器上，但不會再同步。</translation>
     </message>
     <message>
         <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
-        <translation type="unfinished">中繼服務發生問題。請稍後再試，或改用伺服器的 IP 位址連線。</translation>
+        <translation>中繼服務發生問題。請稍後再試，或改用 IP 位址連線到伺服器。</translation>
     </message>
     <message>
         <source>Server ID</source>
@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>Excluded file names</source>
-        <translation type="unfinished">排除的檔案名稱</translation>
+        <translation>排除的檔案名稱</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -521,11 +521,11 @@
     </message>
     <message>
         <source>Turned on</source>
-        <translation type="unfinished">已啟用</translation>
+        <translation>已開啟</translation>
     </message>
     <message>
         <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
-        <translation type="unfinished">這台電腦已沒有可用的磁碟空間。請釋出一些空間以繼續同步。</translation>
+        <translation>同步資料夾所在的磁碟機已滿。請釋出該磁碟機上的一些空間以繼續同步。</translation>
     </message>
     <message>
         <source>Folders to sync</source>
@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>Choose sync folder</source>
-        <translation type="unfinished">選擇同步資料夾</translation>
+        <translation>選擇同步資料夾</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -549,11 +549,11 @@
     </message>
     <message>
         <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
-        <translation type="unfinished">您在伺服器上的配額已用完。請刪除不需要的檔案，或請伺服器管理員提高配額。</translation>
+        <translation>您在伺服器上的空間已全部用完。請刪除不需要的檔案，或請伺服器管理員增加空間。</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
-        <translation>啟動 [ProductName] 後，您可以在系統匣中找到它。</translation>
+        <translation>啟動 [ProductName] 後，其圖示會顯示在系統匣中。</translation>
     </message>
     <message>
         <source>&amp;Leave the applications open and restart the computer later</source>
@@ -565,11 +565,11 @@
     </message>
     <message>
         <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
-        <translation type="unfinished">此檔案在兩個地方都有修改。請比較兩份複本，然後保留您需要的那一份。</translation>
+        <translation>此檔案在這台電腦和伺服器上都經過修改。兩份複本以不同的名稱存放在同一個資料夾中。請比較兩份複本，然後保留您需要的那一份。</translation>
     </message>
     <message>
         <source>All your files on every computer, kept on your own server</source>
-        <translation type="unfinished">透過您自己的伺服器，讓每台電腦上的檔案匯集一處</translation>
+        <translation>所有檔案存放在自己的伺服器上，每台電腦隨時可用</translation>
     </message>
     <message>
         <source>OK</source>
@@ -581,7 +581,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
-        <translation type="unfinished">下列應用程式正在使用安裝程式需要更新的檔案。請關閉這些應用程式並按一下「重試」；或按一下「略過」，不關閉它們並繼續；或按一下「結束」離開安裝程式。</translation>
+        <translation>下列應用程式正在使用安裝程式需要更新的檔案。請關閉這些應用程式，然後按一下「重試」。若要在不關閉的情況下繼續，請按一下「忽略」。若要離開安裝程式，請按一下「離開」。</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -597,7 +597,7 @@
     </message>
     <message>
         <source>Edit connection...</source>
-        <translation type="unfinished">編輯連線</translation>
+        <translation>編輯連線…</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
-        <translation>下列應用程式正在使用安裝程式需要更新的檔案。請選擇是否由安裝程式關閉它們。如果讓它們保持開啟，您必須重新開機才能完成安裝。</translation>
+        <translation>下列應用程式正在使用安裝程式需要更新的檔案。請選擇是否由安裝程式關閉這些應用程式。若保持開啟，則必須重新開機才能完成作業。</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the repair.</source>
@@ -625,7 +625,7 @@
     </message>
     <message>
         <source>Show icon overlays on excluded files</source>
-        <translation type="unfinished">在已濾除的檔案上顯示覆疊圖示</translation>
+        <translation>在已排除的檔案上顯示覆疊圖示</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -633,11 +633,11 @@
     </message>
     <message>
         <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
-        <translation type="unfinished">最多只能同步 %1 個共用資料夾。請先停止同步其中一個，再新增其他資料夾。</translation>
+        <translation>同步的共用資料夾數量已達上限：%1。請先停止同步一個共用資料夾，再新增其他共用資料夾。</translation>
     </message>
     <message>
         <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">要取消連結此同步工作嗎？\n其檔案會保留在這台電腦和伺服器上，但不會再同步。</translation>
+        <translation>要移除此同步工作嗎？\n其檔案會保留在這台電腦和伺服器上，但不會再同步。</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
@@ -645,11 +645,11 @@
     </message>
     <message>
         <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">無法升級 Quillmere。請重新開機，然後再試一次。</translation>
+        <translation>無法升級 Quillmere。先前的版本已保留。請重新開機，然後再試一次。詳細資料請見「~/.Quillmere/log」。</translation>
     </message>
     <message>
         <source>Exclude names that begin with a dot</source>
-        <translation type="unfinished">排除以點開頭的名稱</translation>
+        <translation>排除以點開頭的名稱</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -673,7 +673,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup is complete</source>
-        <translation type="unfinished">{\VerdanaBold13}[ProductName] 安裝精靈已完成</translation>
+        <translation>{\VerdanaBold13}[ProductName] 安裝程式已完成作業</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -709,7 +709,7 @@
     </message>
     <message>
         <source>Quillmere settings</source>
-        <translation type="unfinished">用戶端選項</translation>
+        <translation>Quillmere 設定</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
@@ -717,11 +717,11 @@
     </message>
     <message>
         <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
-        <translation type="unfinished">無法驗證伺服器的 SSL 憑證。請聯絡伺服器管理員檢查憑證。</translation>
+        <translation>無法驗證伺服器的憑證：憑證可能已過期、屬於其他伺服器，或是由不明的簽發者簽發。請聯絡伺服器管理員檢查憑證。</translation>
     </message>
     <message>
         <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
-        <translation type="unfinished">這不是此連線原本連結的伺服器。請檢查伺服器位址，或重新連結。</translation>
+        <translation>這不是這台電腦先前連線的伺服器。請檢查伺服器位址，或重新連線。</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>Connect to another server...</source>
-        <translation type="unfinished">連結到其他伺服器</translation>
+        <translation>連線到其他伺服器…</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]Making changes to [ProductName]</source>
-        <translation type="unfinished">[DlgTitleFont]正在設定 [ProductName]</translation>
+        <translation>[DlgTitleFont]正在對 [ProductName] 進行變更</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -789,7 +789,7 @@
     </message>
     <message>
         <source>Files to exclude</source>
-        <translation type="unfinished">檔案篩選</translation>
+        <translation>要排除的檔案</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -801,7 +801,7 @@
     </message>
     <message>
         <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">發生錯誤。請再試一次；如果問題持續發生，請聯絡伺服器管理員。</translation>
+        <translation>發生錯誤。請再試一次；如果問題持續發生，請聯絡伺服器管理員。詳細資料請見「~/.Quillmere/log」。</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -817,7 +817,7 @@
     </message>
     <message>
         <source>&amp;Back</source>
-        <translation>上一步(&amp;B)</translation>
+        <translation>返回(&amp;B)</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -825,7 +825,7 @@
     </message>
     <message>
         <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
-        <translation type="unfinished">您並非以系統管理員身分登入，Quillmere 可能無法完整安裝。要繼續嗎？</translation>
+        <translation>您並非以系統管理員身分登入，Quillmere 可能無法完整安裝。要繼續嗎？</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
@@ -873,7 +873,7 @@
     </message>
     <message>
         <source>Choose another folder...</source>
-        <translation type="unfinished">選擇其他資料夾</translation>
+        <translation>選擇其他資料夾…</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -897,27 +897,27 @@
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">取消連結</translation>
+        <translation>移除</translation>
     </message>
     <message>
         <source>Another server was found at the server address.</source>
-        <translation type="unfinished">此伺服器位址上的是另一台伺服器。</translation>
+        <translation>此伺服器位址上的是另一台伺服器。</translation>
     </message>
     <message>
         <source>Connecting to the server...</source>
-        <translation type="unfinished">正在連結到伺服器…</translation>
+        <translation>正在連線到伺服器…</translation>
     </message>
     <message>
         <source>Port</source>
         <translation>連接埠</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Create share link</source>
         <translation>建立分享連結</translation>
     </message>
     <message>
         <source>The user name or password was not accepted by the server. Edit the connection and enter them again.</source>
-        <translation>伺服器不接受此使用者名稱或密碼。請編輯連線並重新輸入。</translation>
+        <translation>伺服器不接受此使用者名稱或密碼。請編輯連線，重新輸入使用者名稱和密碼。</translation>
     </message>
     <message>
         <source>Recently updated files</source>
@@ -929,7 +929,7 @@
     </message>
     <message>
         <source>Change folder...</source>
-        <translation type="unfinished">變更資料夾</translation>
+        <translation>變更資料夾…</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -945,7 +945,7 @@
     </message>
     <message>
         <source>File locked</source>
-        <translation type="unfinished">檔案已鎖定</translation>
+        <translation>檔案已鎖定</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -957,7 +957,7 @@
     </message>
     <message>
         <source>Syncing files...</source>
-        <translation type="unfinished">正在更新檔案…</translation>
+        <translation>正在同步檔案…</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -969,7 +969,7 @@
     </message>
     <message>
         <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
-        <translation type="unfinished">安裝精靈正在設定 [ProductName]，請稍候。這可能需要幾分鐘的時間。</translation>
+        <translation>安裝精靈正在對 [ProductName] 進行變更，請稍候。這可能需要幾分鐘的時間。</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -993,7 +993,7 @@
     </message>
     <message>
         <source>Syncing could not be turned on for this shared folder. Check your permissions on the server, then try again.</source>
-        <translation>無法啟用此共用資料夾的同步。請檢查您在伺服器上的權限，然後再試一次。</translation>
+        <translation>無法為此共用資料夾開啟同步。請檢查您在伺服器上的權限，然後再試一次。</translation>
     </message>
     <message>
         <source>File sharing over the relay is turned off on the server. Ask the server administrator to turn it on.</source>
@@ -1013,7 +1013,7 @@
     </message>
     <message>
         <source>E&amp;xit</source>
-        <translation>結束(&amp;X)</translation>
+        <translation>離開(&amp;X)</translation>
     </message>
     <message>
         <source>The share link was copied to the clipboard.</source>
@@ -1021,7 +1021,7 @@
     </message>
     <message>
         <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
-        <translation type="unfinished">找不到本機同步資料夾。請還原該資料夾，或選擇其他資料夾。</translation>
+        <translation>找不到本機同步資料夾。請還原該資料夾，或選擇其他資料夾。您可以在「同步工作」中查看其路徑。</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
@@ -1029,15 +1029,15 @@
     </message>
     <message>
         <source>Add sync task...</source>
-        <translation type="unfinished">新增同步工作</translation>
+        <translation>新增同步工作…</translation>
     </message>
     <message>
         <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
-        <translation type="unfinished">此共用資料夾未在伺服器上掛載。請聯絡伺服器管理員掛載該資料夾。</translation>
+        <translation>此共用資料夾未在伺服器上掛載。請聯絡伺服器管理員掛載該資料夾。您可以在「共用資料夾」中查看其名稱。</translation>
     </message>
     <message>
         <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">伺服器傳回非預期的回應。請升級用戶端和伺服器，然後再試一次。</translation>
+        <translation>伺服器傳回非預期的回應。請升級這台電腦上的 Quillmere，並聯絡伺服器管理員升級伺服器上的 Quillmere。詳細資料請見「~/.Quillmere/log」。</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1053,7 +1053,7 @@
     </message>
     <message>
         <source>Checking files...</source>
-        <translation type="unfinished">正在檢查資料…</translation>
+        <translation>正在檢查檔案…</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
@@ -1061,11 +1061,11 @@
     </message>
     <message>
         <source>Click Install to begin the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
-        <translation>按一下「安裝」開始安裝 [ProductName]。按一下「上一步」檢視您的選擇，或按一下「取消」結束安裝精靈。</translation>
+        <translation>按一下「安裝」開始安裝 [ProductName]。按一下「返回」檢視您的選擇，或按一下「取消」離開安裝精靈。</translation>
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
-        <translation type="unfinished">{\VerdanaBold13}[ProductName] 安裝程式已中斷</translation>
+        <translation>{\VerdanaBold13}[ProductName] 安裝程式的作業已取消</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1093,7 +1093,7 @@
     </message>
     <message>
         <source>This folder is already synced with another shared folder. Choose another folder.</source>
-        <translation type="unfinished">此資料夾已與另一個共用資料夾同步。請選擇其他資料夾。</translation>
+        <translation>此資料夾已與另一個共用資料夾同步。請選擇其他資料夾。</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1117,7 +1117,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup did not finish</source>
-        <translation>{\VerdanaBold13}[ProductName] 安裝程式未能完成</translation>
+        <translation>{\VerdanaBold13}[ProductName] 安裝程式未能完成作業</translation>
     </message>
     <message>
         <source>Quillmere is already running.</source>
@@ -1133,7 +1133,7 @@
     </message>
     <message>
         <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
-        <translation type="unfinished">兩個資料夾中的所有檔案都會保留。如果同一個檔案的兩個版本不同，兩個版本都會保留。</translation>
+        <translation>兩個資料夾中的所有檔案都會保留。如果同一個檔案的兩個版本不同，兩個版本都會以不同的名稱保留。</translation>
     </message>
     <message>
         <source>Repair the installation</source>
@@ -1141,15 +1141,15 @@
     </message>
     <message>
         <source>Syncing turned on</source>
-        <translation type="unfinished">已啟用同步</translation>
+        <translation>同步已開啟</translation>
     </message>
     <message>
         <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Quillmere 無法啟動。請重新開機，然後再次啟動 Quillmere。</translation>
+        <translation>Quillmere 無法啟動。請重新開機，然後再次啟動 Quillmere。詳細資料請見「~/.Quillmere/log」。</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
-        <translation type="unfinished">要取消並結束 [ProductName] 安裝程式嗎？</translation>
+        <source>Cancel [ProductName] setup?</source>
+        <translation>要取消 [ProductName] 安裝程式的作業嗎？</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1173,7 +1173,7 @@
     </message>
     <message>
         <source>Browse versions...</source>
-        <translation type="unfinished">瀏覽先前版本</translation>
+        <translation>瀏覽先前版本…</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
@@ -1181,7 +1181,7 @@
     </message>
     <message>
         <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
-        <translation type="unfinished">此連線目前處於非作用中狀態。請重新連結以繼續同步。</translation>
+        <translation>這台電腦已與伺服器斷線。請重新連線以繼續同步。</translation>
     </message>
     <message>
         <source>Detecting...</source>
@@ -1189,11 +1189,11 @@
     </message>
     <message>
         <source>Certificate warning</source>
-        <translation type="unfinished">SSL 警告</translation>
+        <translation>憑證警告</translation>
     </message>
     <message>
         <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
-        <translation type="unfinished">無法連線到中繼服務。請檢查網際網路連線，然後再試一次。</translation>
+        <translation>無法連線到中繼服務。請檢查網際網路連線，然後再試一次。</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
@@ -1213,7 +1213,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]You canceled setup, and your computer was not changed.</source>
-        <translation>[DlgTitleFont]您已取消作業，電腦未做任何變更。</translation>
+        <translation>[DlgTitleFont]您已取消安裝程式的作業，電腦沒有任何變更。</translation>
     </message>
     <message>
         <source>The port number is not valid. Enter a number from 1 to 65535.</source>
@@ -1233,23 +1233,23 @@
     </message>
     <message>
         <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
-        <translation type="unfinished">此資料夾所在的伺服器磁碟區未掛載。請聯絡伺服器管理員掛載該磁碟區。</translation>
+        <translation>伺服器上此資料夾所在的磁碟機未掛載。請聯絡伺服器管理員掛載該磁碟機。您可以在「同步工作」中查看該資料夾。</translation>
     </message>
     <message>
         <source>This version of Quillmere is already installed. Install it again?</source>
-        <translation type="unfinished">此版本的 Quillmere 已安裝。要重新安裝嗎？</translation>
+        <translation>此版本的 Quillmere 已安裝。要重新安裝嗎？</translation>
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
-        <translation type="unfinished">此用戶端版本過舊，無法搭配伺服器使用。請升級用戶端，然後再試一次。</translation>
+        <translation>這台電腦上的 Quillmere 版本過舊，無法與伺服器搭配使用。請升級 Quillmere，然後再試一次。</translation>
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer.</source>
-        <translation type="unfinished">伺服器版本過舊，無法搭配此用戶端使用。</translation>
+        <translation>伺服器上的 Quillmere 版本過舊，無法與這台電腦搭配使用。</translation>
     </message>
     <message>
         <source>Turned off</source>
-        <translation type="unfinished">已停用</translation>
+        <translation>已關閉</translation>
     </message>
 </context>
 </TS>

@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>Processing...</source>
-        <translation>Zpracování…</translation>
+        <translation>Zpracování...</translation>
     </message>
     <message>
         <source>Exit</source>
@@ -41,11 +41,11 @@
     </message>
     <message>
         <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Místní databáze je poškozená. Zrušte propojení se serverem a poté připojení znovu propojte, aby se databáze vytvořila znovu.</translation>
+        <translation>Místní databáze je poškozená. Chcete-li databázi znovu vytvořit, odpojte se od serveru a poté se k němu znovu připojte. Podrobnosti najdete v ~/.Quillmere/log.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
-        <translation>&amp;Zavřít aplikace a po instalaci je znovu spustit</translation>
+        <translation>&amp;Zavřít aplikace a po provedení změn je znovu spustit</translation>
     </message>
     <message>
         <source>The folder is a mount point. Choose a folder that is not a mount point.</source>
@@ -53,11 +53,11 @@
     </message>
     <message>
         <source>[DlgTitleFont]Ready to remove [ProductName]</source>
-        <translation>[DlgTitleFont]Připraveno k odebrání programu [ProductName]</translation>
+        <translation>[DlgTitleFont]Připraveno k odstranění programu [ProductName]</translation>
     </message>
     <message>
         <source>The server has been replaced. Click here to reconnect.</source>
-        <translation type="unfinished">Server byl vyměněn. Kliknutím sem připojení znovu propojíte.</translation>
+        <translation>Server byl vyměněn. Kliknutím sem se znovu připojíte.</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -65,23 +65,23 @@
     </message>
     <message>
         <source>The Setup Wizard lets you change, repair, or remove [ProductName]. Click Next to continue, or click Cancel to exit the Setup Wizard.</source>
-        <translation>Průvodce instalací umožňuje změnit, opravit nebo odebrat program [ProductName]. Pokračujte kliknutím na tlačítko „Další“, nebo průvodce instalací ukončete tlačítkem „Zrušit“.</translation>
+        <translation>Průvodce instalací umožňuje změnit, opravit nebo odstranit program [ProductName]. Pokračujte kliknutím na tlačítko „Další“, nebo průvodce instalací ukončete tlačítkem „Zrušit“.</translation>
     </message>
     <message>
         <source>Exclusion list</source>
-        <translation type="unfinished">Seznam vyloučení</translation>
+        <translation>Seznam vyloučení</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
-        <translation>Odstranit tento odkaz ke sdílení?\nLidé, kteří odkaz mají, už nebudou moci soubor otevřít.</translation>
+        <translation>Smazat tento odkaz ke sdílení?\nLidé, kteří odkaz mají, už nebudou moci soubor otevřít.</translation>
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server.</source>
-        <translation type="unfinished">Verze tohoto klienta je pro server příliš stará.</translation>
+        <translation>Program Quillmere v tomto počítači je pro práci se serverem příliš starý.</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
-        <translation>Instalace programu [ProductName]</translation>
+        <translation>Průvodce instalací programu [ProductName]</translation>
     </message>
     <message>
         <source>Sign-in failed</source>
@@ -93,11 +93,11 @@
     </message>
     <message>
         <source>Testing the connection...</source>
-        <translation>Testování připojení…</translation>
+        <translation>Testování připojení...</translation>
     </message>
     <message>
         <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
-        <translation type="unfinished">Certifikát SSL serveru není důvěryhodný, takže odesílaná data mohou číst i jiné osoby. Chcete pokračovat?</translation>
+        <translation>Certifikát serveru není důvěryhodný: mohla vypršet jeho platnost, může patřit jinému serveru nebo pocházet od neznámého vydavatele. Odesílaná data mohou číst i jiné osoby. Pokračovat?</translation>
     </message>
     <message>
         <source>New shared folder</source>
@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>About Quillmere</source>
-        <translation type="unfinished">O programu</translation>
+        <translation>O programu Quillmere</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
@@ -117,11 +117,11 @@
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the removal.</source>
-        <translation>Průvodce instalací je připraven zahájit odebrání.</translation>
+        <translation>Průvodce instalací je připraven zahájit odstranění.</translation>
     </message>
     <message>
         <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
-        <translation type="unfinished">Tento počítač už je s tímto serverem propojen. Upravte stávající připojení nebo zadejte jiný server.</translation>
+        <translation>Tento počítač už je k tomuto serveru připojen. Upravte stávající připojení nebo zadejte jiný server.</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -133,11 +133,11 @@
     </message>
     <message>
         <source>The certificate of the server could not be verified.</source>
-        <translation type="unfinished">Certifikát SSL serveru se nepodařilo ověřit.</translation>
+        <translation>Certifikát serveru se nepodařilo ověřit.</translation>
     </message>
     <message>
         <source>Use a black-and-white tray icon</source>
-        <translation type="unfinished">Používat černobílou ikonu v oznamovací oblasti</translation>
+        <translation>Používat černobílou ikonu v oznamovací oblasti</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -153,7 +153,7 @@
     </message>
     <message>
         <source>Excluded files</source>
-        <translation type="unfinished">Vyloučené soubory</translation>
+        <translation>Vyloučené soubory</translation>
     </message>
     <message>
         <source>No permission</source>
@@ -161,11 +161,11 @@
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
-        <translation type="unfinished">Verze serveru je pro tohoto klienta příliš stará. Požádejte správce serveru o jeho upgrade.</translation>
+        <translation>Program Quillmere na serveru je pro práci s tímto počítačem příliš starý. Požádejte správce serveru o aktualizaci programu.</translation>
     </message>
     <message>
         <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
-        <translation type="unfinished">Chcete-li to zkusit znovu, spusťte instalaci později. Průvodce instalací ukončíte kliknutím na tlačítko „Dokončit“.</translation>
+        <translation>Instalační program můžete kdykoli spustit znovu. Průvodce instalací ukončíte kliknutím na tlačítko „Dokončit“.</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>A newer version of Quillmere is already installed. To install this version, remove the newer one first.</source>
-        <translation>Novější verze programu Quillmere už je nainstalována. Chcete-li nainstalovat tuto verzi, nejprve odeberte novější.</translation>
+        <translation>Novější verze programu Quillmere už je nainstalována. Chcete-li nainstalovat tuto verzi, nejprve odstraňte novější.</translation>
     </message>
     <message>
         <source>Click Repair to repair the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
@@ -181,7 +181,7 @@
     </message>
     <message>
         <source>Some settings have not been saved. Save them?</source>
-        <translation type="unfinished">Některá nastavení nebyla uložena. Chcete je uložit?</translation>
+        <translation>Některá nastavení nebyla uložena. Uložit je?</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -193,11 +193,11 @@
     </message>
     <message>
         <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
-        <translation type="unfinished">Tuto složku už používá jiný synchronizační program. Vyberte jinou složku, aby nedocházelo ke konfliktům.</translation>
+        <translation>Tuto složku už používá jiný synchronizační program. Vyberte jinou složku, aby nedocházelo ke konfliktům.</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation>Odstranit</translation>
+        <translation>Smazat</translation>
     </message>
     <message>
         <source>Incompatible version</source>
@@ -205,15 +205,15 @@
     </message>
     <message>
         <source>Change sync folder</source>
-        <translation type="unfinished">Změna synchronizované složky</translation>
+        <translation>Změna synchronizované složky</translation>
     </message>
     <message>
         <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
-        <translation type="unfinished">Zadejte úplný název souboru bez cesty ke složce.</translation>
+        <translation>Zadejte úplný název souboru bez cesty ke složce, například thumbs.db.</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
-        <translation type="unfinished">[DlgTitleFont]Instalaci přerušila chyba a provedené změny byly vráceny zpět.</translation>
+        <translation>[DlgTitleFont]Instalační program se zastavil kvůli chybě. Provedené změny byly vráceny zpět.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -241,7 +241,7 @@
     </message>
     <message>
         <source>Use an encrypted connection (TLS)</source>
-        <translation type="unfinished">Šifrovat přenos dat pomocí SSL</translation>
+        <translation>Používat šifrované spojení (TLS)</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -261,7 +261,7 @@
     </message>
     <message>
         <source>A new version of Quillmere is available. Click here to upgrade.</source>
-        <translation>Je k dispozici nová verze programu Quillmere. Kliknutím sem provedete upgrade.</translation>
+        <translation>Je k dispozici nová verze programu Quillmere. Kliknutím sem program aktualizujete.</translation>
     </message>
     <message>
         <source>The download of %1 was canceled.</source>
@@ -277,7 +277,7 @@
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished">Zrušit propojení</translation>
+        <translation>Odpojit</translation>
     </message>
     <message>
         <source>Back</source>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Quillmere is initializing...</source>
-        <translation>Inicializace programu Quillmere…</translation>
+        <translation>Inicializace programu Quillmere...</translation>
     </message>
     <message>
         <source>Start now</source>
@@ -313,11 +313,11 @@
     </message>
     <message>
         <source>Applying the settings...</source>
-        <translation>Uplatňování nastavení…</translation>
+        <translation>Uplatňování nastavení...</translation>
     </message>
     <message>
         <source>Files excluded from syncing</source>
-        <translation type="unfinished">Soubory, které se nesynchronizují</translation>
+        <translation>Soubory vyloučené ze synchronizace</translation>
     </message>
     <message>
         <source>Created</source>
@@ -333,19 +333,19 @@
     </message>
     <message>
         <source>Choose shared folders to sync</source>
-        <translation type="unfinished">Vyberte sdílené složky k synchronizaci</translation>
+        <translation>Vyberte sdílené složky k synchronizaci</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
-        <translation>[DlgTitleFont]Od&amp;ebrat</translation>
+        <translation>[DlgTitleFont]Odst&amp;ranit</translation>
     </message>
     <message>
         <source>Uploading...</source>
-        <translation>Odesílání…</translation>
+        <translation>Odesílání...</translation>
     </message>
     <message>
         <source>To use selective sync, ask the server administrator to upgrade Quillmere on the server.</source>
-        <translation>Chcete-li používat výběrovou synchronizaci, požádejte správce serveru o upgrade programu Quillmere na serveru.</translation>
+        <translation>Chcete-li používat výběrovou synchronizaci, požádejte správce serveru o aktualizaci programu Quillmere na serveru.</translation>
     </message>
     <message>
         <source>No settings have been changed.</source>
@@ -361,7 +361,7 @@
     </message>
     <message>
         <source>Excluded file extensions</source>
-        <translation type="unfinished">Vyloučené přípony souborů</translation>
+        <translation>Vyloučené přípony souborů</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -377,7 +377,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
-        <translation type="unfinished">Svazek se synchronizovanou složkou není připojen. Připojte svazek a poté pokračujte v synchronizaci.</translation>
+        <translation>Disk se synchronizovanou složkou není připojen. Připojte disk a poté pokračujte v synchronizaci. Složku najdete na stránce „Úlohy synchronizace“.</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is full.</source>
-        <translation type="unfinished">V tomto počítači není volné místo na disku.</translation>
+        <translation>Disk se synchronizovanou složkou je plný.</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -401,7 +401,7 @@
     </message>
     <message>
         <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
-        <translation type="unfinished">Složka s tímto názvem už existuje. Chcete její soubory sloučit se soubory na serveru?</translation>
+        <translation>Složka s tímto názvem už v tomto počítači existuje. Sloučit její soubory se soubory na serveru?</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
@@ -413,7 +413,7 @@
     </message>
     <message>
         <source>Welcome to Quillmere</source>
-        <translation>Vítá vás Quillmere</translation>
+        <translation>Vítá vás program Quillmere</translation>
     </message>
     <message>
         <source>&amp;Repair</source>
@@ -421,7 +421,7 @@
     </message>
     <message>
         <source>Upgrading Quillmere...</source>
-        <translation>Upgrade programu Quillmere…</translation>
+        <translation>Aktualizace programu Quillmere...</translation>
     </message>
     <message>
         <source>Sync mode</source>
@@ -449,11 +449,11 @@
     </message>
     <message>
         <source>Files being synced: %1</source>
-        <translation type="unfinished">Synchronizace souborů (%1)…</translation>
+        <translation>Právě synchronizované soubory: %1</translation>
     </message>
     <message>
         <source>Reconnect</source>
-        <translation type="unfinished">Propojit znovu</translation>
+        <translation>Připojit znovu</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -473,7 +473,7 @@
     </message>
     <message>
         <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
-        <translation type="unfinished">Složky a soubory, u kterých jste zrušili zaškrtnutí, budou odebrány z tohoto počítače. Na serveru zůstanou zachovány.</translation>
+        <translation>Složky a soubory se zrušeným zaškrtnutím budou z tohoto počítače odstraněny. Na serveru zůstanou zachovány.</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
@@ -481,7 +481,7 @@
     </message>
     <message>
         <source>Click Remove to remove [ProductName] from your computer. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
-        <translation>Kliknutím na tlačítko „Odebrat“ odeberete program [ProductName] z tohoto počítače. Tlačítkem „Zpět“ se vrátíte ke svým volbám, tlačítkem „Zrušit“ průvodce instalací ukončíte.</translation>
+        <translation>Kliknutím na tlačítko „Odstranit“ odstraníte program [ProductName] z tohoto počítače. Tlačítkem „Zpět“ se vrátíte ke svým volbám, tlačítkem „Zrušit“ průvodce instalací ukončíte.</translation>
     </message>
     <message>
         <source>No space left</source>
@@ -489,19 +489,19 @@
     </message>
     <message>
         <source>Disconnected</source>
-        <translation type="unfinished">Neaktivní</translation>
+        <translation>Odpojeno</translation>
     </message>
     <message>
         <source>You have used all of your space on the server.</source>
-        <translation type="unfinished">Vaše kvóta na serveru je vyčerpána.</translation>
+        <translation>Vaše místo na serveru je zcela vyčerpáno.</translation>
     </message>
     <message>
         <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">Zrušit propojení s tímto serverem?\nVaše soubory zůstanou v tomto počítači i na serveru, ale už se nebudou synchronizovat.</translation>
+        <translation>Odpojit se od serveru?\nVaše soubory zůstanou v tomto počítači i na serveru, ale už se nebudou synchronizovat.</translation>
     </message>
     <message>
         <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
-        <translation type="unfinished">U předávací služby došlo k problému. Zkuste to znovu později nebo se připojte pomocí IP adresy serveru.</translation>
+        <translation>U předávací služby došlo k problému. Zkuste to znovu později nebo se k serveru připojte pomocí jeho IP adresy.</translation>
     </message>
     <message>
         <source>Server ID</source>
@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>Excluded file names</source>
-        <translation type="unfinished">Vyloučené názvy souborů</translation>
+        <translation>Vyloučené názvy souborů</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -521,11 +521,11 @@
     </message>
     <message>
         <source>Turned on</source>
-        <translation type="unfinished">Zapnuto</translation>
+        <translation>Zapnuto</translation>
     </message>
     <message>
         <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
-        <translation type="unfinished">V tomto počítači není volné místo na disku. Uvolněte místo, aby synchronizace mohla pokračovat.</translation>
+        <translation>Disk se synchronizovanou složkou je plný. Uvolněte na něm místo, aby synchronizace mohla pokračovat.</translation>
     </message>
     <message>
         <source>Folders to sync</source>
@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>Choose sync folder</source>
-        <translation type="unfinished">Vyberte složku k synchronizaci</translation>
+        <translation>Vyberte synchronizovanou složku</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -549,7 +549,7 @@
     </message>
     <message>
         <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
-        <translation type="unfinished">Vaše kvóta na serveru je vyčerpána. Odstraňte nepotřebné soubory nebo požádejte správce serveru o větší kvótu.</translation>
+        <translation>Vaše místo na serveru je zcela vyčerpáno. Smažte nepotřebné soubory nebo požádejte správce serveru o více místa.</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
@@ -565,11 +565,11 @@
     </message>
     <message>
         <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
-        <translation type="unfinished">Tento soubor byl změněn na dvou místech. Porovnejte obě kopie a poté si ponechte tu, kterou potřebujete.</translation>
+        <translation>Tento soubor byl změněn v tomto počítači i na serveru. Obě kopie jsou ve stejné složce pod různými názvy. Porovnejte je a poté si ponechte tu, kterou potřebujete.</translation>
     </message>
     <message>
         <source>All your files on every computer, kept on your own server</source>
-        <translation type="unfinished">Jedno místo pro soubory ze všech počítačů – váš vlastní server</translation>
+        <translation>Všechny vaše soubory v každém počítači, uložené na vašem vlastním serveru</translation>
     </message>
     <message>
         <source>OK</source>
@@ -581,7 +581,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
-        <translation type="unfinished">Následující aplikace používají soubory, které je třeba aktualizovat. Zavřete je a klikněte na tlačítko „Opakovat“, pokračujte bez jejich zavření tlačítkem „Ignorovat“, nebo instalaci opusťte tlačítkem „Ukončit“.</translation>
+        <translation>Následující aplikace používají soubory, které instalační program potřebuje aktualizovat. Zavřete tyto aplikace a poté klikněte na tlačítko „Opakovat“. Chcete-li pokračovat bez jejich zavření, klikněte na tlačítko „Ignorovat“. Chcete-li instalační program opustit, klikněte na tlačítko „Ukončit“.</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -597,7 +597,7 @@
     </message>
     <message>
         <source>Edit connection...</source>
-        <translation type="unfinished">Upravit připojení</translation>
+        <translation>Upravit připojení...</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
-        <translation>Následující aplikace používají soubory, které je třeba aktualizovat. Zvolte, zda je má instalační program zavřít. Pokud zůstanou spuštěné, bude k dokončení instalace nutné restartovat počítač.</translation>
+        <translation>Následující aplikace používají soubory, které instalační program potřebuje aktualizovat. Zvolte, zda má instalační program tyto aplikace zavřít. Pokud zůstanou spuštěné, bude k dokončení změn nutné restartovat počítač.</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the repair.</source>
@@ -613,7 +613,7 @@
     </message>
     <message>
         <source>Open Quillmere</source>
-        <translation>Otevřít Quillmere</translation>
+        <translation>Otevřít program Quillmere</translation>
     </message>
     <message>
         <source>Please restart %1 to apply the new language settings.</source>
@@ -625,31 +625,31 @@
     </message>
     <message>
         <source>Show icon overlays on excluded files</source>
-        <translation type="unfinished">Zobrazovat překryvné ikony na souborech vynechaných filtrem</translation>
+        <translation>Zobrazovat překryvné ikony na vyloučených souborech</translation>
     </message>
     <message>
         <source>Loading...</source>
-        <translation>Načítání…</translation>
+        <translation>Načítání...</translation>
     </message>
     <message>
         <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
-        <translation type="unfinished">Maximální počet synchronizovaných sdílených složek: %1. Než přidáte další, ukončete synchronizaci některé z nich.</translation>
+        <translation>Bylo dosaženo nejvyššího počtu synchronizovaných sdílených složek: %1. Než přidáte další, ukončete synchronizaci některé sdílené složky.</translation>
     </message>
     <message>
         <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">Zrušit propojení této úlohy synchronizace?\nJejí soubory zůstanou v tomto počítači i na serveru, ale už se nebudou synchronizovat.</translation>
+        <translation>Odstranit tuto úlohu synchronizace?\nJejí soubory zůstanou v tomto počítači i na serveru, ale už se nebudou synchronizovat.</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
-        <translation>Spouštění programu Quillmere…</translation>
+        <translation>Spouštění programu Quillmere...</translation>
     </message>
     <message>
         <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Upgrade programu Quillmere se nezdařil. Restartujte počítač a zkuste to znovu.</translation>
+        <translation>Aktualizace programu Quillmere se nezdařila. Dosavadní verze zůstala zachována. Restartujte počítač a zkuste to znovu. Podrobnosti najdete v ~/.Quillmere/log.</translation>
     </message>
     <message>
         <source>Exclude names that begin with a dot</source>
-        <translation type="unfinished">Vyloučit názvy začínající tečkou</translation>
+        <translation>Vyloučit názvy začínající tečkou</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -673,7 +673,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup is complete</source>
-        <translation type="unfinished">{\VerdanaBold13}Průvodce instalací programu [ProductName] dokončil práci</translation>
+        <translation>{\VerdanaBold13}Průvodce instalací programu [ProductName] dokončil práci</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -701,7 +701,7 @@
     </message>
     <message>
         <source>Watching for file changes...</source>
-        <translation>Sledování změn souborů…</translation>
+        <translation>Sledování změn souborů...</translation>
     </message>
     <message>
         <source>Shared folder</source>
@@ -709,19 +709,19 @@
     </message>
     <message>
         <source>Quillmere settings</source>
-        <translation type="unfinished">Možnosti klienta</translation>
+        <translation>Nastavení programu Quillmere</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
-        <translation>Odkaz ke sdílení se nepodařilo odstranit. Zkontrolujte spojení se serverem a zkuste to znovu.</translation>
+        <translation>Odkaz ke sdílení se nepodařilo smazat. Zkontrolujte spojení se serverem a zkuste to znovu.</translation>
     </message>
     <message>
         <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
-        <translation type="unfinished">Certifikát SSL serveru se nepodařilo ověřit. Požádejte správce serveru o kontrolu certifikátu.</translation>
+        <translation>Certifikát serveru se nepodařilo ověřit: mohla vypršet jeho platnost, může patřit jinému serveru nebo pocházet od neznámého vydavatele. Požádejte správce serveru o kontrolu certifikátu.</translation>
     </message>
     <message>
         <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
-        <translation type="unfinished">Toto není server, se kterým bylo připojení propojeno. Zkontrolujte adresu serveru nebo připojení znovu propojte.</translation>
+        <translation>Toto není server, ke kterému byl tento počítač připojen. Zkontrolujte adresu serveru nebo se znovu připojte.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -741,7 +741,7 @@
     </message>
     <message>
         <source>Delete link</source>
-        <translation>Odstranit odkaz</translation>
+        <translation>Smazat odkaz</translation>
     </message>
     <message>
         <source>Error</source>
@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>Connect to another server...</source>
-        <translation type="unfinished">Propojit s dalším serverem</translation>
+        <translation>Připojit k jinému serveru...</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]Making changes to [ProductName]</source>
-        <translation type="unfinished">[DlgTitleFont]Nastavování programu [ProductName]</translation>
+        <translation>[DlgTitleFont]Provádění změn v programu [ProductName]</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -789,7 +789,7 @@
     </message>
     <message>
         <source>Files to exclude</source>
-        <translation type="unfinished">Filtr souborů</translation>
+        <translation>Soubory k vyloučení</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -801,7 +801,7 @@
     </message>
     <message>
         <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Něco se pokazilo. Zkuste to znovu, a pokud problém přetrvá, obraťte se na správce serveru.</translation>
+        <translation>Něco se pokazilo. Zkuste to znovu, a pokud problém přetrvá, obraťte se na správce serveru. Podrobnosti najdete v ~/.Quillmere/log.</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -825,7 +825,7 @@
     </message>
     <message>
         <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
-        <translation type="unfinished">Nejste přihlášeni jako správce, takže se program Quillmere nemusí nainstalovat úplně. Chcete pokračovat?</translation>
+        <translation>Nepracujete pod účtem správce, takže se program Quillmere nemusí nainstalovat úplně. Pokračovat?</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
@@ -873,7 +873,7 @@
     </message>
     <message>
         <source>Choose another folder...</source>
-        <translation type="unfinished">Vybrat jinou složku</translation>
+        <translation>Vybrat jinou složku...</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -885,7 +885,7 @@
     </message>
     <message>
         <source>Re&amp;move</source>
-        <translation>Od&amp;ebrat</translation>
+        <translation>Odst&amp;ranit</translation>
     </message>
     <message>
         <source>Maximum file size</source>
@@ -897,27 +897,27 @@
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">Zrušit propojení</translation>
+        <translation>Odstranit</translation>
     </message>
     <message>
         <source>Another server was found at the server address.</source>
-        <translation type="unfinished">Na adrese serveru byl nalezen jiný server.</translation>
+        <translation>Na adrese serveru byl nalezen jiný server.</translation>
     </message>
     <message>
         <source>Connecting to the server...</source>
-        <translation type="unfinished">Propojování se serverem…</translation>
+        <translation>Připojování k serveru...</translation>
     </message>
     <message>
         <source>Port</source>
         <translation>Port</translation>
     </message>
     <message>
-        <source>Share link</source>
-        <translation>Sdílet odkazem</translation>
+        <source>Create share link</source>
+        <translation>Vytvořit odkaz ke sdílení</translation>
     </message>
     <message>
         <source>The user name or password was not accepted by the server. Edit the connection and enter them again.</source>
-        <translation>Server nepřijal uživatelské jméno nebo heslo. Upravte připojení a zadejte je znovu.</translation>
+        <translation>Server nepřijal uživatelské jméno nebo heslo. Upravte připojení a jméno i heslo zadejte znovu.</translation>
     </message>
     <message>
         <source>Recently updated files</source>
@@ -929,7 +929,7 @@
     </message>
     <message>
         <source>Change folder...</source>
-        <translation type="unfinished">Změnit složku</translation>
+        <translation>Změnit složku...</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -941,11 +941,11 @@
     </message>
     <message>
         <source>Downloading...</source>
-        <translation>Stahování…</translation>
+        <translation>Stahování...</translation>
     </message>
     <message>
         <source>File locked</source>
-        <translation type="unfinished">Soubor je uzamčen</translation>
+        <translation>Soubor uzamčen</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -953,11 +953,11 @@
     </message>
     <message>
         <source>Preparing...</source>
-        <translation>Příprava…</translation>
+        <translation>Příprava...</translation>
     </message>
     <message>
         <source>Syncing files...</source>
-        <translation type="unfinished">Aktualizace souborů…</translation>
+        <translation>Synchronizace souborů...</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -965,11 +965,11 @@
     </message>
     <message>
         <source>Checking the user name and password...</source>
-        <translation>Ověřování uživatelského jména a hesla…</translation>
+        <translation>Ověřování uživatelského jména a hesla...</translation>
     </message>
     <message>
         <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
-        <translation type="unfinished">Počkejte, než průvodce instalací nastaví program [ProductName]. Může to trvat několik minut.</translation>
+        <translation>Počkejte, než průvodce instalací provede změny v programu [ProductName]. Může to trvat několik minut.</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1021,23 +1021,23 @@
     </message>
     <message>
         <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
-        <translation type="unfinished">Místní synchronizovaná složka nebyla nalezena. Obnovte ji nebo vyberte jinou.</translation>
+        <translation>Místní synchronizovaná složka nebyla nalezena. Obnovte ji nebo vyberte jinou. Cestu ke složce najdete na stránce „Úlohy synchronizace“.</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
-        <translation>Upgrade programu Quillmere</translation>
+        <translation>Aktualizace programu Quillmere</translation>
     </message>
     <message>
         <source>Add sync task...</source>
-        <translation type="unfinished">Přidat úlohu synchronizace</translation>
+        <translation>Přidat úlohu...</translation>
     </message>
     <message>
         <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
-        <translation type="unfinished">Sdílená složka není na serveru připojena. Požádejte správce serveru o její připojení.</translation>
+        <translation>Sdílená složka není na serveru připojena. Požádejte správce serveru o její připojení. Název složky najdete na stránce „Sdílené složky“.</translation>
     </message>
     <message>
         <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Server odeslal neočekávanou odpověď. Upgradujte klienta i server a zkuste to znovu.</translation>
+        <translation>Server odeslal neočekávanou odpověď. Aktualizujte program Quillmere v tomto počítači a požádejte správce serveru o aktualizaci programu na serveru. Podrobnosti najdete v ~/.Quillmere/log.</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1053,11 +1053,11 @@
     </message>
     <message>
         <source>Checking files...</source>
-        <translation type="unfinished">Kontrola dat…</translation>
+        <translation>Kontrola souborů...</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
-        <translation>Pokus o synchronizaci…</translation>
+        <translation>Pokus o synchronizaci...</translation>
     </message>
     <message>
         <source>Click Install to begin the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
@@ -1065,7 +1065,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
-        <translation type="unfinished">{\VerdanaBold13}Instalace programu [ProductName] byla přerušena</translation>
+        <translation>{\VerdanaBold13}Průvodce instalací programu [ProductName] byl předčasně ukončen</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1093,7 +1093,7 @@
     </message>
     <message>
         <source>This folder is already synced with another shared folder. Choose another folder.</source>
-        <translation type="unfinished">Tato složka se už synchronizuje s jinou sdílenou složkou. Vyberte jinou složku.</translation>
+        <translation>Tato složka se už synchronizuje s jinou sdílenou složkou. Vyberte jinou složku.</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1117,7 +1117,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup did not finish</source>
-        <translation>{\VerdanaBold13}Instalace programu [ProductName] nebyla dokončena</translation>
+        <translation>{\VerdanaBold13}Průvodce instalací programu [ProductName] nedokončil práci</translation>
     </message>
     <message>
         <source>Quillmere is already running.</source>
@@ -1129,11 +1129,11 @@
     </message>
     <message>
         <source>Start Quillmere when I sign in to this computer</source>
-        <translation>Spouštět Quillmere po přihlášení k tomuto počítači</translation>
+        <translation>Spouštět program Quillmere po přihlášení k tomuto počítači</translation>
     </message>
     <message>
         <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
-        <translation type="unfinished">Zachovají se všechny soubory z obou složek. Pokud se dvě verze souboru liší, ponechají se obě.</translation>
+        <translation>Zachovají se všechny soubory z obou složek. Pokud se dvě verze souboru liší, zachovají se obě pod různými názvy.</translation>
     </message>
     <message>
         <source>Repair the installation</source>
@@ -1141,15 +1141,15 @@
     </message>
     <message>
         <source>Syncing turned on</source>
-        <translation type="unfinished">Synchronizace zapnuta</translation>
+        <translation>Synchronizace zapnuta</translation>
     </message>
     <message>
         <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Program Quillmere se nepodařilo spustit. Restartujte počítač a poté program Quillmere spusťte znovu.</translation>
+        <translation>Program Quillmere se nepodařilo spustit. Restartujte počítač a poté program Quillmere spusťte znovu. Podrobnosti najdete v ~/.Quillmere/log.</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
-        <translation type="unfinished">Chcete zrušit instalaci programu [ProductName]?</translation>
+        <source>Cancel [ProductName] setup?</source>
+        <translation>Předčasně ukončit průvodce instalací programu [ProductName]?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1157,7 +1157,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]Change, repair, or remove [ProductName]</source>
-        <translation>[DlgTitleFont]Změna, oprava nebo odebrání programu [ProductName]</translation>
+        <translation>[DlgTitleFont]Změna, oprava nebo odstranění programu [ProductName]</translation>
     </message>
     <message>
         <source>Quillmere is set up</source>
@@ -1173,7 +1173,7 @@
     </message>
     <message>
         <source>Browse versions...</source>
-        <translation type="unfinished">Procházet verze</translation>
+        <translation>Procházet verze...</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
@@ -1181,27 +1181,27 @@
     </message>
     <message>
         <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
-        <translation type="unfinished">Toto připojení je neaktivní. Chcete-li pokračovat v synchronizaci, znovu ho propojte.</translation>
+        <translation>Tento počítač je odpojen od serveru. Chcete-li pokračovat v synchronizaci, znovu se připojte.</translation>
     </message>
     <message>
         <source>Detecting...</source>
-        <translation>Zjišťování…</translation>
+        <translation>Zjišťování...</translation>
     </message>
     <message>
         <source>Certificate warning</source>
-        <translation type="unfinished">Upozornění SSL</translation>
+        <translation>Varování ohledně certifikátu</translation>
     </message>
     <message>
         <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
-        <translation type="unfinished">Předávací služba není dostupná. Zkontrolujte připojení k internetu a zkuste to znovu.</translation>
+        <translation>Předávací služba není dostupná. Zkontrolujte připojení k internetu a zkuste to znovu.</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
-        <translation>Odebere program [ProductName] z tohoto počítače.</translation>
+        <translation>Odstraní program [ProductName] z tohoto počítače.</translation>
     </message>
     <message>
         <source>Downloading %1...</source>
-        <translation>Stahování souboru „%1“…</translation>
+        <translation>Stahování souboru „%1“...</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
@@ -1213,7 +1213,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]You canceled setup, and your computer was not changed.</source>
-        <translation>[DlgTitleFont]Instalaci jste zrušili a v počítači nebyly provedeny žádné změny.</translation>
+        <translation>[DlgTitleFont]Průvodce instalací byl předčasně ukončen a v počítači nebyly provedeny žádné změny.</translation>
     </message>
     <message>
         <source>The port number is not valid. Enter a number from 1 to 65535.</source>
@@ -1221,11 +1221,11 @@
     </message>
     <message>
         <source>Quillmere cannot watch for changes on a network drive. Choose a folder on a local drive.</source>
-        <translation>Program Quillmere nemůže sledovat změny na síťové jednotce. Vyberte složku na místní jednotce.</translation>
+        <translation>Program Quillmere nemůže sledovat změny na síťovém disku. Vyberte složku na místním disku.</translation>
     </message>
     <message>
         <source>Remove the installation</source>
-        <translation>Odebrat instalaci</translation>
+        <translation>Odstranit program</translation>
     </message>
     <message>
         <source>Direct connection</source>
@@ -1233,23 +1233,23 @@
     </message>
     <message>
         <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
-        <translation type="unfinished">Svazek serveru, na kterém je tato složka, není připojen. Požádejte správce serveru o jeho připojení.</translation>
+        <translation>Disk s touto složkou není na serveru připojen. Požádejte správce serveru o připojení disku. Složku najdete na stránce „Úlohy synchronizace“.</translation>
     </message>
     <message>
         <source>This version of Quillmere is already installed. Install it again?</source>
-        <translation type="unfinished">Tato verze programu Quillmere už je nainstalována. Chcete ji nainstalovat znovu?</translation>
+        <translation>Tato verze programu Quillmere už je nainstalována. Nainstalovat ji znovu?</translation>
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
-        <translation type="unfinished">Verze tohoto klienta je pro server příliš stará. Upgradujte klienta a zkuste to znovu.</translation>
+        <translation>Program Quillmere v tomto počítači je pro práci se serverem příliš starý. Aktualizujte program a zkuste to znovu.</translation>
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer.</source>
-        <translation type="unfinished">Verze serveru je pro tohoto klienta příliš stará.</translation>
+        <translation>Program Quillmere na serveru je pro práci s tímto počítačem příliš starý.</translation>
     </message>
     <message>
         <source>Turned off</source>
-        <translation type="unfinished">Vypnuto</translation>
+        <translation>Vypnuto</translation>
     </message>
 </context>
 </TS>

@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>Processing...</source>
-        <translation>Behandler…</translation>
+        <translation>Behandler...</translation>
     </message>
     <message>
         <source>Exit</source>
@@ -41,11 +41,11 @@
     </message>
     <message>
         <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Den lokale database er beskadiget. Fjern forbindelsens tilknytning, og tilknyt den derefter igen for at genopbygge databasen.</translation>
+        <translation>Den lokale database er beskadiget. Afbryd forbindelsen til serveren, og forbind derefter igen for at genopbygge databasen. Du finder detaljer i ”~/.Quillmere/log”.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
-        <translation>&amp;Luk programmerne, og genstart dem efter installationen</translation>
+        <translation>&amp;Luk programmerne, og genstart dem bagefter</translation>
     </message>
     <message>
         <source>The folder is a mount point. Choose a folder that is not a mount point.</source>
@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>The server has been replaced. Click here to reconnect.</source>
-        <translation type="unfinished">Serveren er blevet udskiftet. Klik her for at oprette tilknytningen igen.</translation>
+        <translation>Serveren er blevet udskiftet. Klik her for at forbinde igen.</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -69,19 +69,19 @@
     </message>
     <message>
         <source>Exclusion list</source>
-        <translation type="unfinished">Undtagelsesliste</translation>
+        <translation>Udelukkelsesliste</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
-        <translation>Vil du slette dette delingslink?\nPersoner der har linket, kan ikke længere åbne filen.</translation>
+        <translation>Vil du slette dette delingslink?\nPersoner der har linket, kan derefter ikke længere åbne filen.</translation>
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server.</source>
-        <translation type="unfinished">Denne klient er for gammel til serveren.</translation>
+        <translation>Quillmere på denne computer er for gammel til at fungere sammen med serveren.</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
-        <translation>Installation af [ProductName]</translation>
+        <translation>Installationsprogram til [ProductName]</translation>
     </message>
     <message>
         <source>Sign-in failed</source>
@@ -93,11 +93,11 @@
     </message>
     <message>
         <source>Testing the connection...</source>
-        <translation>Tester forbindelsen…</translation>
+        <translation>Tester forbindelsen...</translation>
     </message>
     <message>
         <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
-        <translation type="unfinished">Serverens SSL-certifikat er ikke betroet, så andre kan muligvis læse de data du sender. Vil du fortsætte?</translation>
+        <translation>Serverens certifikat er ikke betroet: det kan være udløbet, tilhøre en anden server eller komme fra en ukendt udsteder. Andre kan muligvis læse de data du sender. Vil du fortsætte?</translation>
     </message>
     <message>
         <source>New shared folder</source>
@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>About Quillmere</source>
-        <translation type="unfinished">Om</translation>
+        <translation>Om Quillmere</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
-        <translation type="unfinished">Denne computer er allerede tilknyttet denne server. Rediger den eksisterende forbindelse, eller angiv en anden server.</translation>
+        <translation>Denne computer er allerede forbundet til denne server. Rediger den eksisterende forbindelse, eller angiv en anden server.</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -129,15 +129,15 @@
     </message>
     <message>
         <source>The connection to the server was lost. Check the network connection, then try again.</source>
-        <translation>Forbindelsen til serveren blev afbrudt. Kontroller netværksforbindelsen, og prøv igen.</translation>
+        <translation>Forbindelsen til serveren gik tabt. Kontroller netværksforbindelsen, og prøv igen.</translation>
     </message>
     <message>
         <source>The certificate of the server could not be verified.</source>
-        <translation type="unfinished">Serverens SSL-certifikat kunne ikke bekræftes.</translation>
+        <translation>Serverens certifikat kunne ikke bekræftes.</translation>
     </message>
     <message>
         <source>Use a black-and-white tray icon</source>
-        <translation type="unfinished">Brug et sort-hvidt ikon i meddelelsesområdet</translation>
+        <translation>Brug et sort-hvidt ikon i meddelelsesområdet</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -153,7 +153,7 @@
     </message>
     <message>
         <source>Excluded files</source>
-        <translation type="unfinished">Undtagne filer</translation>
+        <translation>Udelukkede filer</translation>
     </message>
     <message>
         <source>No permission</source>
@@ -161,11 +161,11 @@
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
-        <translation type="unfinished">Serveren er for gammel til denne klient. Bed serveradministratoren om at opgradere den.</translation>
+        <translation>Quillmere på serveren er for gammel til at fungere sammen med denne computer. Bed serveradministratoren om at opgradere Quillmere.</translation>
     </message>
     <message>
         <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
-        <translation type="unfinished">Kør installationsprogrammet igen senere for at prøve igen. Klik på ”Udfør” for at afslutte installationsguiden.</translation>
+        <translation>Du kan køre installationsprogrammet igen når som helst. Klik på ”Slut” for at afslutte installationsguiden.</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -181,7 +181,7 @@
     </message>
     <message>
         <source>Some settings have not been saved. Save them?</source>
-        <translation type="unfinished">Nogle indstillinger er ikke blevet gemt. Vil du gemme dem?</translation>
+        <translation>Nogle indstillinger er ikke blevet gemt. Vil du gemme dem?</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -193,7 +193,7 @@
     </message>
     <message>
         <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
-        <translation type="unfinished">Denne mappe bruges allerede af et andet synkroniseringsprogram. Vælg en anden mappe for at undgå konflikter.</translation>
+        <translation>Denne mappe bruges allerede af et andet synkroniseringsprogram. Vælg en anden mappe for at undgå konflikter.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -205,15 +205,15 @@
     </message>
     <message>
         <source>Change sync folder</source>
-        <translation type="unfinished">Skift synkroniseringsmappe</translation>
+        <translation>Skift synkroniseringsmappe</translation>
     </message>
     <message>
         <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
-        <translation type="unfinished">Angiv et fuldstændigt filnavn uden mappesti.</translation>
+        <translation>Angiv et fuldstændigt filnavn uden mappesti, for eksempel ”thumbs.db”.</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
-        <translation type="unfinished">[DlgTitleFont]En fejl standsede installationsprogrammet, og ændringerne er rullet tilbage.</translation>
+        <translation>[DlgTitleFont]Installationsprogrammet stoppede på grund af en fejl. De ændringer det havde foretaget, er rullet tilbage.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -241,7 +241,7 @@
     </message>
     <message>
         <source>Use an encrypted connection (TLS)</source>
-        <translation type="unfinished">Krypter dataoverførsel med SSL</translation>
+        <translation>Brug en krypteret forbindelse (TLS)</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -273,11 +273,11 @@
     </message>
     <message>
         <source>This file has no earlier versions yet. Change the file and let it sync to create one.</source>
-        <translation>Denne fil har ingen tidligere versioner endnu. Rediger filen, og lad den blive synkroniseret for at oprette en.</translation>
+        <translation>Denne fil har ingen tidligere versioner endnu. Ændr filen, og lad den blive synkroniseret for at oprette en.</translation>
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished">Fjern tilknytning</translation>
+        <translation>Afbryd forbindelse</translation>
     </message>
     <message>
         <source>Back</source>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Quillmere is initializing...</source>
-        <translation>Initialiserer Quillmere…</translation>
+        <translation>Initialiserer Quillmere...</translation>
     </message>
     <message>
         <source>Start now</source>
@@ -313,11 +313,11 @@
     </message>
     <message>
         <source>Applying the settings...</source>
-        <translation>Anvender indstillingerne…</translation>
+        <translation>Anvender indstillingerne...</translation>
     </message>
     <message>
         <source>Files excluded from syncing</source>
-        <translation type="unfinished">Filer der ikke synkroniseres</translation>
+        <translation>Filer der er udelukket fra synkronisering</translation>
     </message>
     <message>
         <source>Created</source>
@@ -333,7 +333,7 @@
     </message>
     <message>
         <source>Choose shared folders to sync</source>
-        <translation type="unfinished">Vælg de delte mapper der skal synkroniseres</translation>
+        <translation>Vælg delte mapper der skal synkroniseres</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -341,7 +341,7 @@
     </message>
     <message>
         <source>Uploading...</source>
-        <translation>Uploader…</translation>
+        <translation>Uploader...</translation>
     </message>
     <message>
         <source>To use selective sync, ask the server administrator to upgrade Quillmere on the server.</source>
@@ -361,7 +361,7 @@
     </message>
     <message>
         <source>Excluded file extensions</source>
-        <translation type="unfinished">Undtagne filendelser</translation>
+        <translation>Udelukkede filendelser</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -377,7 +377,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
-        <translation type="unfinished">Diskenheden med synkroniseringsmappen er ikke monteret. Monter diskenheden, og genoptag derefter synkroniseringen.</translation>
+        <translation>Drevet med synkroniseringsmappen er ikke monteret. Monter drevet, og genoptag derefter synkroniseringen. Mappen er vist under ”Synkroniseringsopgaver”.</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is full.</source>
-        <translation type="unfinished">Denne computer har ingen ledig diskplads.</translation>
+        <translation>Drevet med synkroniseringsmappen er fuldt.</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -401,7 +401,7 @@
     </message>
     <message>
         <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
-        <translation type="unfinished">Der findes allerede en mappe med dette navn. Vil du flette dens filer med filerne på serveren?</translation>
+        <translation>Der findes allerede en mappe med dette navn på denne computer. Vil du flette dens filer med filerne på serveren?</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
@@ -421,7 +421,7 @@
     </message>
     <message>
         <source>Upgrading Quillmere...</source>
-        <translation>Opgraderer Quillmere…</translation>
+        <translation>Opgraderer Quillmere...</translation>
     </message>
     <message>
         <source>Sync mode</source>
@@ -449,11 +449,11 @@
     </message>
     <message>
         <source>Files being synced: %1</source>
-        <translation type="unfinished">Synkroniserer filer (%1)…</translation>
+        <translation>Filer der synkroniseres: %1</translation>
     </message>
     <message>
         <source>Reconnect</source>
-        <translation type="unfinished">Tilknyt igen</translation>
+        <translation>Forbind igen</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -473,11 +473,11 @@
     </message>
     <message>
         <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
-        <translation type="unfinished">De mapper og filer du har fravalgt, bliver fjernet fra denne computer. De bevares på serveren.</translation>
+        <translation>De mapper og filer du har fravalgt, bliver fjernet fra denne computer. De bevares på serveren.</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
-        <translation>Installationsprogrammet har foretaget alle de valgte ændringer. Klik på ”Udfør” for at afslutte installationsguiden.</translation>
+        <translation>Installationsprogrammet har foretaget alle de valgte ændringer. Klik på ”Slut” for at afslutte installationsguiden.</translation>
     </message>
     <message>
         <source>Click Remove to remove [ProductName] from your computer. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
@@ -489,19 +489,19 @@
     </message>
     <message>
         <source>Disconnected</source>
-        <translation type="unfinished">Inaktiv</translation>
+        <translation>Forbindelse afbrudt</translation>
     </message>
     <message>
         <source>You have used all of your space on the server.</source>
-        <translation type="unfinished">Din kvote på serveren er opbrugt.</translation>
+        <translation>Du har brugt al din plads på serveren.</translation>
     </message>
     <message>
         <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">Vil du fjerne tilknytningen af denne forbindelse?\nDine filer bevares på denne computer og på serveren, men de bliver ikke længere synkroniseret.</translation>
+        <translation>Vil du afbryde forbindelsen til serveren?\nDine filer bevares på denne computer og på serveren, men de bliver ikke længere synkroniseret.</translation>
     </message>
     <message>
         <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
-        <translation type="unfinished">Der er et problem med relætjenesten. Prøv igen senere, eller opret forbindelse via serverens IP-adresse.</translation>
+        <translation>Der er et problem med relætjenesten. Prøv igen senere, eller opret forbindelse til serveren via dens IP-adresse.</translation>
     </message>
     <message>
         <source>Server ID</source>
@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>Excluded file names</source>
-        <translation type="unfinished">Undtagne filnavne</translation>
+        <translation>Udelukkede filnavne</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -521,11 +521,11 @@
     </message>
     <message>
         <source>Turned on</source>
-        <translation type="unfinished">Aktiveret</translation>
+        <translation>Slået til</translation>
     </message>
     <message>
         <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
-        <translation type="unfinished">Denne computer har ingen ledig diskplads. Frigør plads for at fortsætte synkroniseringen.</translation>
+        <translation>Drevet med synkroniseringsmappen er fuldt. Frigør plads på det for at fortsætte synkroniseringen.</translation>
     </message>
     <message>
         <source>Folders to sync</source>
@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>Choose sync folder</source>
-        <translation type="unfinished">Vælg en synkroniseringsmappe</translation>
+        <translation>Vælg synkroniseringsmappe</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -549,7 +549,7 @@
     </message>
     <message>
         <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
-        <translation type="unfinished">Din kvote på serveren er opbrugt. Slet filer du ikke har brug for, eller bed serveradministratoren om en større kvote.</translation>
+        <translation>Du har brugt al din plads på serveren. Slet filer du ikke har brug for, eller bed serveradministratoren om mere plads.</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
@@ -565,11 +565,11 @@
     </message>
     <message>
         <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
-        <translation type="unfinished">Denne fil blev ændret to steder. Sammenlign de to kopier, og behold den du har brug for.</translation>
+        <translation>Denne fil blev ændret både på denne computer og på serveren. Begge kopier ligger i samme mappe under forskellige navne. Sammenlign dem, og behold den du har brug for.</translation>
     </message>
     <message>
         <source>All your files on every computer, kept on your own server</source>
-        <translation type="unfinished">Ét sted til dine filer på alle computere, via din egen server</translation>
+        <translation>Alle dine filer på alle computere, gemt på din egen server</translation>
     </message>
     <message>
         <source>OK</source>
@@ -577,11 +577,11 @@
     </message>
     <message>
         <source>Show desktop notifications</source>
-        <translation>Vis skrivebordsbeskeder</translation>
+        <translation>Vis skrivebordsnotifikationer</translation>
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
-        <translation type="unfinished">Følgende programmer bruger filer som installationsprogrammet skal opdatere. Luk dem, og klik på ”Prøv igen”. Klik på ”Ignorer” for at fortsætte uden at lukke dem, eller klik på ”Afslut” for at forlade installationsprogrammet.</translation>
+        <translation>Følgende programmer bruger filer som installationsprogrammet skal opdatere. Luk dem, og klik derefter på ”Prøv igen”. Klik på ”Ignorer” for at fortsætte uden at lukke dem. Klik på ”Afslut” for at afslutte installationsprogrammet.</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -597,7 +597,7 @@
     </message>
     <message>
         <source>Edit connection...</source>
-        <translation type="unfinished">Rediger forbindelse</translation>
+        <translation>Rediger forbindelse...</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
-        <translation>Følgende programmer bruger filer som installationsprogrammet skal opdatere. Vælg om installationsprogrammet skal lukke dem. Hvis de forbliver åbne, skal du genstarte computeren for at fuldføre installationen.</translation>
+        <translation>Følgende programmer bruger filer som installationsprogrammet skal opdatere. Vælg om installationsprogrammet skal lukke dem. Hvis de forbliver åbne, skal du genstarte computeren for at fuldføre ændringerne.</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the repair.</source>
@@ -625,31 +625,31 @@
     </message>
     <message>
         <source>Show icon overlays on excluded files</source>
-        <translation type="unfinished">Vis ikonoverlejringer på filtrerede filer</translation>
+        <translation>Vis ikonoverlejringer på udelukkede filer</translation>
     </message>
     <message>
         <source>Loading...</source>
-        <translation>Indlæser…</translation>
+        <translation>Indlæser...</translation>
     </message>
     <message>
         <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
-        <translation type="unfinished">Antallet af delte mapper du kan synkronisere, er begrænset til %1. Stop synkroniseringen af en af dem før du tilføjer en ny.</translation>
+        <translation>Grænsen for synkroniserede delte mapper er nået: %1. Stop synkroniseringen af en delt mappe før du tilføjer en anden.</translation>
     </message>
     <message>
         <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">Vil du fjerne tilknytningen af denne synkroniseringsopgave?\nDens filer bevares på denne computer og på serveren, men de bliver ikke længere synkroniseret.</translation>
+        <translation>Vil du fjerne denne synkroniseringsopgave?\nDens filer bevares på denne computer og på serveren, men de bliver ikke længere synkroniseret.</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
-        <translation>Starter Quillmere…</translation>
+        <translation>Starter Quillmere...</translation>
     </message>
     <message>
         <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Quillmere kunne ikke opgraderes. Genstart computeren, og prøv igen.</translation>
+        <translation>Quillmere kunne ikke opgraderes. Din tidligere version er bevaret. Genstart computeren, og prøv igen. Du finder detaljer i ”~/.Quillmere/log”.</translation>
     </message>
     <message>
         <source>Exclude names that begin with a dot</source>
-        <translation type="unfinished">Undtag navne der begynder med et punktum</translation>
+        <translation>Udeluk navne der begynder med et punktum</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -673,7 +673,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup is complete</source>
-        <translation type="unfinished">{\VerdanaBold13}Installationsguiden til [ProductName] er færdig</translation>
+        <translation>{\VerdanaBold13}Installationsprogrammet til [ProductName] er færdigt</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -701,7 +701,7 @@
     </message>
     <message>
         <source>Watching for file changes...</source>
-        <translation>Overvåger filændringer…</translation>
+        <translation>Overvåger filændringer...</translation>
     </message>
     <message>
         <source>Shared folder</source>
@@ -709,7 +709,7 @@
     </message>
     <message>
         <source>Quillmere settings</source>
-        <translation type="unfinished">Klientindstillinger</translation>
+        <translation>Indstillinger for Quillmere</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
@@ -717,11 +717,11 @@
     </message>
     <message>
         <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
-        <translation type="unfinished">Serverens SSL-certifikat kunne ikke bekræftes. Bed serveradministratoren om at kontrollere certifikatet.</translation>
+        <translation>Serverens certifikat kunne ikke bekræftes: det kan være udløbet, tilhøre en anden server eller komme fra en ukendt udsteder. Bed serveradministratoren om at kontrollere certifikatet.</translation>
     </message>
     <message>
         <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
-        <translation type="unfinished">Dette er ikke den server som forbindelsen blev tilknyttet. Kontroller serveradressen, eller opret tilknytningen igen.</translation>
+        <translation>Dette er ikke den server som denne computer var forbundet til. Kontroller serveradressen, eller forbind igen.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>Connect to another server...</source>
-        <translation type="unfinished">Tilknyt til en anden server</translation>
+        <translation>Forbind til en anden server...</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]Making changes to [ProductName]</source>
-        <translation type="unfinished">[DlgTitleFont]Konfigurerer [ProductName]</translation>
+        <translation>[DlgTitleFont]Foretager ændringer i [ProductName]</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -789,7 +789,7 @@
     </message>
     <message>
         <source>Files to exclude</source>
-        <translation type="unfinished">Filfilter</translation>
+        <translation>Filer der skal udelukkes</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -797,11 +797,11 @@
     </message>
     <message>
         <source>I &amp;do not accept the terms of the license agreement</source>
-        <translation>Jeg accepterer &amp;ikke vilkårene i licensaftalen</translation>
+        <translation>Jeg accepterer i&amp;kke vilkårene i licensaftalen</translation>
     </message>
     <message>
         <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Noget gik galt. Prøv igen, og kontakt serveradministratoren hvis problemet fortsætter.</translation>
+        <translation>Noget gik galt. Prøv igen, og kontakt serveradministratoren hvis problemet fortsætter. Du finder detaljer i ”~/.Quillmere/log”.</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -825,11 +825,11 @@
     </message>
     <message>
         <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
-        <translation type="unfinished">Du er ikke logget ind som administrator, så Quillmere bliver muligvis ikke installeret fuldstændigt. Vil du fortsætte?</translation>
+        <translation>Du er ikke logget ind som administrator, så Quillmere bliver muligvis ikke installeret fuldstændigt. Vil du fortsætte?</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
-        <translation>Brug når som helst ikonet i meddelelsesområdet til at se synkroniseringsstatus eller ændre indstillingerne.</translation>
+        <translation>Du kan når som helst bruge ikonet i meddelelsesområdet til at se synkroniseringsstatus eller ændre indstillingerne.</translation>
     </message>
     <message>
         <source>Share link created</source>
@@ -873,7 +873,7 @@
     </message>
     <message>
         <source>Choose another folder...</source>
-        <translation type="unfinished">Vælg en anden mappe</translation>
+        <translation>Vælg en anden mappe...</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -897,22 +897,22 @@
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">Fjern tilknytning</translation>
+        <translation>Fjern</translation>
     </message>
     <message>
         <source>Another server was found at the server address.</source>
-        <translation type="unfinished">Der blev fundet en anden server på serveradressen.</translation>
+        <translation>Der blev fundet en anden server på serveradressen.</translation>
     </message>
     <message>
         <source>Connecting to the server...</source>
-        <translation type="unfinished">Tilknytter til serveren…</translation>
+        <translation>Forbinder til serveren...</translation>
     </message>
     <message>
         <source>Port</source>
         <translation>Port</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Create share link</source>
         <translation>Opret delingslink</translation>
     </message>
     <message>
@@ -929,11 +929,11 @@
     </message>
     <message>
         <source>Change folder...</source>
-        <translation type="unfinished">Skift mappe</translation>
+        <translation>Skift mappe...</translation>
     </message>
     <message>
         <source>Finish</source>
-        <translation>Udfør</translation>
+        <translation>Slut</translation>
     </message>
     <message>
         <source>Folder path</source>
@@ -941,11 +941,11 @@
     </message>
     <message>
         <source>Downloading...</source>
-        <translation>Downloader…</translation>
+        <translation>Downloader...</translation>
     </message>
     <message>
         <source>File locked</source>
-        <translation type="unfinished">Filen er låst</translation>
+        <translation>Filen er låst</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -953,11 +953,11 @@
     </message>
     <message>
         <source>Preparing...</source>
-        <translation>Forbereder…</translation>
+        <translation>Forbereder...</translation>
     </message>
     <message>
         <source>Syncing files...</source>
-        <translation type="unfinished">Opdaterer filer…</translation>
+        <translation>Synkroniserer filer...</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -965,11 +965,11 @@
     </message>
     <message>
         <source>Checking the user name and password...</source>
-        <translation>Kontrollerer brugernavn og adgangskode…</translation>
+        <translation>Kontrollerer brugernavn og adgangskode...</translation>
     </message>
     <message>
         <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
-        <translation type="unfinished">Vent mens installationsguiden konfigurerer [ProductName]. Det kan tage flere minutter.</translation>
+        <translation>Vent mens installationsguiden foretager ændringerne i [ProductName]. Det kan tage flere minutter.</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1021,7 +1021,7 @@
     </message>
     <message>
         <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
-        <translation type="unfinished">Den lokale synkroniseringsmappe blev ikke fundet. Gendan mappen, eller vælg en anden.</translation>
+        <translation>Den lokale synkroniseringsmappe blev ikke fundet. Gendan mappen, eller vælg en anden mappe. Stien er vist under ”Synkroniseringsopgaver”.</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
@@ -1029,15 +1029,15 @@
     </message>
     <message>
         <source>Add sync task...</source>
-        <translation type="unfinished">Tilføj synkroniseringsopgave</translation>
+        <translation>Tilføj opgave...</translation>
     </message>
     <message>
         <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
-        <translation type="unfinished">Den delte mappe er ikke monteret på serveren. Bed serveradministratoren om at montere den.</translation>
+        <translation>Den delte mappe er ikke monteret på serveren. Bed serveradministratoren om at montere den. Navnet er vist under ”Delte mapper”.</translation>
     </message>
     <message>
         <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Serveren sendte et uventet svar. Opgrader klienten og serveren, og prøv igen.</translation>
+        <translation>Serveren sendte et uventet svar. Opgrader Quillmere på denne computer, og bed serveradministratoren om at opgradere Quillmere på serveren. Du finder detaljer i ”~/.Quillmere/log”.</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1053,11 +1053,11 @@
     </message>
     <message>
         <source>Checking files...</source>
-        <translation type="unfinished">Kontrollerer dataene…</translation>
+        <translation>Kontrollerer filer...</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
-        <translation>Forsøger at synkronisere…</translation>
+        <translation>Forsøger at synkronisere...</translation>
     </message>
     <message>
         <source>Click Install to begin the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
@@ -1065,7 +1065,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
-        <translation type="unfinished">{\VerdanaBold13}Installationsprogrammet til [ProductName] blev afbrudt</translation>
+        <translation>{\VerdanaBold13}Installationsprogrammet til [ProductName] blev afbrudt</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1093,7 +1093,7 @@
     </message>
     <message>
         <source>This folder is already synced with another shared folder. Choose another folder.</source>
-        <translation type="unfinished">Denne mappe synkroniseres allerede med en anden delt mappe. Vælg en anden mappe.</translation>
+        <translation>Denne mappe synkroniseres allerede med en anden delt mappe. Vælg en anden mappe.</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1133,7 +1133,7 @@
     </message>
     <message>
         <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
-        <translation type="unfinished">Alle filer fra begge mapper bevares. Hvis to versioner af en fil er forskellige, får du dem begge.</translation>
+        <translation>Alle filer fra begge mapper bevares. Hvis to versioner af en fil er forskellige, bevares de begge under forskellige navne.</translation>
     </message>
     <message>
         <source>Repair the installation</source>
@@ -1141,15 +1141,15 @@
     </message>
     <message>
         <source>Syncing turned on</source>
-        <translation type="unfinished">Synkronisering aktiveret</translation>
+        <translation>Synkronisering slået til</translation>
     </message>
     <message>
         <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Quillmere kunne ikke starte. Genstart computeren, og start derefter Quillmere igen.</translation>
+        <translation>Quillmere kunne ikke starte. Genstart computeren, og start derefter Quillmere igen. Du finder detaljer i ”~/.Quillmere/log”.</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
-        <translation type="unfinished">Vil du afbryde installationsprogrammet til [ProductName]?</translation>
+        <source>Cancel [ProductName] setup?</source>
+        <translation>Vil du afbryde installationsprogrammet til [ProductName]?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1173,7 +1173,7 @@
     </message>
     <message>
         <source>Browse versions...</source>
-        <translation type="unfinished">Gennemse versioner</translation>
+        <translation>Gennemse versioner...</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
@@ -1181,19 +1181,19 @@
     </message>
     <message>
         <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
-        <translation type="unfinished">Denne forbindelse er inaktiv. Tilknyt den igen for at fortsætte synkroniseringen.</translation>
+        <translation>Denne computers forbindelse til serveren er afbrudt. Forbind igen for at fortsætte synkroniseringen.</translation>
     </message>
     <message>
         <source>Detecting...</source>
-        <translation>Undersøger…</translation>
+        <translation>Undersøger...</translation>
     </message>
     <message>
         <source>Certificate warning</source>
-        <translation type="unfinished">SSL-advarsel</translation>
+        <translation>Certifikatadvarsel</translation>
     </message>
     <message>
         <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
-        <translation type="unfinished">Relætjenesten kan ikke nås. Kontroller din internetforbindelse, og prøv igen.</translation>
+        <translation>Relætjenesten kan ikke nås. Kontroller internetforbindelsen, og prøv igen.</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
@@ -1201,11 +1201,11 @@
     </message>
     <message>
         <source>Downloading %1...</source>
-        <translation>Downloader ”%1”…</translation>
+        <translation>Downloader ”%1”...</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
-        <translation>&amp;Udfør</translation>
+        <translation>&amp;Slut</translation>
     </message>
     <message>
         <source>Read-only folder</source>
@@ -1233,23 +1233,23 @@
     </message>
     <message>
         <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
-        <translation type="unfinished">Den diskenhed på serveren som indeholder denne mappe, er ikke monteret. Bed serveradministratoren om at montere den.</translation>
+        <translation>Det drev på serveren som indeholder denne mappe, er ikke monteret. Bed serveradministratoren om at montere det. Mappen er vist under ”Synkroniseringsopgaver”.</translation>
     </message>
     <message>
         <source>This version of Quillmere is already installed. Install it again?</source>
-        <translation type="unfinished">Denne version af Quillmere er allerede installeret. Vil du installere den igen?</translation>
+        <translation>Denne version af Quillmere er allerede installeret. Vil du installere den igen?</translation>
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
-        <translation type="unfinished">Denne klient er for gammel til serveren. Opgrader klienten, og prøv igen.</translation>
+        <translation>Quillmere på denne computer er for gammel til at fungere sammen med serveren. Opgrader Quillmere, og prøv igen.</translation>
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer.</source>
-        <translation type="unfinished">Serveren er for gammel til denne klient.</translation>
+        <translation>Quillmere på serveren er for gammel til at fungere sammen med denne computer.</translation>
     </message>
     <message>
         <source>Turned off</source>
-        <translation type="unfinished">Deaktiveret</translation>
+        <translation>Slået fra</translation>
     </message>
 </context>
 </TS>

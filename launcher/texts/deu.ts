@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>Processing...</source>
-        <translation>Wird verarbeitet…</translation>
+        <translation>Wird verarbeitet&#xa0;…</translation>
     </message>
     <message>
         <source>Exit</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Die lokale Datenbank ist beschädigt. Heben Sie die Verknüpfung mit dem Server auf und stellen Sie sie dann wieder her, um die Datenbank neu aufzubauen.</translation>
+        <translation>Die lokale Datenbank ist beschädigt. Trennen Sie die Verbindung zum Server und verbinden Sie den Computer dann erneut, um die Datenbank neu aufzubauen. Details finden Sie in „~/.Quillmere/log“.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>The server has been replaced. Click here to reconnect.</source>
-        <translation type="unfinished">Der Server wurde ersetzt. Klicken Sie hier, um die Verknüpfung erneut herzustellen.</translation>
+        <translation>Der Server wurde ersetzt. Klicken Sie hier, um den Computer erneut zu verbinden.</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -69,7 +69,7 @@
     </message>
     <message>
         <source>Exclusion list</source>
-        <translation type="unfinished">Ausschlussliste</translation>
+        <translation>Ausschlussliste</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server.</source>
-        <translation type="unfinished">Dieser Client ist zu alt für den Server.</translation>
+        <translation>Quillmere auf diesem Computer ist zu alt, um mit dem Server zusammenzuarbeiten.</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
@@ -93,11 +93,11 @@
     </message>
     <message>
         <source>Testing the connection...</source>
-        <translation>Verbindung wird getestet…</translation>
+        <translation>Verbindung wird getestet&#xa0;…</translation>
     </message>
     <message>
         <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
-        <translation type="unfinished">Das SSL-Zertifikat des Servers ist nicht vertrauenswürdig. Andere können daher möglicherweise die von Ihnen gesendeten Daten lesen. Möchten Sie fortfahren?</translation>
+        <translation>Das Zertifikat des Servers ist nicht vertrauenswürdig: Es könnte abgelaufen sein, zu einem anderen Server gehören oder von einem unbekannten Aussteller stammen. Andere könnten die Daten lesen, die Sie senden. Trotzdem fortfahren?</translation>
     </message>
     <message>
         <source>New shared folder</source>
@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>About Quillmere</source>
-        <translation type="unfinished">Info</translation>
+        <translation>Über Quillmere</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
-        <translation type="unfinished">Dieser Computer ist bereits mit diesem Server verknüpft. Bearbeiten Sie die vorhandene Verbindung oder geben Sie einen anderen Server ein.</translation>
+        <translation>Dieser Computer ist bereits mit diesem Server verbunden. Bearbeiten Sie die vorhandene Verbindung oder geben Sie einen anderen Server ein.</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -133,11 +133,11 @@
     </message>
     <message>
         <source>The certificate of the server could not be verified.</source>
-        <translation type="unfinished">Das SSL-Zertifikat des Servers konnte nicht überprüft werden.</translation>
+        <translation>Das Zertifikat des Servers konnte nicht überprüft werden.</translation>
     </message>
     <message>
         <source>Use a black-and-white tray icon</source>
-        <translation type="unfinished">Schwarz-weißes Symbol im Infobereich verwenden</translation>
+        <translation>Schwarz-weißes Symbol im Infobereich verwenden</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -153,7 +153,7 @@
     </message>
     <message>
         <source>Excluded files</source>
-        <translation type="unfinished">Ausgeschlossene Dateien</translation>
+        <translation>Ausgeschlossene Dateien</translation>
     </message>
     <message>
         <source>No permission</source>
@@ -161,11 +161,11 @@
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
-        <translation type="unfinished">Der Server ist zu alt für diesen Client. Bitten Sie den Serveradministrator, ihn zu aktualisieren.</translation>
+        <translation>Quillmere auf dem Server ist zu alt, um mit diesem Computer zusammenzuarbeiten. Bitten Sie den Serveradministrator, Quillmere zu aktualisieren.</translation>
     </message>
     <message>
         <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
-        <translation type="unfinished">Um es erneut zu versuchen, führen Sie das Setup später noch einmal aus. Klicken Sie auf „Fertigstellen“, um den Setup-Assistenten zu beenden.</translation>
+        <translation>Sie können das Setup jederzeit erneut ausführen. Klicken Sie auf „Abschließen“, um den Setup-Assistenten zu beenden.</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -181,7 +181,7 @@
     </message>
     <message>
         <source>Some settings have not been saved. Save them?</source>
-        <translation type="unfinished">Einige Einstellungen wurden nicht gespeichert. Möchten Sie sie speichern?</translation>
+        <translation>Einige Einstellungen wurden nicht gespeichert. Einstellungen speichern?</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -193,7 +193,7 @@
     </message>
     <message>
         <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
-        <translation type="unfinished">Dieser Ordner wird bereits von einem anderen Synchronisierungsprogramm verwendet. Wählen Sie einen anderen Ordner aus, um Konflikte zu vermeiden.</translation>
+        <translation>Dieser Ordner wird bereits von einem anderen Synchronisierungsprogramm verwendet. Wählen Sie einen anderen Ordner aus, um Konflikte zu vermeiden.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -205,15 +205,15 @@
     </message>
     <message>
         <source>Change sync folder</source>
-        <translation type="unfinished">Synchronisierungsordner ändern</translation>
+        <translation>Synchronisierungsordner ändern</translation>
     </message>
     <message>
         <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
-        <translation type="unfinished">Geben Sie einen vollständigen Dateinamen ohne Ordnerpfad ein.</translation>
+        <translation>Geben Sie einen vollständigen Dateinamen ohne Ordnerpfad ein, zum Beispiel „thumbs.db“.</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
-        <translation type="unfinished">[DlgTitleFont]Das Setup wurde aufgrund eines Fehlers abgebrochen. Alle Änderungen wurden rückgängig gemacht.</translation>
+        <translation>[DlgTitleFont]Das Setup wurde wegen eines Fehlers gestoppt. Die bereits vorgenommenen Änderungen wurden rückgängig gemacht.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -241,7 +241,7 @@
     </message>
     <message>
         <source>Use an encrypted connection (TLS)</source>
-        <translation type="unfinished">Datenübertragung mit SSL verschlüsseln</translation>
+        <translation>Verschlüsselte Verbindung (TLS) verwenden</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -261,7 +261,7 @@
     </message>
     <message>
         <source>A new version of Quillmere is available. Click here to upgrade.</source>
-        <translation>Eine neue Version von Quillmere ist verfügbar. Klicken Sie hier, um sie zu installieren.</translation>
+        <translation>Eine neue Version von Quillmere ist verfügbar. Klicken Sie hier, um Quillmere zu aktualisieren.</translation>
     </message>
     <message>
         <source>The download of %1 was canceled.</source>
@@ -273,11 +273,11 @@
     </message>
     <message>
         <source>This file has no earlier versions yet. Change the file and let it sync to create one.</source>
-        <translation>Von dieser Datei gibt es noch keine früheren Versionen. Ändern Sie die Datei und lassen Sie sie synchronisieren, um eine zu erstellen.</translation>
+        <translation>Von dieser Datei gibt es noch keine früheren Versionen. Ändern Sie die Datei; bei der nächsten Synchronisierung wird eine Version erstellt.</translation>
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished">Verknüpfung aufheben</translation>
+        <translation>Trennen</translation>
     </message>
     <message>
         <source>Back</source>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Quillmere is initializing...</source>
-        <translation>Quillmere wird initialisiert…</translation>
+        <translation>Quillmere wird initialisiert&#xa0;…</translation>
     </message>
     <message>
         <source>Start now</source>
@@ -313,11 +313,11 @@
     </message>
     <message>
         <source>Applying the settings...</source>
-        <translation>Einstellungen werden übernommen…</translation>
+        <translation>Einstellungen werden angewendet&#xa0;…</translation>
     </message>
     <message>
         <source>Files excluded from syncing</source>
-        <translation type="unfinished">Dateien, die nicht synchronisiert werden</translation>
+        <translation>Von der Synchronisierung ausgeschlossene Dateien</translation>
     </message>
     <message>
         <source>Created</source>
@@ -333,7 +333,7 @@
     </message>
     <message>
         <source>Choose shared folders to sync</source>
-        <translation type="unfinished">Wählen Sie die zu synchronisierenden freigegebenen Ordner aus</translation>
+        <translation>Freigegebene Ordner zum Synchronisieren auswählen</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -341,7 +341,7 @@
     </message>
     <message>
         <source>Uploading...</source>
-        <translation>Wird hochgeladen…</translation>
+        <translation>Wird hochgeladen&#xa0;…</translation>
     </message>
     <message>
         <source>To use selective sync, ask the server administrator to upgrade Quillmere on the server.</source>
@@ -361,7 +361,7 @@
     </message>
     <message>
         <source>Excluded file extensions</source>
-        <translation type="unfinished">Ausgeschlossene Dateiendungen</translation>
+        <translation>Ausgeschlossene Dateiendungen</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -377,7 +377,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
-        <translation type="unfinished">Das Volume mit dem Synchronisierungsordner ist nicht eingehängt. Hängen Sie das Volume ein und setzen Sie die Synchronisierung dann fort.</translation>
+        <translation>Das Laufwerk mit dem Synchronisierungsordner ist nicht eingehängt. Hängen Sie das Laufwerk ein und setzen Sie die Synchronisierung dann fort. Den Ordner finden Sie unter „Synchronisierungsaufgaben“.</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is full.</source>
-        <translation type="unfinished">Auf diesem Computer ist kein freier Speicherplatz vorhanden.</translation>
+        <translation>Das Laufwerk mit dem Synchronisierungsordner ist voll.</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -401,7 +401,7 @@
     </message>
     <message>
         <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
-        <translation type="unfinished">Ein Ordner mit diesem Namen ist bereits vorhanden. Möchten Sie seine Dateien mit denen auf dem Server zusammenführen?</translation>
+        <translation>Auf diesem Computer ist bereits ein Ordner mit diesem Namen vorhanden. Seine Dateien mit denen auf dem Server zusammenführen?</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
@@ -421,7 +421,7 @@
     </message>
     <message>
         <source>Upgrading Quillmere...</source>
-        <translation>Quillmere wird aktualisiert…</translation>
+        <translation>Quillmere wird aktualisiert&#xa0;…</translation>
     </message>
     <message>
         <source>Sync mode</source>
@@ -441,7 +441,7 @@
     </message>
     <message>
         <source>Apply</source>
-        <translation>Übernehmen</translation>
+        <translation>Anwenden</translation>
     </message>
     <message>
         <source>Done</source>
@@ -449,11 +449,11 @@
     </message>
     <message>
         <source>Files being synced: %1</source>
-        <translation type="unfinished">Dateien werden synchronisiert (%1)…</translation>
+        <translation>Dateien, die gerade synchronisiert werden: %1</translation>
     </message>
     <message>
         <source>Reconnect</source>
-        <translation type="unfinished">Erneut verknüpfen</translation>
+        <translation>Erneut verbinden</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -473,11 +473,11 @@
     </message>
     <message>
         <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
-        <translation type="unfinished">Die abgewählten Ordner und Dateien werden von diesem Computer entfernt. Auf dem Server bleiben sie erhalten.</translation>
+        <translation>Die abgewählten Ordner und Dateien werden von diesem Computer entfernt. Auf dem Server bleiben sie erhalten.</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
-        <translation>Das Setup hat alle gewählten Änderungen vorgenommen. Klicken Sie auf „Fertigstellen“, um den Setup-Assistenten zu beenden.</translation>
+        <translation>Das Setup hat alle gewählten Änderungen vorgenommen. Klicken Sie auf „Abschließen“, um den Setup-Assistenten zu beenden.</translation>
     </message>
     <message>
         <source>Click Remove to remove [ProductName] from your computer. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
@@ -489,19 +489,19 @@
     </message>
     <message>
         <source>Disconnected</source>
-        <translation type="unfinished">Inaktiv</translation>
+        <translation>Getrennt</translation>
     </message>
     <message>
         <source>You have used all of your space on the server.</source>
-        <translation type="unfinished">Ihr Speicherkontingent auf dem Server ist ausgeschöpft.</translation>
+        <translation>Ihr gesamter Speicherplatz auf dem Server ist belegt.</translation>
     </message>
     <message>
         <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">Verknüpfung dieser Verbindung aufheben?\nIhre Dateien bleiben auf diesem Computer und auf dem Server erhalten, werden aber nicht mehr synchronisiert.</translation>
+        <translation>Verbindung zum Server trennen?\nIhre Dateien bleiben auf diesem Computer und auf dem Server erhalten, werden aber nicht mehr synchronisiert.</translation>
     </message>
     <message>
         <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
-        <translation type="unfinished">Beim Relay-Dienst ist ein Problem aufgetreten. Versuchen Sie es später erneut oder stellen Sie die Verbindung über die IP-Adresse des Servers her.</translation>
+        <translation>Beim Relay-Dienst ist ein Problem aufgetreten. Versuchen Sie es später erneut oder verbinden Sie sich über die IP-Adresse mit dem Server.</translation>
     </message>
     <message>
         <source>Server ID</source>
@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>Excluded file names</source>
-        <translation type="unfinished">Ausgeschlossene Dateinamen</translation>
+        <translation>Ausgeschlossene Dateinamen</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -517,15 +517,15 @@
     </message>
     <message>
         <source>Continue</source>
-        <translation>Fortfahren</translation>
+        <translation>Weiter</translation>
     </message>
     <message>
         <source>Turned on</source>
-        <translation type="unfinished">Aktiviert</translation>
+        <translation>Aktiviert</translation>
     </message>
     <message>
         <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
-        <translation type="unfinished">Auf diesem Computer ist kein freier Speicherplatz vorhanden. Geben Sie Speicherplatz frei, um die Synchronisierung fortzusetzen.</translation>
+        <translation>Das Laufwerk mit dem Synchronisierungsordner ist voll. Geben Sie darauf Speicherplatz frei, um die Synchronisierung fortzusetzen.</translation>
     </message>
     <message>
         <source>Folders to sync</source>
@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>Choose sync folder</source>
-        <translation type="unfinished">Synchronisierungsordner auswählen</translation>
+        <translation>Synchronisierungsordner auswählen</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -549,7 +549,7 @@
     </message>
     <message>
         <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
-        <translation type="unfinished">Ihr Speicherkontingent auf dem Server ist ausgeschöpft. Löschen Sie nicht mehr benötigte Dateien oder bitten Sie den Serveradministrator um ein größeres Kontingent.</translation>
+        <translation>Ihr gesamter Speicherplatz auf dem Server ist belegt. Löschen Sie nicht benötigte Dateien oder bitten Sie den Serveradministrator um mehr Speicherplatz.</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
@@ -565,11 +565,11 @@
     </message>
     <message>
         <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
-        <translation type="unfinished">Diese Datei wurde an zwei Orten geändert. Vergleichen Sie beide Kopien und behalten Sie diejenige, die Sie benötigen.</translation>
+        <translation>Diese Datei wurde auf diesem Computer und auf dem Server geändert. Beide Kopien befinden sich unter verschiedenen Namen im selben Ordner. Vergleichen Sie sie und behalten Sie diejenige, die Sie benötigen.</translation>
     </message>
     <message>
         <source>All your files on every computer, kept on your own server</source>
-        <translation type="unfinished">Ein Ort für Ihre Dateien auf allen Computern, über einen eigenen Server</translation>
+        <translation>Alle Ihre Dateien auf jedem Computer, gespeichert auf Ihrem eigenen Server</translation>
     </message>
     <message>
         <source>OK</source>
@@ -581,7 +581,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
-        <translation type="unfinished">Die folgenden Anwendungen verwenden Dateien, die vom Setup aktualisiert werden müssen. Schließen Sie die Anwendungen und klicken Sie auf „Wiederholen“. Klicken Sie auf „Ignorieren“, um fortzufahren, ohne sie zu schließen, oder auf „Beenden“, um das Setup zu verlassen.</translation>
+        <translation>Die folgenden Anwendungen verwenden Dateien, die vom Setup aktualisiert werden müssen. Schließen Sie die Anwendungen und klicken Sie dann auf „Wiederholen“. Um fortzufahren, ohne sie zu schließen, klicken Sie auf „Ignorieren“. Um das Setup zu beenden, klicken Sie auf „Beenden“.</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -597,7 +597,7 @@
     </message>
     <message>
         <source>Edit connection...</source>
-        <translation type="unfinished">Verbindung bearbeiten</translation>
+        <translation>Verbindung bearbeiten&#xa0;…</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -617,7 +617,7 @@
     </message>
     <message>
         <source>Please restart %1 to apply the new language settings.</source>
-        <translation>Bitte starten Sie %1 neu, um die neuen Spracheinstellungen zu übernehmen.</translation>
+        <translation>Bitte starten Sie %1 neu, um die neuen Spracheinstellungen anzuwenden.</translation>
     </message>
     <message>
         <source>Pause</source>
@@ -625,31 +625,31 @@
     </message>
     <message>
         <source>Show icon overlays on excluded files</source>
-        <translation type="unfinished">Overlay-Symbole auf gefilterten Dateien anzeigen</translation>
+        <translation>Overlay-Symbole auf ausgeschlossenen Dateien anzeigen</translation>
     </message>
     <message>
         <source>Loading...</source>
-        <translation>Wird geladen…</translation>
+        <translation>Wird geladen&#xa0;…</translation>
     </message>
     <message>
         <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
-        <translation type="unfinished">Die Anzahl der synchronisierten freigegebenen Ordner ist auf %1 begrenzt. Beenden Sie die Synchronisierung eines dieser Ordner, bevor Sie einen weiteren hinzufügen.</translation>
+        <translation>Die Höchstzahl synchronisierter freigegebener Ordner ist erreicht: %1. Beenden Sie die Synchronisierung eines freigegebenen Ordners, bevor Sie einen weiteren hinzufügen.</translation>
     </message>
     <message>
         <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">Verknüpfung dieser Synchronisierungsaufgabe aufheben?\nDie zugehörigen Dateien bleiben auf diesem Computer und auf dem Server erhalten, werden aber nicht mehr synchronisiert.</translation>
+        <translation>Diese Synchronisierungsaufgabe entfernen?\nDie zugehörigen Dateien bleiben auf diesem Computer und auf dem Server erhalten, werden aber nicht mehr synchronisiert.</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
-        <translation>Quillmere wird gestartet…</translation>
+        <translation>Quillmere wird gestartet&#xa0;…</translation>
     </message>
     <message>
         <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Quillmere konnte nicht aktualisiert werden. Starten Sie den Computer neu und versuchen Sie es dann erneut.</translation>
+        <translation>Quillmere konnte nicht aktualisiert werden. Die bisherige Version wurde beibehalten. Starten Sie den Computer neu und versuchen Sie es dann erneut. Details finden Sie in „~/.Quillmere/log“.</translation>
     </message>
     <message>
         <source>Exclude names that begin with a dot</source>
-        <translation type="unfinished">Namen ausschließen, die mit einem Punkt beginnen</translation>
+        <translation>Namen ausschließen, die mit einem Punkt beginnen</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -673,7 +673,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup is complete</source>
-        <translation type="unfinished">{\VerdanaBold13}Der Setup-Assistent von [ProductName] ist abgeschlossen</translation>
+        <translation>{\VerdanaBold13}Das Setup von [ProductName] ist abgeschlossen</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -701,7 +701,7 @@
     </message>
     <message>
         <source>Watching for file changes...</source>
-        <translation>Dateiänderungen werden überwacht…</translation>
+        <translation>Dateiänderungen werden überwacht&#xa0;…</translation>
     </message>
     <message>
         <source>Shared folder</source>
@@ -709,7 +709,7 @@
     </message>
     <message>
         <source>Quillmere settings</source>
-        <translation type="unfinished">Client-Optionen</translation>
+        <translation>Quillmere-Einstellungen</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
@@ -717,11 +717,11 @@
     </message>
     <message>
         <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
-        <translation type="unfinished">Das SSL-Zertifikat des Servers konnte nicht überprüft werden. Bitten Sie den Serveradministrator, das Zertifikat zu überprüfen.</translation>
+        <translation>Das Zertifikat des Servers konnte nicht überprüft werden: Es könnte abgelaufen sein, zu einem anderen Server gehören oder von einem unbekannten Aussteller stammen. Bitten Sie den Serveradministrator, das Zertifikat zu überprüfen.</translation>
     </message>
     <message>
         <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
-        <translation type="unfinished">Dies ist nicht der Server, mit dem die Verbindung verknüpft wurde. Prüfen Sie die Serveradresse oder stellen Sie die Verknüpfung erneut her.</translation>
+        <translation>Dies ist nicht der Server, mit dem dieser Computer verbunden war. Prüfen Sie die Serveradresse oder verbinden Sie den Computer erneut.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>Connect to another server...</source>
-        <translation type="unfinished">Mit weiterem Server verknüpfen</translation>
+        <translation>Mit anderem Server verbinden&#xa0;…</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]Making changes to [ProductName]</source>
-        <translation type="unfinished">[DlgTitleFont]Setup von [ProductName] wird ausgeführt</translation>
+        <translation>[DlgTitleFont]An [ProductName] werden Änderungen vorgenommen</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -789,7 +789,7 @@
     </message>
     <message>
         <source>Files to exclude</source>
-        <translation type="unfinished">Dateifilter</translation>
+        <translation>Auszuschließende Dateien</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -801,7 +801,7 @@
     </message>
     <message>
         <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Es ist ein Fehler aufgetreten. Versuchen Sie es erneut und wenden Sie sich an den Serveradministrator, wenn das Problem weiterhin besteht.</translation>
+        <translation>Es ist ein Fehler aufgetreten. Versuchen Sie es erneut und wenden Sie sich an den Serveradministrator, wenn das Problem weiterhin besteht. Details finden Sie in „~/.Quillmere/log“.</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -825,7 +825,7 @@
     </message>
     <message>
         <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
-        <translation type="unfinished">Sie sind nicht als Administrator angemeldet, daher wird Quillmere möglicherweise nicht vollständig installiert. Möchten Sie fortfahren?</translation>
+        <translation>Sie sind nicht als Administrator angemeldet, daher wird Quillmere möglicherweise nicht vollständig installiert. Fortfahren?</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
@@ -873,7 +873,7 @@
     </message>
     <message>
         <source>Choose another folder...</source>
-        <translation type="unfinished">Anderen Ordner auswählen</translation>
+        <translation>Anderen Ordner auswählen&#xa0;…</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -897,22 +897,22 @@
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">Verknüpfung aufheben</translation>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>Another server was found at the server address.</source>
-        <translation type="unfinished">Unter der Serveradresse wurde ein anderer Server gefunden.</translation>
+        <translation>Unter der Serveradresse wurde ein anderer Server gefunden.</translation>
     </message>
     <message>
         <source>Connecting to the server...</source>
-        <translation type="unfinished">Verknüpfung mit dem Server wird hergestellt…</translation>
+        <translation>Verbindung zum Server wird hergestellt&#xa0;…</translation>
     </message>
     <message>
         <source>Port</source>
         <translation>Port</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Create share link</source>
         <translation>Freigabelink erstellen</translation>
     </message>
     <message>
@@ -929,11 +929,11 @@
     </message>
     <message>
         <source>Change folder...</source>
-        <translation type="unfinished">Ordner ändern</translation>
+        <translation>Ordner ändern&#xa0;…</translation>
     </message>
     <message>
         <source>Finish</source>
-        <translation>Fertigstellen</translation>
+        <translation>Abschließen</translation>
     </message>
     <message>
         <source>Folder path</source>
@@ -941,11 +941,11 @@
     </message>
     <message>
         <source>Downloading...</source>
-        <translation>Wird heruntergeladen…</translation>
+        <translation>Wird heruntergeladen&#xa0;…</translation>
     </message>
     <message>
         <source>File locked</source>
-        <translation type="unfinished">Die Datei ist gesperrt</translation>
+        <translation>Datei gesperrt</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -953,11 +953,11 @@
     </message>
     <message>
         <source>Preparing...</source>
-        <translation>Wird vorbereitet…</translation>
+        <translation>Wird vorbereitet&#xa0;…</translation>
     </message>
     <message>
         <source>Syncing files...</source>
-        <translation type="unfinished">Dateien werden aktualisiert…</translation>
+        <translation>Dateien werden synchronisiert&#xa0;…</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -965,11 +965,11 @@
     </message>
     <message>
         <source>Checking the user name and password...</source>
-        <translation>Benutzername und Passwort werden überprüft…</translation>
+        <translation>Benutzername und Passwort werden überprüft&#xa0;…</translation>
     </message>
     <message>
         <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
-        <translation type="unfinished">Bitte warten Sie, bis der Setup-Assistent das Setup von [ProductName] abgeschlossen hat. Dies kann einige Minuten dauern.</translation>
+        <translation>Warten Sie, bis der Setup-Assistent die Änderungen an [ProductName] vorgenommen hat. Dies kann einige Minuten dauern.</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1021,7 +1021,7 @@
     </message>
     <message>
         <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
-        <translation type="unfinished">Der lokale Synchronisierungsordner wurde nicht gefunden. Stellen Sie den Ordner wieder her oder wählen Sie einen anderen aus.</translation>
+        <translation>Der lokale Synchronisierungsordner wurde nicht gefunden. Stellen Sie den Ordner wieder her oder wählen Sie einen anderen Ordner aus. Den Pfad finden Sie unter „Synchronisierungsaufgaben“.</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
@@ -1029,15 +1029,15 @@
     </message>
     <message>
         <source>Add sync task...</source>
-        <translation type="unfinished">Synchronisierungsaufgabe hinzufügen</translation>
+        <translation>Aufgabe hinzufügen&#xa0;…</translation>
     </message>
     <message>
         <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
-        <translation type="unfinished">Der freigegebene Ordner ist auf dem Server nicht eingehängt. Bitten Sie den Serveradministrator, ihn einzuhängen.</translation>
+        <translation>Der freigegebene Ordner ist auf dem Server nicht eingehängt. Bitten Sie den Serveradministrator, ihn einzuhängen. Den Namen finden Sie unter „Freigegebene Ordner“.</translation>
     </message>
     <message>
         <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Der Server hat eine unerwartete Antwort gesendet. Aktualisieren Sie den Client und den Server und versuchen Sie es dann erneut.</translation>
+        <translation>Der Server hat eine unerwartete Antwort gesendet. Aktualisieren Sie Quillmere auf diesem Computer und bitten Sie den Serveradministrator, es auf dem Server zu aktualisieren. Details finden Sie in „~/.Quillmere/log“.</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1053,11 +1053,11 @@
     </message>
     <message>
         <source>Checking files...</source>
-        <translation type="unfinished">Daten werden überprüft…</translation>
+        <translation>Dateien werden überprüft&#xa0;…</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
-        <translation>Synchronisierung wird versucht…</translation>
+        <translation>Synchronisierung wird versucht&#xa0;…</translation>
     </message>
     <message>
         <source>Click Install to begin the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
@@ -1065,7 +1065,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
-        <translation type="unfinished">{\VerdanaBold13}Das Setup von [ProductName] wurde abgebrochen</translation>
+        <translation>{\VerdanaBold13}Das Setup von [ProductName] wurde abgebrochen</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1093,7 +1093,7 @@
     </message>
     <message>
         <source>This folder is already synced with another shared folder. Choose another folder.</source>
-        <translation type="unfinished">Dieser Ordner wird bereits mit einem anderen freigegebenen Ordner synchronisiert. Wählen Sie einen anderen Ordner aus.</translation>
+        <translation>Dieser Ordner wird bereits mit einem anderen freigegebenen Ordner synchronisiert. Wählen Sie einen anderen Ordner aus.</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1133,7 +1133,7 @@
     </message>
     <message>
         <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
-        <translation type="unfinished">Alle Dateien aus beiden Ordnern bleiben erhalten. Wenn sich zwei Versionen einer Datei unterscheiden, erhalten Sie beide.</translation>
+        <translation>Alle Dateien aus beiden Ordnern bleiben erhalten. Wenn sich zwei Versionen einer Datei unterscheiden, bleiben beide unter verschiedenen Namen erhalten.</translation>
     </message>
     <message>
         <source>Repair the installation</source>
@@ -1141,15 +1141,15 @@
     </message>
     <message>
         <source>Syncing turned on</source>
-        <translation type="unfinished">Synchronisierung aktiviert</translation>
+        <translation>Synchronisierung aktiviert</translation>
     </message>
     <message>
         <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Quillmere konnte nicht gestartet werden. Starten Sie den Computer neu und starten Sie dann Quillmere erneut.</translation>
+        <translation>Quillmere konnte nicht gestartet werden. Starten Sie den Computer neu und starten Sie dann Quillmere erneut. Details finden Sie in „~/.Quillmere/log“.</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
-        <translation type="unfinished">Möchten Sie das Setup von [ProductName] abbrechen?</translation>
+        <source>Cancel [ProductName] setup?</source>
+        <translation>Setup von [ProductName] abbrechen?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1173,7 +1173,7 @@
     </message>
     <message>
         <source>Browse versions...</source>
-        <translation type="unfinished">Versionen durchsuchen</translation>
+        <translation>Versionen durchsuchen&#xa0;…</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
@@ -1181,19 +1181,19 @@
     </message>
     <message>
         <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
-        <translation type="unfinished">Diese Verbindung ist inaktiv. Verknüpfen Sie sie erneut, um die Synchronisierung fortzusetzen.</translation>
+        <translation>Dieser Computer ist vom Server getrennt. Verbinden Sie ihn erneut, um die Synchronisierung fortzusetzen.</translation>
     </message>
     <message>
         <source>Detecting...</source>
-        <translation>Wird ermittelt…</translation>
+        <translation>Wird ermittelt&#xa0;…</translation>
     </message>
     <message>
         <source>Certificate warning</source>
-        <translation type="unfinished">SSL-Warnung</translation>
+        <translation>Zertifikatswarnung</translation>
     </message>
     <message>
         <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
-        <translation type="unfinished">Der Relay-Dienst ist nicht erreichbar. Prüfen Sie Ihre Internetverbindung und versuchen Sie es dann erneut.</translation>
+        <translation>Der Relay-Dienst ist nicht erreichbar. Prüfen Sie die Internetverbindung und versuchen Sie es dann erneut.</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
@@ -1201,11 +1201,11 @@
     </message>
     <message>
         <source>Downloading %1...</source>
-        <translation>„%1“ wird heruntergeladen…</translation>
+        <translation>„%1“ wird heruntergeladen&#xa0;…</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
-        <translation>&amp;Fertigstellen</translation>
+        <translation>Ab&amp;schließen</translation>
     </message>
     <message>
         <source>Read-only folder</source>
@@ -1229,27 +1229,27 @@
     </message>
     <message>
         <source>Direct connection</source>
-        <translation>Direkte Verbindung</translation>
+        <translation>Direktverbindung</translation>
     </message>
     <message>
         <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
-        <translation type="unfinished">Das Server-Volume, auf dem sich dieser Ordner befindet, ist nicht eingehängt. Bitten Sie den Serveradministrator, es einzuhängen.</translation>
+        <translation>Das Serverlaufwerk, auf dem sich dieser Ordner befindet, ist nicht eingehängt. Bitten Sie den Serveradministrator, es einzuhängen. Den Ordner finden Sie unter „Synchronisierungsaufgaben“.</translation>
     </message>
     <message>
         <source>This version of Quillmere is already installed. Install it again?</source>
-        <translation type="unfinished">Diese Version von Quillmere ist bereits installiert. Möchten Sie sie erneut installieren?</translation>
+        <translation>Diese Version von Quillmere ist bereits installiert. Erneut installieren?</translation>
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
-        <translation type="unfinished">Dieser Client ist zu alt für den Server. Aktualisieren Sie den Client und versuchen Sie es dann erneut.</translation>
+        <translation>Quillmere auf diesem Computer ist zu alt, um mit dem Server zusammenzuarbeiten. Aktualisieren Sie Quillmere und versuchen Sie es dann erneut.</translation>
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer.</source>
-        <translation type="unfinished">Der Server ist zu alt für diesen Client.</translation>
+        <translation>Quillmere auf dem Server ist zu alt, um mit diesem Computer zusammenzuarbeiten.</translation>
     </message>
     <message>
         <source>Turned off</source>
-        <translation type="unfinished">Deaktiviert</translation>
+        <translation>Deaktiviert</translation>
     </message>
 </context>
 </TS>

@@ -912,8 +912,8 @@
         <translation>Port</translation>
     </message>
     <message>
-        <source>Share link</source>
-        <translation>Share link</translation>
+        <source>Create share link</source>
+        <translation>Create share link</translation>
     </message>
     <message>
         <source>The user name or password was not accepted by the server. Edit the connection and enter them again.</source>
@@ -1148,8 +1148,8 @@
         <translation>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
-        <translation>Cancel the setup of [ProductName]?</translation>
+        <source>Cancel [ProductName] setup?</source>
+        <translation>Cancel [ProductName] setup?</translation>
     </message>
     <message>
         <source>Continue anyway</source>

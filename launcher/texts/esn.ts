@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>Processing...</source>
-        <translation>Procesando…</translation>
+        <translation>Procesando...</translation>
     </message>
     <message>
         <source>Exit</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">La base de datos local está dañada. Desvincule la conexión y vuelva a vincularla para reconstruir la base de datos.</translation>
+        <translation>La base de datos local está dañada. Desconecte este equipo del servidor y vuelva a conectarlo para reconstruir la base de datos. Los detalles están en «~/.Quillmere/log».</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>The server has been replaced. Click here to reconnect.</source>
-        <translation type="unfinished">Se reemplazó el servidor. Haga clic aquí para volver a vincular la conexión.</translation>
+        <translation>Se ha reemplazado el servidor. Haga clic aquí para volver a conectar este equipo.</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -69,15 +69,15 @@
     </message>
     <message>
         <source>Exclusion list</source>
-        <translation type="unfinished">Lista de exclusión</translation>
+        <translation>Lista de exclusión</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
-        <translation>¿Eliminar este enlace compartido?\nLas personas que tengan el enlace ya no podrán abrir el archivo.</translation>
+        <translation>¿Borrar este enlace compartido?\nLas personas que tengan el enlace ya no podrán abrir el archivo.</translation>
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server.</source>
-        <translation type="unfinished">Este cliente es demasiado antiguo para el servidor.</translation>
+        <translation>Quillmere en este equipo es demasiado antiguo para funcionar con el servidor.</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
@@ -93,11 +93,11 @@
     </message>
     <message>
         <source>Testing the connection...</source>
-        <translation>Probando la conexión…</translation>
+        <translation>Probando la conexión...</translation>
     </message>
     <message>
         <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
-        <translation type="unfinished">El certificado SSL del servidor no es de confianza, por lo que otras personas podrían leer los datos que usted envíe. ¿Desea continuar?</translation>
+        <translation>El certificado del servidor no es de confianza: puede haber caducado, pertenecer a otro servidor o proceder de un emisor desconocido. Otras personas podrían leer los datos que envíe. ¿Continuar?</translation>
     </message>
     <message>
         <source>New shared folder</source>
@@ -105,11 +105,11 @@
     </message>
     <message>
         <source>About Quillmere</source>
-        <translation type="unfinished">Acerca de</translation>
+        <translation>Acerca de Quillmere</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
-        <translation>Compruebe la configuración que se muestra a continuación y haga clic en «Listo».</translation>
+        <translation>Compruebe los ajustes que se muestran a continuación y haga clic en «Hecho».</translation>
     </message>
     <message>
         <source>&amp;Print</source>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
-        <translation type="unfinished">Este equipo ya está vinculado a este servidor. Edite la conexión existente o indique otro servidor.</translation>
+        <translation>Este equipo ya está conectado a este servidor. Edite la conexión existente o introduzca otro servidor.</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -133,11 +133,11 @@
     </message>
     <message>
         <source>The certificate of the server could not be verified.</source>
-        <translation type="unfinished">No se pudo verificar el certificado SSL del servidor.</translation>
+        <translation>No se pudo verificar el certificado del servidor.</translation>
     </message>
     <message>
         <source>Use a black-and-white tray icon</source>
-        <translation type="unfinished">Usar un icono en blanco y negro en la bandeja del sistema</translation>
+        <translation>Usar un icono en blanco y negro en la bandeja del sistema</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -153,7 +153,7 @@
     </message>
     <message>
         <source>Excluded files</source>
-        <translation type="unfinished">Archivos excluidos</translation>
+        <translation>Archivos excluidos</translation>
     </message>
     <message>
         <source>No permission</source>
@@ -161,11 +161,11 @@
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
-        <translation type="unfinished">El servidor es demasiado antiguo para este cliente. Pida al administrador del servidor que lo actualice.</translation>
+        <translation>Quillmere en el servidor es demasiado antiguo para funcionar con este equipo. Pida al administrador del servidor que lo actualice.</translation>
     </message>
     <message>
         <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
-        <translation type="unfinished">Para volver a intentarlo, ejecute de nuevo el programa de instalación más tarde. Haga clic en «Finalizar» para salir del asistente de instalación.</translation>
+        <translation>Puede volver a ejecutar el programa de instalación en cualquier momento. Haga clic en «Finalizar» para salir del asistente de instalación.</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -181,7 +181,7 @@
     </message>
     <message>
         <source>Some settings have not been saved. Save them?</source>
-        <translation type="unfinished">Hay cambios en la configuración sin guardar. ¿Desea guardarlos?</translation>
+        <translation>Hay ajustes sin guardar. ¿Guardarlos?</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -193,11 +193,11 @@
     </message>
     <message>
         <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
-        <translation type="unfinished">Otro programa de sincronización ya usa esta carpeta. Elija otra carpeta para evitar conflictos.</translation>
+        <translation>Otro programa de sincronización ya usa esta carpeta. Elija otra carpeta para evitar conflictos.</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation>Eliminar</translation>
+        <translation>Borrar</translation>
     </message>
     <message>
         <source>Incompatible version</source>
@@ -205,15 +205,15 @@
     </message>
     <message>
         <source>Change sync folder</source>
-        <translation type="unfinished">Cambiar la carpeta de sincronización</translation>
+        <translation>Cambiar carpeta de sincronización</translation>
     </message>
     <message>
         <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
-        <translation type="unfinished">Introduzca un nombre de archivo completo, sin la ruta de la carpeta.</translation>
+        <translation>Introduzca un nombre de archivo completo, sin la ruta de la carpeta; por ejemplo, «thumbs.db».</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
-        <translation type="unfinished">[DlgTitleFont]Un error interrumpió la instalación y se deshicieron los cambios realizados.</translation>
+        <translation>[DlgTitleFont]El programa de instalación se detuvo debido a un error. Se deshicieron los cambios que había realizado.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -241,7 +241,7 @@
     </message>
     <message>
         <source>Use an encrypted connection (TLS)</source>
-        <translation type="unfinished">Cifrar la transferencia de datos con SSL</translation>
+        <translation>Usar una conexión cifrada (TLS)</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -277,7 +277,7 @@
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished">Desvincular</translation>
+        <translation>Desconectar</translation>
     </message>
     <message>
         <source>Back</source>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Quillmere is initializing...</source>
-        <translation>Inicializando Quillmere…</translation>
+        <translation>Inicializando Quillmere...</translation>
     </message>
     <message>
         <source>Start now</source>
@@ -313,11 +313,11 @@
     </message>
     <message>
         <source>Applying the settings...</source>
-        <translation>Aplicando la configuración…</translation>
+        <translation>Aplicando los ajustes...</translation>
     </message>
     <message>
         <source>Files excluded from syncing</source>
-        <translation type="unfinished">Archivos que no se sincronizan</translation>
+        <translation>Archivos excluidos de la sincronización</translation>
     </message>
     <message>
         <source>Created</source>
@@ -333,7 +333,7 @@
     </message>
     <message>
         <source>Choose shared folders to sync</source>
-        <translation type="unfinished">Elija las carpetas compartidas que desea sincronizar</translation>
+        <translation>Elija las carpetas compartidas que desea sincronizar</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -341,7 +341,7 @@
     </message>
     <message>
         <source>Uploading...</source>
-        <translation>Subiendo…</translation>
+        <translation>Subiendo...</translation>
     </message>
     <message>
         <source>To use selective sync, ask the server administrator to upgrade Quillmere on the server.</source>
@@ -349,7 +349,7 @@
     </message>
     <message>
         <source>No settings have been changed.</source>
-        <translation>No se realizaron cambios en la configuración.</translation>
+        <translation>No se ha cambiado ningún ajuste.</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Files in use</source>
@@ -361,7 +361,7 @@
     </message>
     <message>
         <source>Excluded file extensions</source>
-        <translation type="unfinished">Extensiones de archivo excluidas</translation>
+        <translation>Extensiones de archivo excluidas</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -377,7 +377,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
-        <translation type="unfinished">El volumen que contiene la carpeta de sincronización no está montado. Monte el volumen y reanude la sincronización.</translation>
+        <translation>La unidad que contiene la carpeta de sincronización no está montada. Monte la unidad y reanude la sincronización. La carpeta se indica en «Tareas de sincronización».</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is full.</source>
-        <translation type="unfinished">Este equipo no tiene espacio libre en disco.</translation>
+        <translation>La unidad que contiene la carpeta de sincronización está llena.</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -401,7 +401,7 @@
     </message>
     <message>
         <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
-        <translation type="unfinished">Ya existe una carpeta con este nombre. ¿Desea combinar sus archivos con los del servidor?</translation>
+        <translation>Ya existe una carpeta con este nombre en este equipo. ¿Combinar sus archivos con los del servidor?</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
@@ -421,7 +421,7 @@
     </message>
     <message>
         <source>Upgrading Quillmere...</source>
-        <translation>Actualizando Quillmere…</translation>
+        <translation>Actualizando Quillmere...</translation>
     </message>
     <message>
         <source>Sync mode</source>
@@ -445,15 +445,15 @@
     </message>
     <message>
         <source>Done</source>
-        <translation>Listo</translation>
+        <translation>Hecho</translation>
     </message>
     <message>
         <source>Files being synced: %1</source>
-        <translation type="unfinished">Sincronizando archivos (%1)…</translation>
+        <translation>Archivos que se están sincronizando: %1</translation>
     </message>
     <message>
         <source>Reconnect</source>
-        <translation type="unfinished">Volver a vincular</translation>
+        <translation>Volver a conectar</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -473,7 +473,7 @@
     </message>
     <message>
         <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
-        <translation type="unfinished">Las carpetas y los archivos que desmarcó se eliminarán de este equipo. Se conservarán en el servidor.</translation>
+        <translation>Las carpetas y los archivos que desmarcó se eliminarán de este equipo. Se conservarán en el servidor.</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
@@ -489,19 +489,19 @@
     </message>
     <message>
         <source>Disconnected</source>
-        <translation type="unfinished">Inactiva</translation>
+        <translation>Desconectado</translation>
     </message>
     <message>
         <source>You have used all of your space on the server.</source>
-        <translation type="unfinished">Su cuota en el servidor está agotada.</translation>
+        <translation>Su espacio en el servidor está agotado.</translation>
     </message>
     <message>
         <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">¿Desvincular esta conexión?\nSus archivos se conservarán en este equipo y en el servidor, pero dejarán de sincronizarse.</translation>
+        <translation>¿Desconectar este equipo del servidor?\nSus archivos se conservarán en este equipo y en el servidor, pero dejarán de sincronizarse.</translation>
     </message>
     <message>
         <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
-        <translation type="unfinished">El servicio de retransmisión tiene un problema. Inténtelo de nuevo más tarde o conéctese con la dirección IP del servidor.</translation>
+        <translation>El servicio de retransmisión tiene un problema. Inténtelo de nuevo más tarde o conéctese al servidor mediante su dirección IP.</translation>
     </message>
     <message>
         <source>Server ID</source>
@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>Excluded file names</source>
-        <translation type="unfinished">Nombres de archivo excluidos</translation>
+        <translation>Nombres de archivo excluidos</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -521,23 +521,23 @@
     </message>
     <message>
         <source>Turned on</source>
-        <translation type="unfinished">Activado</translation>
+        <translation>Activado</translation>
     </message>
     <message>
         <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
-        <translation type="unfinished">Este equipo no tiene espacio libre en disco. Libere espacio para continuar la sincronización.</translation>
+        <translation>La unidad que contiene la carpeta de sincronización está llena. Libere espacio en la unidad para continuar la sincronización.</translation>
     </message>
     <message>
         <source>Folders to sync</source>
-        <translation>Carpetas para sincronizar</translation>
+        <translation>Carpetas que se sincronizarán</translation>
     </message>
     <message>
         <source>Choose sync folder</source>
-        <translation type="unfinished">Elija una carpeta de sincronización</translation>
+        <translation>Elija la carpeta de sincronización</translation>
     </message>
     <message>
         <source>Connection settings</source>
-        <translation>Configuración de conexión</translation>
+        <translation>Ajustes de conexión</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -549,7 +549,7 @@
     </message>
     <message>
         <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
-        <translation type="unfinished">Su cuota en el servidor está agotada. Elimine los archivos que no necesite o pida al administrador del servidor una cuota mayor.</translation>
+        <translation>Su espacio en el servidor está agotado. Borre los archivos que no necesite o pida más espacio al administrador del servidor.</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
@@ -565,11 +565,11 @@
     </message>
     <message>
         <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
-        <translation type="unfinished">Este archivo se modificó en dos lugares. Compare ambas copias y conserve la que necesite.</translation>
+        <translation>Este archivo se modificó en este equipo y en el servidor. Ambas copias están en la misma carpeta con nombres distintos. Compárelas y conserve la que necesite.</translation>
     </message>
     <message>
         <source>All your files on every computer, kept on your own server</source>
-        <translation type="unfinished">Un solo lugar para sus archivos en todos los equipos, a través de su propio servidor</translation>
+        <translation>Todos sus archivos en todos sus equipos, guardados en su propio servidor</translation>
     </message>
     <message>
         <source>OK</source>
@@ -581,7 +581,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
-        <translation type="unfinished">Las siguientes aplicaciones usan archivos que el programa de instalación debe actualizar. Ciérrelas y haga clic en «Reintentar», o bien haga clic en «Ignorar» para continuar sin cerrarlas o en «Salir» para abandonar la instalación.</translation>
+        <translation>Las siguientes aplicaciones usan archivos que el programa de instalación debe actualizar. Ciérrelas y haga clic en «Reintentar». Para continuar sin cerrarlas, haga clic en «Ignorar». Para salir del programa de instalación, haga clic en «Salir».</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -597,11 +597,11 @@
     </message>
     <message>
         <source>Edit connection...</source>
-        <translation type="unfinished">Editar conexión</translation>
+        <translation>Editar conexión...</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation>Configuración</translation>
+        <translation>Ajustes</translation>
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
@@ -617,7 +617,7 @@
     </message>
     <message>
         <source>Please restart %1 to apply the new language settings.</source>
-        <translation>Reinicie %1 para aplicar la nueva configuración de idioma.</translation>
+        <translation>Reinicie %1 para aplicar los nuevos ajustes de idioma.</translation>
     </message>
     <message>
         <source>Pause</source>
@@ -625,31 +625,31 @@
     </message>
     <message>
         <source>Show icon overlays on excluded files</source>
-        <translation type="unfinished">Mostrar iconos superpuestos en los archivos filtrados</translation>
+        <translation>Mostrar iconos superpuestos en los archivos excluidos</translation>
     </message>
     <message>
         <source>Loading...</source>
-        <translation>Cargando…</translation>
+        <translation>Cargando...</translation>
     </message>
     <message>
         <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
-        <translation type="unfinished">El número máximo de carpetas compartidas que se pueden sincronizar es %1. Deje de sincronizar una antes de agregar otra.</translation>
+        <translation>Se ha alcanzado el límite de carpetas compartidas sincronizadas: %1. Deje de sincronizar una carpeta compartida antes de añadir otra.</translation>
     </message>
     <message>
         <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">¿Desvincular esta tarea de sincronización?\nSus archivos se conservarán en este equipo y en el servidor, pero dejarán de sincronizarse.</translation>
+        <translation>¿Eliminar esta tarea de sincronización?\nSus archivos se conservarán en este equipo y en el servidor, pero dejarán de sincronizarse.</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
-        <translation>Iniciando Quillmere…</translation>
+        <translation>Iniciando Quillmere...</translation>
     </message>
     <message>
         <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">No se pudo actualizar Quillmere. Reinicie el equipo e inténtelo de nuevo.</translation>
+        <translation>No se pudo actualizar Quillmere. Se conservó la versión anterior. Reinicie el equipo e inténtelo de nuevo. Los detalles están en «~/.Quillmere/log».</translation>
     </message>
     <message>
         <source>Exclude names that begin with a dot</source>
-        <translation type="unfinished">Excluir los nombres que comienzan con un punto</translation>
+        <translation>Excluir los nombres que comienzan con un punto</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -673,7 +673,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup is complete</source>
-        <translation type="unfinished">{\VerdanaBold13}Finalización del asistente de instalación de [ProductName]</translation>
+        <translation>{\VerdanaBold13}El programa de instalación de [ProductName] ha terminado</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -701,7 +701,7 @@
     </message>
     <message>
         <source>Watching for file changes...</source>
-        <translation>Supervisando los cambios en los archivos…</translation>
+        <translation>Supervisando los cambios en los archivos...</translation>
     </message>
     <message>
         <source>Shared folder</source>
@@ -709,19 +709,19 @@
     </message>
     <message>
         <source>Quillmere settings</source>
-        <translation type="unfinished">Opciones del cliente</translation>
+        <translation>Ajustes de Quillmere</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
-        <translation>No se pudo eliminar el enlace compartido. Compruebe la conexión con el servidor e inténtelo de nuevo.</translation>
+        <translation>No se pudo borrar el enlace compartido. Compruebe la conexión con el servidor e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
-        <translation type="unfinished">No se pudo verificar el certificado SSL del servidor. Pida al administrador del servidor que revise el certificado.</translation>
+        <translation>No se pudo verificar el certificado del servidor: puede haber caducado, pertenecer a otro servidor o proceder de un emisor desconocido. Pida al administrador del servidor que revise el certificado.</translation>
     </message>
     <message>
         <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
-        <translation type="unfinished">Este no es el servidor al que estaba vinculada la conexión. Compruebe la dirección del servidor o vuelva a vincular la conexión.</translation>
+        <translation>Este no es el servidor al que estaba conectado este equipo. Compruebe la dirección del servidor o vuelva a conectar este equipo.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -741,7 +741,7 @@
     </message>
     <message>
         <source>Delete link</source>
-        <translation>Eliminar enlace</translation>
+        <translation>Borrar enlace</translation>
     </message>
     <message>
         <source>Error</source>
@@ -757,11 +757,11 @@
     </message>
     <message>
         <source>Manage connections</source>
-        <translation>Administrar conexiones</translation>
+        <translation>Gestionar conexiones</translation>
     </message>
     <message>
         <source>Connect to another server...</source>
-        <translation type="unfinished">Vincular a otro servidor</translation>
+        <translation>Conectar a otro servidor...</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]Making changes to [ProductName]</source>
-        <translation type="unfinished">[DlgTitleFont]Configurando [ProductName]</translation>
+        <translation>[DlgTitleFont]Realizando cambios en [ProductName]</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -789,7 +789,7 @@
     </message>
     <message>
         <source>Files to exclude</source>
-        <translation type="unfinished">Filtro de archivos</translation>
+        <translation>Archivos que se excluirán</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -801,7 +801,7 @@
     </message>
     <message>
         <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Se produjo un problema. Inténtelo de nuevo y, si el problema continúa, póngase en contacto con el administrador del servidor.</translation>
+        <translation>Se produjo un problema. Inténtelo de nuevo y, si el problema continúa, póngase en contacto con el administrador del servidor. Los detalles están en «~/.Quillmere/log».</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -821,15 +821,15 @@
     </message>
     <message>
         <source>Proxy settings</source>
-        <translation>Configuración del proxy</translation>
+        <translation>Ajustes del proxy</translation>
     </message>
     <message>
         <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
-        <translation type="unfinished">No ha iniciado sesión como administrador, por lo que es posible que Quillmere no se instale por completo. ¿Desea continuar?</translation>
+        <translation>No ha iniciado sesión como administrador, por lo que es posible que Quillmere no se instale por completo. ¿Continuar?</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
-        <translation>Use el icono de la bandeja del sistema en cualquier momento para ver el estado de la sincronización o cambiar la configuración.</translation>
+        <translation>Use el icono de la bandeja del sistema en cualquier momento para ver el estado de la sincronización o cambiar los ajustes.</translation>
     </message>
     <message>
         <source>Share link created</source>
@@ -873,7 +873,7 @@
     </message>
     <message>
         <source>Choose another folder...</source>
-        <translation type="unfinished">Elegir otra carpeta</translation>
+        <translation>Elegir otra carpeta...</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -897,22 +897,22 @@
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">Desvincular</translation>
+        <translation>Eliminar</translation>
     </message>
     <message>
         <source>Another server was found at the server address.</source>
-        <translation type="unfinished">En la dirección del servidor se encontró un servidor distinto.</translation>
+        <translation>En la dirección del servidor se encontró otro servidor.</translation>
     </message>
     <message>
         <source>Connecting to the server...</source>
-        <translation type="unfinished">Vinculando al servidor…</translation>
+        <translation>Conectando al servidor...</translation>
     </message>
     <message>
         <source>Port</source>
         <translation>Puerto</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Create share link</source>
         <translation>Crear enlace compartido</translation>
     </message>
     <message>
@@ -925,11 +925,11 @@
     </message>
     <message>
         <source>Use the system proxy settings</source>
-        <translation>Usar la configuración de proxy del sistema</translation>
+        <translation>Usar los ajustes de proxy del sistema</translation>
     </message>
     <message>
         <source>Change folder...</source>
-        <translation type="unfinished">Cambiar carpeta</translation>
+        <translation>Cambiar carpeta...</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -941,11 +941,11 @@
     </message>
     <message>
         <source>Downloading...</source>
-        <translation>Descargando…</translation>
+        <translation>Descargando...</translation>
     </message>
     <message>
         <source>File locked</source>
-        <translation type="unfinished">El archivo está bloqueado</translation>
+        <translation>Archivo bloqueado</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -953,11 +953,11 @@
     </message>
     <message>
         <source>Preparing...</source>
-        <translation>Preparando…</translation>
+        <translation>Preparando...</translation>
     </message>
     <message>
         <source>Syncing files...</source>
-        <translation type="unfinished">Actualizando archivos…</translation>
+        <translation>Sincronizando archivos...</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -965,15 +965,15 @@
     </message>
     <message>
         <source>Checking the user name and password...</source>
-        <translation>Comprobando el nombre de usuario y la contraseña…</translation>
+        <translation>Comprobando el nombre de usuario y la contraseña...</translation>
     </message>
     <message>
         <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
-        <translation type="unfinished">Espere mientras el asistente de instalación configura [ProductName]. Esta operación puede tardar varios minutos.</translation>
+        <translation>Espere mientras el asistente de instalación realiza los cambios en [ProductName]. Esta operación puede tardar varios minutos.</translation>
     </message>
     <message>
         <source>Manage</source>
-        <translation>Administrar</translation>
+        <translation>Gestionar</translation>
     </message>
     <message>
         <source>Status</source>
@@ -1001,7 +1001,7 @@
     </message>
     <message>
         <source>Add</source>
-        <translation>Agregar</translation>
+        <translation>Añadir</translation>
     </message>
     <message>
         <source>Value</source>
@@ -1013,7 +1013,7 @@
     </message>
     <message>
         <source>E&amp;xit</source>
-        <translation>Sa&amp;lir</translation>
+        <translation>&amp;Salir</translation>
     </message>
     <message>
         <source>The share link was copied to the clipboard.</source>
@@ -1021,7 +1021,7 @@
     </message>
     <message>
         <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
-        <translation type="unfinished">No se encontró la carpeta de sincronización local. Restáurela o elija otra.</translation>
+        <translation>No se encontró la carpeta de sincronización local. Restáurela o elija otra carpeta. La ruta se indica en «Tareas de sincronización».</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
@@ -1029,15 +1029,15 @@
     </message>
     <message>
         <source>Add sync task...</source>
-        <translation type="unfinished">Agregar tarea de sincronización</translation>
+        <translation>Añadir tarea...</translation>
     </message>
     <message>
         <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
-        <translation type="unfinished">La carpeta compartida no está montada en el servidor. Pida al administrador del servidor que la monte.</translation>
+        <translation>La carpeta compartida no está montada en el servidor. Pida al administrador del servidor que la monte. El nombre de la carpeta se indica en «Carpetas compartidas».</translation>
     </message>
     <message>
         <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">El servidor envió una respuesta inesperada. Actualice el cliente y el servidor e inténtelo de nuevo.</translation>
+        <translation>El servidor envió una respuesta inesperada. Actualice Quillmere en este equipo y pida al administrador del servidor que lo actualice en el servidor. Los detalles están en «~/.Quillmere/log».</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1049,15 +1049,15 @@
     </message>
     <message>
         <source>Enter a size of at most %1 MB.</source>
-        <translation>Introduzca un tamaño de %1 MB como máximo.</translation>
+        <translation>Introduzca un tamaño de %1&#xa0;MB como máximo.</translation>
     </message>
     <message>
         <source>Checking files...</source>
-        <translation type="unfinished">Comprobando los datos…</translation>
+        <translation>Comprobando archivos...</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
-        <translation>Intentando sincronizar…</translation>
+        <translation>Intentando sincronizar...</translation>
     </message>
     <message>
         <source>Click Install to begin the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
@@ -1065,7 +1065,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
-        <translation type="unfinished">{\VerdanaBold13}La instalación de [ProductName] se interrumpió</translation>
+        <translation>{\VerdanaBold13}El programa de instalación de [ProductName] se canceló</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1089,11 +1089,11 @@
     </message>
     <message>
         <source>Network settings</source>
-        <translation>Configuración de red</translation>
+        <translation>Ajustes de red</translation>
     </message>
     <message>
         <source>This folder is already synced with another shared folder. Choose another folder.</source>
-        <translation type="unfinished">Esta carpeta ya está sincronizada con otra carpeta compartida. Elija otra carpeta.</translation>
+        <translation>Esta carpeta ya está sincronizada con otra carpeta compartida. Elija otra carpeta.</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1117,7 +1117,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup did not finish</source>
-        <translation>{\VerdanaBold13}La instalación de [ProductName] no se completó</translation>
+        <translation>{\VerdanaBold13}El programa de instalación de [ProductName] no terminó</translation>
     </message>
     <message>
         <source>Quillmere is already running.</source>
@@ -1125,7 +1125,7 @@
     </message>
     <message>
         <source>Welcome</source>
-        <translation>Bienvenida</translation>
+        <translation>Le damos la bienvenida</translation>
     </message>
     <message>
         <source>Start Quillmere when I sign in to this computer</source>
@@ -1133,7 +1133,7 @@
     </message>
     <message>
         <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
-        <translation type="unfinished">Se conservan todos los archivos de ambas carpetas. Si dos versiones de un archivo son distintas, obtendrá las dos.</translation>
+        <translation>Se conservan todos los archivos de ambas carpetas. Si dos versiones de un archivo difieren, se conservan ambas con nombres distintos.</translation>
     </message>
     <message>
         <source>Repair the installation</source>
@@ -1141,15 +1141,15 @@
     </message>
     <message>
         <source>Syncing turned on</source>
-        <translation type="unfinished">Sincronización activada</translation>
+        <translation>Sincronización activada</translation>
     </message>
     <message>
         <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">No se pudo iniciar Quillmere. Reinicie el equipo y vuelva a iniciar Quillmere.</translation>
+        <translation>No se pudo iniciar Quillmere. Reinicie el equipo y vuelva a iniciar Quillmere. Los detalles están en «~/.Quillmere/log».</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
-        <translation type="unfinished">¿Desea cancelar la instalación de [ProductName]?</translation>
+        <source>Cancel [ProductName] setup?</source>
+        <translation>¿Cancelar el programa de instalación de [ProductName]?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1169,11 +1169,11 @@
     </message>
     <message>
         <source>Advanced settings</source>
-        <translation>Configuración avanzada</translation>
+        <translation>Ajustes avanzados</translation>
     </message>
     <message>
         <source>Browse versions...</source>
-        <translation type="unfinished">Explorar versiones</translation>
+        <translation>Explorar versiones...</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
@@ -1181,19 +1181,19 @@
     </message>
     <message>
         <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
-        <translation type="unfinished">Esta conexión está inactiva. Vuelva a vincularla para continuar la sincronización.</translation>
+        <translation>Este equipo está desconectado del servidor. Vuelva a conectarlo para continuar la sincronización.</translation>
     </message>
     <message>
         <source>Detecting...</source>
-        <translation>Detectando…</translation>
+        <translation>Detectando...</translation>
     </message>
     <message>
         <source>Certificate warning</source>
-        <translation type="unfinished">Advertencia de SSL</translation>
+        <translation>Advertencia de certificado</translation>
     </message>
     <message>
         <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
-        <translation type="unfinished">No se puede acceder al servicio de retransmisión. Compruebe la conexión a Internet e inténtelo de nuevo.</translation>
+        <translation>No se puede acceder al servicio de retransmisión. Compruebe la conexión a Internet e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
@@ -1201,7 +1201,7 @@
     </message>
     <message>
         <source>Downloading %1...</source>
-        <translation>Descargando «%1»…</translation>
+        <translation>Descargando «%1»...</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
@@ -1213,7 +1213,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]You canceled setup, and your computer was not changed.</source>
-        <translation>[DlgTitleFont]Se canceló la instalación y no se realizaron cambios en el equipo.</translation>
+        <translation>[DlgTitleFont]Se canceló el programa de instalación y no se realizaron cambios en el equipo.</translation>
     </message>
     <message>
         <source>The port number is not valid. Enter a number from 1 to 65535.</source>
@@ -1233,23 +1233,23 @@
     </message>
     <message>
         <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
-        <translation type="unfinished">El volumen del servidor que contiene esta carpeta no está montado. Pida al administrador del servidor que lo monte.</translation>
+        <translation>En el servidor, la unidad que contiene esta carpeta no está montada. Pida al administrador del servidor que monte la unidad. La carpeta se indica en «Tareas de sincronización».</translation>
     </message>
     <message>
         <source>This version of Quillmere is already installed. Install it again?</source>
-        <translation type="unfinished">Esta versión de Quillmere ya está instalada. ¿Desea volver a instalarla?</translation>
+        <translation>Esta versión de Quillmere ya está instalada. ¿Instalarla de nuevo?</translation>
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
-        <translation type="unfinished">Este cliente es demasiado antiguo para el servidor. Actualice el cliente e inténtelo de nuevo.</translation>
+        <translation>Quillmere en este equipo es demasiado antiguo para funcionar con el servidor. Actualícelo e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer.</source>
-        <translation type="unfinished">El servidor es demasiado antiguo para este cliente.</translation>
+        <translation>Quillmere en el servidor es demasiado antiguo para funcionar con este equipo.</translation>
     </message>
     <message>
         <source>Turned off</source>
-        <translation type="unfinished">Desactivado</translation>
+        <translation>Desactivado</translation>
     </message>
 </context>
 </TS>

@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>Processing...</source>
-        <translation>Traitement en cours…</translation>
+        <translation>Traitement en cours...</translation>
     </message>
     <message>
         <source>Exit</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">La base de données locale est endommagée. Dissociez la connexion, puis associez-la de nouveau pour reconstruire la base de données.</translation>
+        <translation>La base de données locale est endommagée. Déconnectez cet ordinateur du serveur, puis reconnectez-le pour reconstruire la base de données. Les détails se trouvent dans «&#xa0;~/.Quillmere/log&#xa0;».</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>The server has been replaced. Click here to reconnect.</source>
-        <translation type="unfinished">Le serveur a été remplacé. Cliquez ici pour renouveler l’association.</translation>
+        <translation>Le serveur a été remplacé. Cliquez ici pour reconnecter cet ordinateur.</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -69,7 +69,7 @@
     </message>
     <message>
         <source>Exclusion list</source>
-        <translation type="unfinished">Liste d’exclusion</translation>
+        <translation>Liste d’exclusion</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server.</source>
-        <translation type="unfinished">Ce client est trop ancien pour le serveur.</translation>
+        <translation>Quillmere sur cet ordinateur est trop ancien pour fonctionner avec le serveur.</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
@@ -93,11 +93,11 @@
     </message>
     <message>
         <source>Testing the connection...</source>
-        <translation>Test de la connexion…</translation>
+        <translation>Test de la connexion...</translation>
     </message>
     <message>
         <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
-        <translation type="unfinished">Le certificat SSL du serveur n’est pas approuvé&#xa0;: des tiers pourraient lire les données que vous envoyez. Voulez-vous continuer&#xa0;?</translation>
+        <translation>Le certificat du serveur n’est pas approuvé&#xa0;: il peut avoir expiré, appartenir à un autre serveur ou provenir d’un émetteur inconnu. Des tiers pourraient lire les données que vous envoyez. Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>New shared folder</source>
@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>About Quillmere</source>
-        <translation type="unfinished">À propos</translation>
+        <translation>À propos de Quillmere</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
-        <translation type="unfinished">Cet ordinateur est déjà associé à ce serveur. Modifiez la connexion existante ou indiquez un autre serveur.</translation>
+        <translation>Cet ordinateur est déjà connecté à ce serveur. Modifiez la connexion existante ou indiquez un autre serveur.</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -133,11 +133,11 @@
     </message>
     <message>
         <source>The certificate of the server could not be verified.</source>
-        <translation type="unfinished">Le certificat SSL du serveur n’a pas pu être vérifié.</translation>
+        <translation>Impossible de vérifier le certificat du serveur.</translation>
     </message>
     <message>
         <source>Use a black-and-white tray icon</source>
-        <translation type="unfinished">Utiliser une icône en noir et blanc dans la zone de notification</translation>
+        <translation>Utiliser une icône en noir et blanc dans la zone de notification</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -153,7 +153,7 @@
     </message>
     <message>
         <source>Excluded files</source>
-        <translation type="unfinished">Fichiers exclus</translation>
+        <translation>Fichiers exclus</translation>
     </message>
     <message>
         <source>No permission</source>
@@ -161,11 +161,11 @@
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
-        <translation type="unfinished">Le serveur est trop ancien pour ce client. Demandez à l’administrateur du serveur de le mettre à jour.</translation>
+        <translation>Quillmere sur le serveur est trop ancien pour fonctionner avec cet ordinateur. Demandez à l’administrateur du serveur de le mettre à jour.</translation>
     </message>
     <message>
         <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
-        <translation type="unfinished">Pour réessayer, relancez l’installation ultérieurement. Cliquez sur «&#xa0;Terminer&#xa0;» pour quitter l’assistant d’installation.</translation>
+        <translation>Vous pouvez relancer le programme d’installation à tout moment. Cliquez sur «&#xa0;Terminer&#xa0;» pour quitter l’assistant d’installation.</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -181,7 +181,7 @@
     </message>
     <message>
         <source>Some settings have not been saved. Save them?</source>
-        <translation type="unfinished">Certains paramètres n’ont pas été enregistrés. Voulez-vous les enregistrer&#xa0;?</translation>
+        <translation>Certains paramètres n’ont pas été enregistrés. Les enregistrer&#xa0;?</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -193,7 +193,7 @@
     </message>
     <message>
         <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
-        <translation type="unfinished">Ce dossier est déjà utilisé par un autre programme de synchronisation. Choisissez un autre dossier pour éviter les conflits.</translation>
+        <translation>Ce dossier est déjà utilisé par un autre programme de synchronisation. Choisissez un autre dossier pour éviter les conflits.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -205,15 +205,15 @@
     </message>
     <message>
         <source>Change sync folder</source>
-        <translation type="unfinished">Changer de dossier de synchronisation</translation>
+        <translation>Changer de dossier de synchronisation</translation>
     </message>
     <message>
         <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
-        <translation type="unfinished">Saisissez un nom de fichier complet, sans chemin de dossier.</translation>
+        <translation>Saisissez un nom de fichier complet, sans chemin de dossier, par exemple «&#xa0;thumbs.db&#xa0;».</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
-        <translation type="unfinished">[DlgTitleFont]Une erreur a interrompu l’installation et les modifications apportées ont été annulées.</translation>
+        <translation>[DlgTitleFont]Le programme d’installation s’est arrêté à cause d’une erreur. Les modifications qu’il avait effectuées ont été annulées.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -241,7 +241,7 @@
     </message>
     <message>
         <source>Use an encrypted connection (TLS)</source>
-        <translation type="unfinished">Chiffrer le transfert de données avec SSL</translation>
+        <translation>Utiliser une connexion chiffrée (TLS)</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -277,7 +277,7 @@
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished">Dissocier</translation>
+        <translation>Déconnecter</translation>
     </message>
     <message>
         <source>Back</source>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Quillmere is initializing...</source>
-        <translation>Initialisation de Quillmere…</translation>
+        <translation>Initialisation de Quillmere...</translation>
     </message>
     <message>
         <source>Start now</source>
@@ -309,15 +309,15 @@
     </message>
     <message>
         <source>This version could not be downloaded. Check the connection to the server, then try again.</source>
-        <translation>Cette version n’a pas pu être téléchargée. Vérifiez la connexion au serveur, puis réessayez.</translation>
+        <translation>Impossible de télécharger cette version. Vérifiez la connexion au serveur, puis réessayez.</translation>
     </message>
     <message>
         <source>Applying the settings...</source>
-        <translation>Application des paramètres…</translation>
+        <translation>Application des paramètres...</translation>
     </message>
     <message>
         <source>Files excluded from syncing</source>
-        <translation type="unfinished">Fichiers non synchronisés</translation>
+        <translation>Fichiers exclus de la synchronisation</translation>
     </message>
     <message>
         <source>Created</source>
@@ -333,7 +333,7 @@
     </message>
     <message>
         <source>Choose shared folders to sync</source>
-        <translation type="unfinished">Choisissez les dossiers partagés à synchroniser</translation>
+        <translation>Choisissez les dossiers partagés à synchroniser</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -341,7 +341,7 @@
     </message>
     <message>
         <source>Uploading...</source>
-        <translation>Envoi en cours…</translation>
+        <translation>Envoi en cours...</translation>
     </message>
     <message>
         <source>To use selective sync, ask the server administrator to upgrade Quillmere on the server.</source>
@@ -361,7 +361,7 @@
     </message>
     <message>
         <source>Excluded file extensions</source>
-        <translation type="unfinished">Extensions de fichier exclues</translation>
+        <translation>Extensions de fichier exclues</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}Welcome back to the [ProductName] Setup Wizard</source>
-        <translation>{\VerdanaBold13}Bienvenue de nouveau dans l’assistant d’installation de [ProductName]</translation>
+        <translation>{\VerdanaBold13}Bon retour dans l’assistant d’installation de [ProductName]</translation>
     </message>
     <message>
         <source>Password</source>
@@ -377,7 +377,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
-        <translation type="unfinished">Le volume qui contient le dossier de synchronisation n’est pas monté. Montez le volume, puis reprenez la synchronisation.</translation>
+        <translation>Le lecteur qui contient le dossier de synchronisation n’est pas monté. Montez le lecteur, puis reprenez la synchronisation. Le dossier est indiqué sous «&#xa0;Tâches de synchronisation&#xa0;».</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is full.</source>
-        <translation type="unfinished">Cet ordinateur n’a plus d’espace disque disponible.</translation>
+        <translation>Le lecteur qui contient le dossier de synchronisation est plein.</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -401,7 +401,7 @@
     </message>
     <message>
         <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
-        <translation type="unfinished">Un dossier portant ce nom existe déjà. Voulez-vous fusionner ses fichiers avec ceux du serveur&#xa0;?</translation>
+        <translation>Un dossier portant ce nom existe déjà sur cet ordinateur. Fusionner ses fichiers avec ceux du serveur&#xa0;?</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
@@ -421,7 +421,7 @@
     </message>
     <message>
         <source>Upgrading Quillmere...</source>
-        <translation>Mise à jour de Quillmere…</translation>
+        <translation>Mise à jour de Quillmere...</translation>
     </message>
     <message>
         <source>Sync mode</source>
@@ -449,11 +449,11 @@
     </message>
     <message>
         <source>Files being synced: %1</source>
-        <translation type="unfinished">Synchronisation des fichiers (%1)…</translation>
+        <translation>Fichiers en cours de synchronisation&#xa0;: %1</translation>
     </message>
     <message>
         <source>Reconnect</source>
-        <translation type="unfinished">Associer de nouveau</translation>
+        <translation>Reconnecter</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -473,7 +473,7 @@
     </message>
     <message>
         <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
-        <translation type="unfinished">Les dossiers et les fichiers décochés seront supprimés de cet ordinateur. Ils seront conservés sur le serveur.</translation>
+        <translation>Les dossiers et les fichiers que vous avez désélectionnés seront supprimés de cet ordinateur. Ils seront conservés sur le serveur.</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
@@ -481,7 +481,7 @@
     </message>
     <message>
         <source>Click Remove to remove [ProductName] from your computer. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
-        <translation>Cliquez sur «&#xa0;Désinstaller&#xa0;» pour supprimer [ProductName] de votre ordinateur. Cliquez sur «&#xa0;Précédent&#xa0;» pour revoir vos choix ou sur «&#xa0;Annuler&#xa0;» pour quitter l’assistant d’installation.</translation>
+        <translation>Cliquez sur «&#xa0;Désinstaller&#xa0;» pour désinstaller [ProductName] de votre ordinateur. Cliquez sur «&#xa0;Précédent&#xa0;» pour revoir vos choix ou sur «&#xa0;Annuler&#xa0;» pour quitter l’assistant d’installation.</translation>
     </message>
     <message>
         <source>No space left</source>
@@ -489,19 +489,19 @@
     </message>
     <message>
         <source>Disconnected</source>
-        <translation type="unfinished">Inactive</translation>
+        <translation>Déconnecté</translation>
     </message>
     <message>
         <source>You have used all of your space on the server.</source>
-        <translation type="unfinished">Votre quota sur le serveur est atteint.</translation>
+        <translation>Vous avez utilisé tout votre espace sur le serveur.</translation>
     </message>
     <message>
         <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">Dissocier cette connexion&#xa0;?\nVos fichiers seront conservés sur cet ordinateur et sur le serveur, mais ils ne seront plus synchronisés.</translation>
+        <translation>Déconnecter cet ordinateur du serveur&#xa0;?\nVos fichiers seront conservés sur cet ordinateur et sur le serveur, mais ils ne seront plus synchronisés.</translation>
     </message>
     <message>
         <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
-        <translation type="unfinished">Le service de relais rencontre un problème. Réessayez plus tard ou connectez-vous avec l’adresse IP du serveur.</translation>
+        <translation>Le service de relais rencontre un problème. Réessayez plus tard ou connectez-vous au serveur par son adresse IP.</translation>
     </message>
     <message>
         <source>Server ID</source>
@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>Excluded file names</source>
-        <translation type="unfinished">Noms de fichier exclus</translation>
+        <translation>Noms de fichier exclus</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -521,11 +521,11 @@
     </message>
     <message>
         <source>Turned on</source>
-        <translation type="unfinished">Activé</translation>
+        <translation>Activé</translation>
     </message>
     <message>
         <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
-        <translation type="unfinished">Cet ordinateur n’a plus d’espace disque disponible. Libérez de l’espace pour poursuivre la synchronisation.</translation>
+        <translation>Le lecteur qui contient le dossier de synchronisation est plein. Libérez-y de l’espace pour poursuivre la synchronisation.</translation>
     </message>
     <message>
         <source>Folders to sync</source>
@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>Choose sync folder</source>
-        <translation type="unfinished">Choisissez un dossier de synchronisation</translation>
+        <translation>Choisissez le dossier de synchronisation</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -549,7 +549,7 @@
     </message>
     <message>
         <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
-        <translation type="unfinished">Votre quota sur le serveur est atteint. Supprimez les fichiers dont vous n’avez pas besoin ou demandez un quota plus élevé à l’administrateur du serveur.</translation>
+        <translation>Vous avez utilisé tout votre espace sur le serveur. Supprimez les fichiers dont vous n’avez pas besoin ou demandez davantage d’espace à l’administrateur du serveur.</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
@@ -565,11 +565,11 @@
     </message>
     <message>
         <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
-        <translation type="unfinished">Ce fichier a été modifié à deux endroits. Comparez les deux copies, puis conservez celle dont vous avez besoin.</translation>
+        <translation>Ce fichier a été modifié sur cet ordinateur et sur le serveur. Les deux copies se trouvent dans le même dossier sous des noms différents. Comparez-les, puis conservez celle dont vous avez besoin.</translation>
     </message>
     <message>
         <source>All your files on every computer, kept on your own server</source>
-        <translation type="unfinished">Un seul endroit pour vos fichiers, sur tous vos ordinateurs, grâce à votre propre serveur</translation>
+        <translation>Tous vos fichiers sur tous vos ordinateurs, conservés sur votre propre serveur</translation>
     </message>
     <message>
         <source>OK</source>
@@ -581,7 +581,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
-        <translation type="unfinished">Les applications suivantes utilisent des fichiers que le programme d’installation doit mettre à jour. Fermez-les, puis cliquez sur «&#xa0;Réessayer&#xa0;». Vous pouvez aussi cliquer sur «&#xa0;Ignorer&#xa0;» pour continuer sans les fermer ou sur «&#xa0;Quitter&#xa0;» pour quitter l’installation.</translation>
+        <translation>Les applications suivantes utilisent des fichiers que le programme d’installation doit mettre à jour. Fermez-les, puis cliquez sur «&#xa0;Réessayer&#xa0;». Pour continuer sans les fermer, cliquez sur «&#xa0;Ignorer&#xa0;». Pour quitter le programme d’installation, cliquez sur «&#xa0;Quitter&#xa0;».</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -597,7 +597,7 @@
     </message>
     <message>
         <source>Edit connection...</source>
-        <translation type="unfinished">Modifier la connexion</translation>
+        <translation>Modifier la connexion...</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -625,31 +625,31 @@
     </message>
     <message>
         <source>Show icon overlays on excluded files</source>
-        <translation type="unfinished">Afficher les icônes superposées sur les fichiers filtrés</translation>
+        <translation>Afficher les icônes superposées sur les fichiers exclus</translation>
     </message>
     <message>
         <source>Loading...</source>
-        <translation>Chargement…</translation>
+        <translation>Chargement...</translation>
     </message>
     <message>
         <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
-        <translation type="unfinished">Le nombre de dossiers partagés synchronisés est limité à %1. Arrêtez la synchronisation de l’un d’eux avant d’en ajouter un autre.</translation>
+        <translation>La limite de dossiers partagés synchronisés est atteinte&#xa0;: %1. Arrêtez la synchronisation d’un dossier partagé avant d’en ajouter un autre.</translation>
     </message>
     <message>
         <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">Dissocier cette tâche de synchronisation&#xa0;?\nSes fichiers seront conservés sur cet ordinateur et sur le serveur, mais ils ne seront plus synchronisés.</translation>
+        <translation>Supprimer cette tâche de synchronisation&#xa0;?\nSes fichiers seront conservés sur cet ordinateur et sur le serveur, mais ils ne seront plus synchronisés.</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
-        <translation>Démarrage de Quillmere…</translation>
+        <translation>Démarrage de Quillmere...</translation>
     </message>
     <message>
         <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">La mise à jour de Quillmere a échoué. Redémarrez l’ordinateur, puis réessayez.</translation>
+        <translation>Impossible de mettre à jour Quillmere. Votre version précédente a été conservée. Redémarrez l’ordinateur, puis réessayez. Les détails se trouvent dans «&#xa0;~/.Quillmere/log&#xa0;».</translation>
     </message>
     <message>
         <source>Exclude names that begin with a dot</source>
-        <translation type="unfinished">Exclure les noms qui commencent par un point</translation>
+        <translation>Exclure les noms qui commencent par un point</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -673,7 +673,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup is complete</source>
-        <translation type="unfinished">{\VerdanaBold13}Fin de l’assistant d’installation de [ProductName]</translation>
+        <translation>{\VerdanaBold13}Le programme d’installation de [ProductName] a terminé</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -697,11 +697,11 @@
     </message>
     <message>
         <source>%1 could not be downloaded. Check the connection to the server, then try again.</source>
-        <translation>Le fichier «&#xa0;%1&#xa0;» n’a pas pu être téléchargé. Vérifiez la connexion au serveur, puis réessayez.</translation>
+        <translation>Impossible de télécharger le fichier «&#xa0;%1&#xa0;». Vérifiez la connexion au serveur, puis réessayez.</translation>
     </message>
     <message>
         <source>Watching for file changes...</source>
-        <translation>Surveillance des modifications de fichiers…</translation>
+        <translation>Surveillance des modifications de fichiers...</translation>
     </message>
     <message>
         <source>Shared folder</source>
@@ -709,19 +709,19 @@
     </message>
     <message>
         <source>Quillmere settings</source>
-        <translation type="unfinished">Options du client</translation>
+        <translation>Paramètres de Quillmere</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
-        <translation>Le lien de partage n’a pas pu être supprimé. Vérifiez la connexion au serveur, puis réessayez.</translation>
+        <translation>Impossible de supprimer le lien de partage. Vérifiez la connexion au serveur, puis réessayez.</translation>
     </message>
     <message>
         <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
-        <translation type="unfinished">Le certificat SSL du serveur n’a pas pu être vérifié. Demandez à l’administrateur du serveur de contrôler le certificat.</translation>
+        <translation>Impossible de vérifier le certificat du serveur&#xa0;: il peut avoir expiré, appartenir à un autre serveur ou provenir d’un émetteur inconnu. Demandez à l’administrateur du serveur de contrôler le certificat.</translation>
     </message>
     <message>
         <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
-        <translation type="unfinished">Ce serveur n’est pas celui auquel la connexion a été associée. Vérifiez l’adresse du serveur ou renouvelez l’association.</translation>
+        <translation>Ce serveur n’est pas celui auquel cet ordinateur était connecté. Vérifiez l’adresse du serveur ou reconnectez cet ordinateur.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>Connect to another server...</source>
-        <translation type="unfinished">Associer à un autre serveur</translation>
+        <translation>Se connecter à un autre serveur...</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]Making changes to [ProductName]</source>
-        <translation type="unfinished">[DlgTitleFont]Configuration de [ProductName]</translation>
+        <translation>[DlgTitleFont]Modification de [ProductName] en cours</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -789,7 +789,7 @@
     </message>
     <message>
         <source>Files to exclude</source>
-        <translation type="unfinished">Filtre de fichiers</translation>
+        <translation>Fichiers à exclure</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -801,7 +801,7 @@
     </message>
     <message>
         <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Un problème est survenu. Réessayez et, si le problème persiste, contactez l’administrateur du serveur.</translation>
+        <translation>Un problème est survenu. Réessayez et, si le problème persiste, contactez l’administrateur du serveur. Les détails se trouvent dans «&#xa0;~/.Quillmere/log&#xa0;».</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -825,7 +825,7 @@
     </message>
     <message>
         <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
-        <translation type="unfinished">Vous n’avez pas ouvert de session en tant qu’administrateur&#xa0;; Quillmere risque donc de ne pas s’installer complètement. Voulez-vous continuer&#xa0;?</translation>
+        <translation>Vous n’avez pas ouvert de session en tant qu’administrateur&#xa0;; Quillmere risque donc de ne pas s’installer complètement. Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
@@ -873,7 +873,7 @@
     </message>
     <message>
         <source>Choose another folder...</source>
-        <translation type="unfinished">Choisir un autre dossier</translation>
+        <translation>Choisir un autre dossier...</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -897,22 +897,22 @@
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">Dissocier</translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>Another server was found at the server address.</source>
-        <translation type="unfinished">Un autre serveur a été détecté à l’adresse enregistrée.</translation>
+        <translation>Un autre serveur a été détecté à l’adresse du serveur.</translation>
     </message>
     <message>
         <source>Connecting to the server...</source>
-        <translation type="unfinished">Association au serveur…</translation>
+        <translation>Connexion au serveur...</translation>
     </message>
     <message>
         <source>Port</source>
         <translation>Port</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Create share link</source>
         <translation>Créer un lien de partage</translation>
     </message>
     <message>
@@ -929,7 +929,7 @@
     </message>
     <message>
         <source>Change folder...</source>
-        <translation type="unfinished">Changer de dossier</translation>
+        <translation>Changer de dossier...</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -941,11 +941,11 @@
     </message>
     <message>
         <source>Downloading...</source>
-        <translation>Téléchargement en cours…</translation>
+        <translation>Téléchargement en cours...</translation>
     </message>
     <message>
         <source>File locked</source>
-        <translation type="unfinished">Le fichier est verrouillé</translation>
+        <translation>Fichier verrouillé</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -953,11 +953,11 @@
     </message>
     <message>
         <source>Preparing...</source>
-        <translation>Préparation…</translation>
+        <translation>Préparation...</translation>
     </message>
     <message>
         <source>Syncing files...</source>
-        <translation type="unfinished">Mise à jour des fichiers…</translation>
+        <translation>Synchronisation des fichiers...</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -965,11 +965,11 @@
     </message>
     <message>
         <source>Checking the user name and password...</source>
-        <translation>Vérification du nom d’utilisateur et du mot de passe…</translation>
+        <translation>Vérification du nom d’utilisateur et du mot de passe...</translation>
     </message>
     <message>
         <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
-        <translation type="unfinished">Patientez pendant que l’assistant d’installation configure [ProductName]. Cette opération peut prendre plusieurs minutes.</translation>
+        <translation>Patientez pendant que l’assistant d’installation apporte les modifications à [ProductName]. Cette opération peut prendre plusieurs minutes.</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -993,7 +993,7 @@
     </message>
     <message>
         <source>Syncing could not be turned on for this shared folder. Check your permissions on the server, then try again.</source>
-        <translation>La synchronisation de ce dossier partagé n’a pas pu être activée. Vérifiez vos autorisations sur le serveur, puis réessayez.</translation>
+        <translation>Impossible d’activer la synchronisation de ce dossier partagé. Vérifiez vos autorisations sur le serveur, puis réessayez.</translation>
     </message>
     <message>
         <source>File sharing over the relay is turned off on the server. Ask the server administrator to turn it on.</source>
@@ -1021,7 +1021,7 @@
     </message>
     <message>
         <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
-        <translation type="unfinished">Le dossier de synchronisation local est introuvable. Restaurez-le ou choisissez-en un autre.</translation>
+        <translation>Le dossier de synchronisation local est introuvable. Restaurez-le ou choisissez un autre dossier. Son chemin est indiqué sous «&#xa0;Tâches de synchronisation&#xa0;».</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
@@ -1029,15 +1029,15 @@
     </message>
     <message>
         <source>Add sync task...</source>
-        <translation type="unfinished">Ajouter une tâche de synchronisation</translation>
+        <translation>Ajouter une tâche...</translation>
     </message>
     <message>
         <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
-        <translation type="unfinished">Le dossier partagé n’est pas monté sur le serveur. Demandez à l’administrateur du serveur de le monter.</translation>
+        <translation>Le dossier partagé n’est pas monté sur le serveur. Demandez à l’administrateur du serveur de le monter. Le nom du dossier est indiqué sous «&#xa0;Dossiers partagés&#xa0;».</translation>
     </message>
     <message>
         <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Le serveur a envoyé une réponse inattendue. Mettez à jour le client et le serveur, puis réessayez.</translation>
+        <translation>Le serveur a envoyé une réponse inattendue. Mettez à jour Quillmere sur cet ordinateur et demandez à l’administrateur du serveur de le mettre à jour sur le serveur. Les détails se trouvent dans «&#xa0;~/.Quillmere/log&#xa0;».</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1053,11 +1053,11 @@
     </message>
     <message>
         <source>Checking files...</source>
-        <translation type="unfinished">Vérification des données…</translation>
+        <translation>Vérification des fichiers...</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
-        <translation>Tentative de synchronisation…</translation>
+        <translation>Tentative de synchronisation...</translation>
     </message>
     <message>
         <source>Click Install to begin the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
@@ -1065,7 +1065,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
-        <translation type="unfinished">{\VerdanaBold13}L’installation de [ProductName] a été interrompue</translation>
+        <translation>{\VerdanaBold13}Le programme d’installation de [ProductName] a été annulé</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1093,7 +1093,7 @@
     </message>
     <message>
         <source>This folder is already synced with another shared folder. Choose another folder.</source>
-        <translation type="unfinished">Ce dossier est déjà synchronisé avec un autre dossier partagé. Choisissez un autre dossier.</translation>
+        <translation>Ce dossier est déjà synchronisé avec un autre dossier partagé. Choisissez un autre dossier.</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1117,7 +1117,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup did not finish</source>
-        <translation>{\VerdanaBold13}L’installation de [ProductName] n’a pas abouti</translation>
+        <translation>{\VerdanaBold13}Le programme d’installation de [ProductName] n’a pas abouti</translation>
     </message>
     <message>
         <source>Quillmere is already running.</source>
@@ -1133,7 +1133,7 @@
     </message>
     <message>
         <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
-        <translation type="unfinished">Tous les fichiers des deux dossiers sont conservés. Si deux versions d’un fichier diffèrent, vous obtenez les deux.</translation>
+        <translation>Tous les fichiers des deux dossiers sont conservés. Si deux versions d’un fichier diffèrent, elles sont toutes deux conservées sous des noms différents.</translation>
     </message>
     <message>
         <source>Repair the installation</source>
@@ -1141,15 +1141,15 @@
     </message>
     <message>
         <source>Syncing turned on</source>
-        <translation type="unfinished">Synchronisation activée</translation>
+        <translation>Synchronisation activée</translation>
     </message>
     <message>
         <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Quillmere n’a pas pu démarrer. Redémarrez l’ordinateur, puis relancez Quillmere.</translation>
+        <translation>Impossible de démarrer Quillmere. Redémarrez l’ordinateur, puis relancez Quillmere. Les détails se trouvent dans «&#xa0;~/.Quillmere/log&#xa0;».</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
-        <translation type="unfinished">Voulez-vous annuler l’installation de [ProductName]&#xa0;?</translation>
+        <source>Cancel [ProductName] setup?</source>
+        <translation>Annuler le programme d’installation de [ProductName]&#xa0;?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1173,7 +1173,7 @@
     </message>
     <message>
         <source>Browse versions...</source>
-        <translation type="unfinished">Parcourir les versions</translation>
+        <translation>Parcourir les versions...</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
@@ -1181,27 +1181,27 @@
     </message>
     <message>
         <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
-        <translation type="unfinished">Cette connexion est inactive. Associez-la de nouveau pour poursuivre la synchronisation.</translation>
+        <translation>Cet ordinateur est déconnecté du serveur. Reconnectez-le pour poursuivre la synchronisation.</translation>
     </message>
     <message>
         <source>Detecting...</source>
-        <translation>Détection…</translation>
+        <translation>Détection...</translation>
     </message>
     <message>
         <source>Certificate warning</source>
-        <translation type="unfinished">Avertissement SSL</translation>
+        <translation>Avertissement de certificat</translation>
     </message>
     <message>
         <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
-        <translation type="unfinished">Le service de relais est injoignable. Vérifiez votre connexion Internet, puis réessayez.</translation>
+        <translation>Le service de relais est injoignable. Vérifiez la connexion Internet, puis réessayez.</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
-        <translation>Supprime [ProductName] de votre ordinateur.</translation>
+        <translation>Désinstalle [ProductName] de votre ordinateur.</translation>
     </message>
     <message>
         <source>Downloading %1...</source>
-        <translation>Téléchargement de «&#xa0;%1&#xa0;»…</translation>
+        <translation>Téléchargement de «&#xa0;%1&#xa0;»...</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
@@ -1213,7 +1213,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]You canceled setup, and your computer was not changed.</source>
-        <translation>[DlgTitleFont]Vous avez annulé l’installation et votre ordinateur n’a pas été modifié.</translation>
+        <translation>[DlgTitleFont]Vous avez annulé le programme d’installation et votre ordinateur n’a pas été modifié.</translation>
     </message>
     <message>
         <source>The port number is not valid. Enter a number from 1 to 65535.</source>
@@ -1225,7 +1225,7 @@
     </message>
     <message>
         <source>Remove the installation</source>
-        <translation>Supprimer l’installation</translation>
+        <translation>Désinstaller le programme</translation>
     </message>
     <message>
         <source>Direct connection</source>
@@ -1233,23 +1233,23 @@
     </message>
     <message>
         <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
-        <translation type="unfinished">Le volume du serveur qui contient ce dossier n’est pas monté. Demandez à l’administrateur du serveur de le monter.</translation>
+        <translation>Sur le serveur, le lecteur qui contient ce dossier n’est pas monté. Demandez à l’administrateur du serveur de monter le lecteur. Le dossier est indiqué sous «&#xa0;Tâches de synchronisation&#xa0;».</translation>
     </message>
     <message>
         <source>This version of Quillmere is already installed. Install it again?</source>
-        <translation type="unfinished">Cette version de Quillmere est déjà installée. Voulez-vous la réinstaller&#xa0;?</translation>
+        <translation>Cette version de Quillmere est déjà installée. La réinstaller&#xa0;?</translation>
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
-        <translation type="unfinished">Ce client est trop ancien pour le serveur. Mettez à jour le client, puis réessayez.</translation>
+        <translation>Quillmere sur cet ordinateur est trop ancien pour fonctionner avec le serveur. Mettez-le à jour, puis réessayez.</translation>
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer.</source>
-        <translation type="unfinished">Le serveur est trop ancien pour ce client.</translation>
+        <translation>Quillmere sur le serveur est trop ancien pour fonctionner avec cet ordinateur.</translation>
     </message>
     <message>
         <source>Turned off</source>
-        <translation type="unfinished">Désactivé</translation>
+        <translation>Désactivé</translation>
     </message>
 </context>
 </TS>

@@ -41,11 +41,11 @@
     </message>
     <message>
         <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">A helyi adatbázis sérült. Az adatbázis újraépítéséhez válassza le a kapcsolatot, majd végezze el újra az összekapcsolást.</translation>
+        <translation>A helyi adatbázis sérült. Az adatbázis újraépítéséhez bontsa a kapcsolatot a kiszolgálóval, majd kapcsolódjon újra. A részletek itt találhatók: ~/.Quillmere/log.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
-        <translation>Az alkalmazások &amp;bezárása, majd újraindításuk a telepítés után</translation>
+        <translation>Az alkalmazások &amp;bezárása, majd újraindításuk a módosítások után</translation>
     </message>
     <message>
         <source>The folder is a mount point. Choose a folder that is not a mount point.</source>
@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>The server has been replaced. Click here to reconnect.</source>
-        <translation type="unfinished">A kiszolgálót lecserélték. Kattintson ide az újbóli összekapcsoláshoz.</translation>
+        <translation>A kiszolgálót lecserélték. Kattintson ide az újrakapcsolódáshoz.</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -65,11 +65,11 @@
     </message>
     <message>
         <source>The Setup Wizard lets you change, repair, or remove [ProductName]. Click Next to continue, or click Cancel to exit the Setup Wizard.</source>
-        <translation>A telepítővarázslóval módosíthatja, javíthatja vagy eltávolíthatja a [ProductName] programot. A folytatáshoz kattintson a Tovább, a telepítővarázslóból való kilépéshez a Mégse gombra.</translation>
+        <translation>A telepítővarázslóval módosíthatja, javíthatja vagy eltávolíthatja a [ProductName] programot. A folytatáshoz kattintson a Következő, a telepítővarázslóból való kilépéshez a Mégse gombra.</translation>
     </message>
     <message>
         <source>Exclusion list</source>
-        <translation type="unfinished">Tiltólista</translation>
+        <translation>Kizárási lista</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server.</source>
-        <translation type="unfinished">Ez az ügyfélprogram túl régi a kiszolgálóhoz.</translation>
+        <translation>Ezen a számítógépen a Quillmere túl régi, ezért nem tud együttműködni a kiszolgálóval.</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
-        <translation type="unfinished">A kiszolgáló SSL-tanúsítványa nem megbízható, ezért mások esetleg elolvashatják az Ön által küldött adatokat. Folytatja?</translation>
+        <translation>A kiszolgáló tanúsítványa nem megbízható: lehet, hogy lejárt, másik kiszolgálóhoz tartozik, vagy ismeretlen kibocsátótól származik. Mások esetleg elolvashatják az elküldött adatokat. Folytatja?</translation>
     </message>
     <message>
         <source>New shared folder</source>
@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>About Quillmere</source>
-        <translation type="unfinished">Névjegy</translation>
+        <translation>A Quillmere névjegye</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
-        <translation type="unfinished">Ez a számítógép már össze van kapcsolva ezzel a kiszolgálóval. Szerkessze a meglévő kapcsolatot, vagy adjon meg egy másik kiszolgálót.</translation>
+        <translation>Ez a számítógép már kapcsolódik ehhez a kiszolgálóhoz. Szerkessze a meglévő kapcsolatot, vagy adjon meg másik kiszolgálót.</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -133,15 +133,15 @@
     </message>
     <message>
         <source>The certificate of the server could not be verified.</source>
-        <translation type="unfinished">A kiszolgáló SSL-tanúsítványa nem ellenőrizhető.</translation>
+        <translation>Nem sikerült ellenőrizni a kiszolgáló tanúsítványát.</translation>
     </message>
     <message>
         <source>Use a black-and-white tray icon</source>
-        <translation type="unfinished">Fekete-fehér ikon használata a rendszertálcán</translation>
+        <translation>Fekete-fehér ikon használata a rendszertálcán</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
-        <translation>A mappában lévő fájlok szinkronizálva lesznek a kiszolgálóval.</translation>
+        <translation>A program az ebben a mappában lévő fájlokat szinkronizálja a kiszolgálóval.</translation>
     </message>
     <message>
         <source>The proxy server requires sign-in</source>
@@ -153,7 +153,7 @@
     </message>
     <message>
         <source>Excluded files</source>
-        <translation type="unfinished">Letiltott fájlok</translation>
+        <translation>Kizárt fájlok</translation>
     </message>
     <message>
         <source>No permission</source>
@@ -161,11 +161,11 @@
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
-        <translation type="unfinished">A kiszolgáló túl régi ehhez az ügyfélprogramhoz. Kérje meg a kiszolgáló rendszergazdáját, hogy frissítse.</translation>
+        <translation>A kiszolgálón a Quillmere túl régi, ezért nem tud együttműködni ezzel a számítógéppel. Kérje meg a kiszolgáló rendszergazdáját, hogy frissítse a programot.</translation>
     </message>
     <message>
         <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
-        <translation type="unfinished">Ha újra szeretne próbálkozni, később futtassa ismét a telepítőt. A telepítővarázslóból való kilépéshez kattintson a Befejezés gombra.</translation>
+        <translation>A telepítőt bármikor újra futtathatja. A telepítővarázslóból való kilépéshez kattintson a Befejezés gombra.</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>A newer version of Quillmere is already installed. To install this version, remove the newer one first.</source>
-        <translation>A Quillmere egy újabb verziója már telepítve van. Ennek a verziónak a telepítéséhez először távolítsa el az újabbat.</translation>
+        <translation>A Quillmere újabb verziója már telepítve van. Ennek a verziónak a telepítéséhez először távolítsa el az újabbat.</translation>
     </message>
     <message>
         <source>Click Repair to repair the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
@@ -181,7 +181,7 @@
     </message>
     <message>
         <source>Some settings have not been saved. Save them?</source>
-        <translation type="unfinished">Néhány beállítás nincs mentve. Menti a beállításokat?</translation>
+        <translation>Néhány beállítás nincs mentve. Menti őket?</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -193,7 +193,7 @@
     </message>
     <message>
         <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
-        <translation type="unfinished">Ezt a mappát már egy másik szinkronizálóprogram használja. Az ütközések elkerülése érdekében válasszon másik mappát.</translation>
+        <translation>Ezt a mappát már egy másik szinkronizálóprogram használja. Az ütközések elkerülése érdekében válasszon másik mappát.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -205,15 +205,15 @@
     </message>
     <message>
         <source>Change sync folder</source>
-        <translation type="unfinished">Szinkronizálási mappa módosítása</translation>
+        <translation>Szinkronizálási mappa módosítása</translation>
     </message>
     <message>
         <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
-        <translation type="unfinished">Adjon meg egy teljes fájlnevet a mappa elérési útja nélkül.</translation>
+        <translation>Adjon meg egy teljes fájlnevet a mappa elérési útja nélkül, például: thumbs.db.</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
-        <translation type="unfinished">[DlgTitleFont]A telepítés egy hiba miatt leállt, a módosításokat a telepítő visszavonta.</translation>
+        <translation>[DlgTitleFont]A telepítő egy hiba miatt leállt. Az elvégzett módosításokat visszavonta.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -221,7 +221,7 @@
     </message>
     <message>
         <source>The Setup Wizard will install [ProductName] on your computer. Click Next to continue, or click Cancel to exit the Setup Wizard.</source>
-        <translation>A telepítővarázsló telepíti a [ProductName] programot a számítógépre. A folytatáshoz kattintson a Tovább, a telepítővarázslóból való kilépéshez a Mégse gombra.</translation>
+        <translation>A telepítővarázsló telepíti a [ProductName] programot a számítógépre. A folytatáshoz kattintson a Következő, a telepítővarázslóból való kilépéshez a Mégse gombra.</translation>
     </message>
     <message>
         <source>Sync problem</source>
@@ -241,7 +241,7 @@
     </message>
     <message>
         <source>Use an encrypted connection (TLS)</source>
-        <translation type="unfinished">Adatátvitel titkosítása SSL használatával</translation>
+        <translation>Titkosított kapcsolat (TLS) használata</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -273,11 +273,11 @@
     </message>
     <message>
         <source>This file has no earlier versions yet. Change the file and let it sync to create one.</source>
-        <translation>Ennek a fájlnak még nincsenek korábbi verziói. Módosítsa a fájlt, és várja meg a szinkronizálását, hogy létrejöjjön egy.</translation>
+        <translation>Ennek a fájlnak még nincsenek korábbi verziói. Verzió létrehozásához módosítsa a fájlt, és várja meg a szinkronizálását.</translation>
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished">Leválasztás</translation>
+        <translation>Kapcsolat bontása</translation>
     </message>
     <message>
         <source>Back</source>
@@ -309,7 +309,7 @@
     </message>
     <message>
         <source>This version could not be downloaded. Check the connection to the server, then try again.</source>
-        <translation>Ez a verzió nem tölthető le. Ellenőrizze a kapcsolatot a kiszolgálóval, majd próbálkozzon újra.</translation>
+        <translation>Nem sikerült letölteni ezt a verziót. Ellenőrizze a kapcsolatot a kiszolgálóval, majd próbálkozzon újra.</translation>
     </message>
     <message>
         <source>Applying the settings...</source>
@@ -317,7 +317,7 @@
     </message>
     <message>
         <source>Files excluded from syncing</source>
-        <translation type="unfinished">Nem szinkronizált fájlok</translation>
+        <translation>A szinkronizálásból kizárt fájlok</translation>
     </message>
     <message>
         <source>Created</source>
@@ -333,7 +333,7 @@
     </message>
     <message>
         <source>Choose shared folders to sync</source>
-        <translation type="unfinished">Válassza ki a szinkronizálandó megosztott mappákat</translation>
+        <translation>Válassza ki a szinkronizálandó megosztott mappákat</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -361,7 +361,7 @@
     </message>
     <message>
         <source>Excluded file extensions</source>
-        <translation type="unfinished">Letiltott fájlkiterjesztések</translation>
+        <translation>Kizárt fájlkiterjesztések</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -377,7 +377,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
-        <translation type="unfinished">A szinkronizálási mappát tartalmazó kötet nincs csatolva. Csatolja a kötetet, majd folytassa a szinkronizálást.</translation>
+        <translation>A szinkronizálási mappát tartalmazó meghajtó nincs csatolva. Csatolja a meghajtót, majd folytassa a szinkronizálást. A mappát a Szinkronizálási feladatok oldalon találja.</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is full.</source>
-        <translation type="unfinished">Ezen a számítógépen nincs szabad lemezterület.</translation>
+        <translation>A szinkronizálási mappát tartalmazó meghajtó megtelt.</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -397,11 +397,11 @@
     </message>
     <message>
         <source>&amp;Ignore</source>
-        <translation>&amp;Kihagyás</translation>
+        <translation>&amp;Mellőzés</translation>
     </message>
     <message>
         <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
-        <translation type="unfinished">Már létezik ilyen nevű mappa. Egyesíti a fájljait a kiszolgálón lévőkkel?</translation>
+        <translation>Ezen a számítógépen már létezik ilyen nevű mappa. Egyesíti a fájljait a kiszolgálón lévőkkel?</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
@@ -433,7 +433,7 @@
     </message>
     <message>
         <source>A share link could not be created for this file. Check the connection to the server, then try again.</source>
-        <translation>Nem hozható létre megosztási hivatkozás ehhez a fájlhoz. Ellenőrizze a kapcsolatot a kiszolgálóval, majd próbálkozzon újra.</translation>
+        <translation>Nem sikerült megosztási hivatkozást létrehozni ehhez a fájlhoz. Ellenőrizze a kapcsolatot a kiszolgálóval, majd próbálkozzon újra.</translation>
     </message>
     <message>
         <source>ID</source>
@@ -449,11 +449,11 @@
     </message>
     <message>
         <source>Files being synced: %1</source>
-        <translation type="unfinished">%1 fájl szinkronizálása…</translation>
+        <translation>Szinkronizálás alatt álló fájlok: %1</translation>
     </message>
     <message>
         <source>Reconnect</source>
-        <translation type="unfinished">Újbóli összekapcsolás</translation>
+        <translation>Újrakapcsolódás</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -473,7 +473,7 @@
     </message>
     <message>
         <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
-        <translation type="unfinished">Azok a mappák és fájlok, amelyek jelölését törölte, el lesznek távolítva erről a számítógépről. A kiszolgálón megmaradnak.</translation>
+        <translation>A program eltávolítja erről a számítógépről azokat a mappákat és fájlokat, amelyek jelölését törölte. A kiszolgálón megmaradnak.</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
@@ -489,19 +489,19 @@
     </message>
     <message>
         <source>Disconnected</source>
-        <translation type="unfinished">Inaktív</translation>
+        <translation>Kapcsolat bontva</translation>
     </message>
     <message>
         <source>You have used all of your space on the server.</source>
-        <translation type="unfinished">Betelt a kvótája a kiszolgálón.</translation>
+        <translation>Felhasználta az összes tárhelyét a kiszolgálón.</translation>
     </message>
     <message>
         <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">Leválasztja ezt a kapcsolatot?\nA fájljai megmaradnak ezen a számítógépen és a kiszolgálón, de többé nem lesznek szinkronizálva.</translation>
+        <translation>Bontja a kapcsolatot a kiszolgálóval?\nA fájljai megmaradnak ezen a számítógépen és a kiszolgálón, de a szinkronizálásuk megszűnik.</translation>
     </message>
     <message>
         <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
-        <translation type="unfinished">Hiba történt a közvetítő szolgáltatásban. Próbálkozzon újra később, vagy kapcsolódjon a kiszolgáló IP-címével.</translation>
+        <translation>Hiba történt a közvetítő szolgáltatásban. Próbálkozzon újra később, vagy kapcsolódjon a kiszolgálóhoz az IP-címe használatával.</translation>
     </message>
     <message>
         <source>Server ID</source>
@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>Excluded file names</source>
-        <translation type="unfinished">Letiltott fájlnevek</translation>
+        <translation>Kizárt fájlnevek</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -521,11 +521,11 @@
     </message>
     <message>
         <source>Turned on</source>
-        <translation type="unfinished">Bekapcsolva</translation>
+        <translation>Bekapcsolva</translation>
     </message>
     <message>
         <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
-        <translation type="unfinished">Ezen a számítógépen nincs szabad lemezterület. A szinkronizálás folytatásához szabadítson fel helyet.</translation>
+        <translation>A szinkronizálási mappát tartalmazó meghajtó megtelt. A szinkronizálás folytatásához szabadítson fel rajta helyet.</translation>
     </message>
     <message>
         <source>Folders to sync</source>
@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>Choose sync folder</source>
-        <translation type="unfinished">Válasszon szinkronizálási mappát</translation>
+        <translation>Válasszon szinkronizálási mappát</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -549,7 +549,7 @@
     </message>
     <message>
         <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
-        <translation type="unfinished">Betelt a kvótája a kiszolgálón. Törölje a szükségtelen fájlokat, vagy kérjen nagyobb kvótát a kiszolgáló rendszergazdájától.</translation>
+        <translation>Felhasználta az összes tárhelyét a kiszolgálón. Törölje a szükségtelen fájlokat, vagy kérjen több tárhelyet a kiszolgáló rendszergazdájától.</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
@@ -565,11 +565,11 @@
     </message>
     <message>
         <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
-        <translation type="unfinished">Ez a fájl két helyen is módosult. Hasonlítsa össze a két példányt, majd tartsa meg azt, amelyikre szüksége van.</translation>
+        <translation>Ez a fájl ezen a számítógépen és a kiszolgálón is módosult. Mindkét példány ugyanabban a mappában van, eltérő néven. Hasonlítsa össze őket, majd tartsa meg azt, amelyikre szüksége van.</translation>
     </message>
     <message>
         <source>All your files on every computer, kept on your own server</source>
-        <translation type="unfinished">Egy hely a fájljainak minden számítógépén, a saját kiszolgálóján keresztül</translation>
+        <translation>Minden fájlja minden számítógépén, a saját kiszolgálóján tárolva</translation>
     </message>
     <message>
         <source>OK</source>
@@ -581,7 +581,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
-        <translation type="unfinished">A következő alkalmazások olyan fájlokat használnak, amelyeket a telepítőnek frissítenie kell. Zárja be őket, és kattintson az Újra gombra. Ha a bezárásuk nélkül szeretné folytatni, kattintson a Kihagyás gombra, a telepítőből való kilépéshez pedig a Kilépés gombra.</translation>
+        <translation>A következő alkalmazások olyan fájlokat használnak, amelyeket a telepítőnek frissítenie kell. Zárja be az alkalmazásokat, majd kattintson az Újra gombra. Ha a bezárásuk nélkül szeretné folytatni, kattintson a Mellőzés gombra. A telepítőből való kilépéshez kattintson a Kilépés gombra.</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -593,11 +593,11 @@
     </message>
     <message>
         <source>Files that match an entry in this list are not synced.</source>
-        <translation>A lista valamelyik bejegyzésének megfelelő fájlok nem lesznek szinkronizálva.</translation>
+        <translation>A program nem szinkronizálja azokat a fájlokat, amelyek megfelelnek a lista valamelyik bejegyzésének.</translation>
     </message>
     <message>
         <source>Edit connection...</source>
-        <translation type="unfinished">Kapcsolat szerkesztése</translation>
+        <translation>Kapcsolat szerkesztése…</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
-        <translation>A következő alkalmazások olyan fájlokat használnak, amelyeket a telepítőnek frissítenie kell. Válassza ki, hogy a telepítő bezárja-e őket. Ha nyitva maradnak, a telepítés befejezéséhez újra kell indítania a számítógépet.</translation>
+        <translation>A következő alkalmazások olyan fájlokat használnak, amelyeket a telepítőnek frissítenie kell. Válassza ki, hogy a telepítő bezárja-e az alkalmazásokat. Ha nyitva maradnak, a módosítások befejezéséhez újra kell indítania a számítógépet.</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the repair.</source>
@@ -625,7 +625,7 @@
     </message>
     <message>
         <source>Show icon overlays on excluded files</source>
-        <translation type="unfinished">Ikonátfedések megjelenítése a kiszűrt fájlokon</translation>
+        <translation>Ikonátfedések megjelenítése a kizárt fájlokon</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -633,11 +633,11 @@
     </message>
     <message>
         <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
-        <translation type="unfinished">Legfeljebb %1 megosztott mappa szinkronizálható. Újabb mappa hozzáadása előtt szüntesse meg valamelyikük szinkronizálását.</translation>
+        <translation>Elérte a szinkronizálható megosztott mappák maximális számát: %1. Újabb mappa hozzáadása előtt szüntesse meg egy megosztott mappa szinkronizálását.</translation>
     </message>
     <message>
         <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">Leválasztja ezt a szinkronizálási feladatot?\nA fájljai megmaradnak ezen a számítógépen és a kiszolgálón, de többé nem lesznek szinkronizálva.</translation>
+        <translation>Eltávolítja ezt a szinkronizálási feladatot?\nA fájljai megmaradnak ezen a számítógépen és a kiszolgálón, de a szinkronizálásuk megszűnik.</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
@@ -645,11 +645,11 @@
     </message>
     <message>
         <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">A Quillmere frissítése nem sikerült. Indítsa újra a számítógépet, majd próbálkozzon újra.</translation>
+        <translation>Nem sikerült frissíteni a Quillmere programot. A korábbi verzió megmaradt. Indítsa újra a számítógépet, majd próbálkozzon újra. A részletek itt találhatók: ~/.Quillmere/log.</translation>
     </message>
     <message>
         <source>Exclude names that begin with a dot</source>
-        <translation type="unfinished">A ponttal kezdődő nevek letiltása</translation>
+        <translation>A ponttal kezdődő nevek kizárása</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -665,7 +665,7 @@
     </message>
     <message>
         <source>The versions of this file could not be listed. Check the connection to the server, then try again.</source>
-        <translation>A fájl verziói nem listázhatók. Ellenőrizze a kapcsolatot a kiszolgálóval, majd próbálkozzon újra.</translation>
+        <translation>Nem sikerült lekérni a fájl verzióinak listáját. Ellenőrizze a kapcsolatot a kiszolgálóval, majd próbálkozzon újra.</translation>
     </message>
     <message>
         <source>Connected to the server.</source>
@@ -673,7 +673,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup is complete</source>
-        <translation type="unfinished">{\VerdanaBold13}A [ProductName] telepítővarázslója befejezte a műveletet</translation>
+        <translation>{\VerdanaBold13}A [ProductName] telepítője befejezte a műveletet</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -689,7 +689,7 @@
     </message>
     <message>
         <source>&amp;Next</source>
-        <translation>&amp;Tovább</translation>
+        <translation>&amp;Következő</translation>
     </message>
     <message>
         <source>Parvenor Quillmere</source>
@@ -709,19 +709,19 @@
     </message>
     <message>
         <source>Quillmere settings</source>
-        <translation type="unfinished">Az ügyfélprogram beállításai</translation>
+        <translation>A Quillmere beállításai</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
-        <translation>A megosztási hivatkozás nem törölhető. Ellenőrizze a kapcsolatot a kiszolgálóval, majd próbálkozzon újra.</translation>
+        <translation>Nem sikerült törölni a megosztási hivatkozást. Ellenőrizze a kapcsolatot a kiszolgálóval, majd próbálkozzon újra.</translation>
     </message>
     <message>
         <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
-        <translation type="unfinished">A kiszolgáló SSL-tanúsítványa nem ellenőrizhető. Kérje meg a kiszolgáló rendszergazdáját, hogy ellenőrizze a tanúsítványt.</translation>
+        <translation>Nem sikerült ellenőrizni a kiszolgáló tanúsítványát: lehet, hogy lejárt, másik kiszolgálóhoz tartozik, vagy ismeretlen kibocsátótól származik. Kérje meg a kiszolgáló rendszergazdáját, hogy ellenőrizze a tanúsítványt.</translation>
     </message>
     <message>
         <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
-        <translation type="unfinished">Ez nem az a kiszolgáló, amellyel az összekapcsolás történt. Ellenőrizze a kiszolgáló címét, vagy végezze el újra az összekapcsolást.</translation>
+        <translation>Ez nem az a kiszolgáló, amelyhez ez a számítógép kapcsolódott. Ellenőrizze a kiszolgáló címét, vagy kapcsolódjon újra.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>Connect to another server...</source>
-        <translation type="unfinished">Összekapcsolás másik kiszolgálóval</translation>
+        <translation>Kapcsolódás másik kiszolgálóhoz…</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]Making changes to [ProductName]</source>
-        <translation type="unfinished">[DlgTitleFont]A [ProductName] beállítása</translation>
+        <translation>[DlgTitleFont]A [ProductName] módosításainak végrehajtása</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -789,7 +789,7 @@
     </message>
     <message>
         <source>Files to exclude</source>
-        <translation type="unfinished">Fájlszűrő</translation>
+        <translation>Kizárandó fájlok</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -801,7 +801,7 @@
     </message>
     <message>
         <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Hiba történt. Próbálkozzon újra, és ha a probléma továbbra is fennáll, forduljon a kiszolgáló rendszergazdájához.</translation>
+        <translation>Hiba történt. Próbálkozzon újra, és ha a probléma továbbra is fennáll, forduljon a kiszolgáló rendszergazdájához. A részletek itt találhatók: ~/.Quillmere/log.</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -813,7 +813,7 @@
     </message>
     <message>
         <source>Next</source>
-        <translation>Tovább</translation>
+        <translation>Következő</translation>
     </message>
     <message>
         <source>&amp;Back</source>
@@ -825,7 +825,7 @@
     </message>
     <message>
         <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
-        <translation type="unfinished">Nem rendszergazdaként jelentkezett be, ezért lehet, hogy a Quillmere telepítése nem lesz teljes. Folytatja?</translation>
+        <translation>Nem rendszergazdaként jelentkezett be, ezért lehet, hogy a Quillmere telepítése nem lesz teljes. Folytatja?</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
@@ -861,7 +861,7 @@
     </message>
     <message>
         <source>Lets you choose which features are installed.</source>
-        <translation>Itt választhatja ki, hogy mely összetevők legyenek telepítve.</translation>
+        <translation>Itt választhatja ki a telepítendő összetevőket.</translation>
     </message>
     <message>
         <source>Folder name</source>
@@ -873,7 +873,7 @@
     </message>
     <message>
         <source>Choose another folder...</source>
-        <translation type="unfinished">Másik mappa választása</translation>
+        <translation>Másik mappa választása…</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -897,23 +897,23 @@
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">Leválasztás</translation>
+        <translation>Eltávolítás</translation>
     </message>
     <message>
         <source>Another server was found at the server address.</source>
-        <translation type="unfinished">A kiszolgáló címén egy másik kiszolgáló található.</translation>
+        <translation>A kiszolgáló címén egy másik kiszolgáló található.</translation>
     </message>
     <message>
         <source>Connecting to the server...</source>
-        <translation type="unfinished">Összekapcsolás a kiszolgálóval…</translation>
+        <translation>Kapcsolódás a kiszolgálóhoz…</translation>
     </message>
     <message>
         <source>Port</source>
         <translation>Port</translation>
     </message>
     <message>
-        <source>Share link</source>
-        <translation>Megosztási hivatkozás létrehozása</translation>
+        <source>Create share link</source>
+        <translation>Megosztás hivatkozással</translation>
     </message>
     <message>
         <source>The user name or password was not accepted by the server. Edit the connection and enter them again.</source>
@@ -929,7 +929,7 @@
     </message>
     <message>
         <source>Change folder...</source>
-        <translation type="unfinished">Mappa módosítása</translation>
+        <translation>Mappa módosítása…</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -945,7 +945,7 @@
     </message>
     <message>
         <source>File locked</source>
-        <translation type="unfinished">A fájl zárolva van</translation>
+        <translation>Fájl zárolva</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -957,7 +957,7 @@
     </message>
     <message>
         <source>Syncing files...</source>
-        <translation type="unfinished">Fájlok frissítése…</translation>
+        <translation>Fájlok szinkronizálása…</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -969,7 +969,7 @@
     </message>
     <message>
         <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
-        <translation type="unfinished">Várjon, amíg a telepítővarázsló beállítja a [ProductName] programot. Ez több percig is eltarthat.</translation>
+        <translation>Várjon, amíg a telepítővarázsló végrehajtja a [ProductName] módosításait. Ez több percig is eltarthat.</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -993,7 +993,7 @@
     </message>
     <message>
         <source>Syncing could not be turned on for this shared folder. Check your permissions on the server, then try again.</source>
-        <translation>A szinkronizálás nem kapcsolható be ennél a megosztott mappánál. Ellenőrizze a jogosultságait a kiszolgálón, majd próbálkozzon újra.</translation>
+        <translation>Nem sikerült bekapcsolni a szinkronizálást ennél a megosztott mappánál. Ellenőrizze a jogosultságait a kiszolgálón, majd próbálkozzon újra.</translation>
     </message>
     <message>
         <source>File sharing over the relay is turned off on the server. Ask the server administrator to turn it on.</source>
@@ -1021,7 +1021,7 @@
     </message>
     <message>
         <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
-        <translation type="unfinished">A helyi szinkronizálási mappa nem található. Állítsa helyre a mappát, vagy válasszon egy másikat.</translation>
+        <translation>A helyi szinkronizálási mappa nem található. Állítsa helyre a mappát, vagy válasszon másikat. A mappa elérési útját a Szinkronizálási feladatok oldalon találja.</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
@@ -1029,15 +1029,15 @@
     </message>
     <message>
         <source>Add sync task...</source>
-        <translation type="unfinished">Szinkronizálási feladat hozzáadása</translation>
+        <translation>Feladat hozzáadása…</translation>
     </message>
     <message>
         <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
-        <translation type="unfinished">A megosztott mappa nincs csatolva a kiszolgálón. Kérje meg a kiszolgáló rendszergazdáját, hogy csatolja.</translation>
+        <translation>A megosztott mappa nincs csatolva a kiszolgálón. Kérje meg a kiszolgáló rendszergazdáját, hogy csatolja. A mappa nevét a Megosztott mappák oldalon találja.</translation>
     </message>
     <message>
         <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">A kiszolgáló váratlan választ küldött. Frissítse az ügyfélprogramot és a kiszolgálót, majd próbálkozzon újra.</translation>
+        <translation>A kiszolgáló váratlan választ küldött. Frissítse a Quillmere programot ezen a számítógépen, és kérje meg a kiszolgáló rendszergazdáját, hogy frissítse a kiszolgálón is. A részletek itt találhatók: ~/.Quillmere/log.</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1053,7 +1053,7 @@
     </message>
     <message>
         <source>Checking files...</source>
-        <translation type="unfinished">Adatok ellenőrzése…</translation>
+        <translation>Fájlok ellenőrzése…</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
@@ -1065,7 +1065,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
-        <translation type="unfinished">{\VerdanaBold13}A [ProductName] telepítése megszakadt</translation>
+        <translation>{\VerdanaBold13}Megszakította a [ProductName] telepítőjét</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1093,7 +1093,7 @@
     </message>
     <message>
         <source>This folder is already synced with another shared folder. Choose another folder.</source>
-        <translation type="unfinished">Ez a mappa már egy másik megosztott mappával van szinkronizálva. Válasszon másik mappát.</translation>
+        <translation>A program ezt a mappát már egy másik megosztott mappával szinkronizálja. Válasszon másik mappát.</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1117,7 +1117,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup did not finish</source>
-        <translation>{\VerdanaBold13}A [ProductName] telepítése nem fejeződött be</translation>
+        <translation>{\VerdanaBold13}A [ProductName] telepítője nem fejezte be a műveletet</translation>
     </message>
     <message>
         <source>Quillmere is already running.</source>
@@ -1133,7 +1133,7 @@
     </message>
     <message>
         <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
-        <translation type="unfinished">Mindkét mappa minden fájlja megmarad. Ha egy fájl két verziója eltér egymástól, mindkettő megmarad.</translation>
+        <translation>Mindkét mappa minden fájlja megmarad. Ha egy fájl két verziója eltér egymástól, mindkettő megmarad, eltérő néven.</translation>
     </message>
     <message>
         <source>Repair the installation</source>
@@ -1141,15 +1141,15 @@
     </message>
     <message>
         <source>Syncing turned on</source>
-        <translation type="unfinished">Szinkronizálás bekapcsolva</translation>
+        <translation>Szinkronizálás bekapcsolva</translation>
     </message>
     <message>
         <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">A Quillmere nem indítható el. Indítsa újra a számítógépet, majd indítsa el ismét a Quillmere programot.</translation>
+        <translation>Nem sikerült elindítani a Quillmere programot. Indítsa újra a számítógépet, majd indítsa el ismét a Quillmere programot. A részletek itt találhatók: ~/.Quillmere/log.</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
-        <translation type="unfinished">Megszakítja a [ProductName] telepítését?</translation>
+        <source>Cancel [ProductName] setup?</source>
+        <translation>Megszakítja a [ProductName] telepítőjét?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1173,7 +1173,7 @@
     </message>
     <message>
         <source>Browse versions...</source>
-        <translation type="unfinished">Verziók tallózása</translation>
+        <translation>Verziók tallózása…</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
@@ -1181,7 +1181,7 @@
     </message>
     <message>
         <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
-        <translation type="unfinished">Ez a kapcsolat inaktív. A szinkronizálás folytatásához végezze el újra az összekapcsolást.</translation>
+        <translation>Ez a számítógép bontotta a kapcsolatot a kiszolgálóval. A szinkronizálás folytatásához kapcsolódjon újra.</translation>
     </message>
     <message>
         <source>Detecting...</source>
@@ -1189,11 +1189,11 @@
     </message>
     <message>
         <source>Certificate warning</source>
-        <translation type="unfinished">SSL-figyelmeztetés</translation>
+        <translation>Tanúsítványfigyelmeztetés</translation>
     </message>
     <message>
         <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
-        <translation type="unfinished">A közvetítő szolgáltatás nem érhető el. Ellenőrizze az internetkapcsolatot, majd próbálkozzon újra.</translation>
+        <translation>A közvetítő szolgáltatás nem érhető el. Ellenőrizze az internetkapcsolatot, majd próbálkozzon újra.</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
@@ -1213,7 +1213,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]You canceled setup, and your computer was not changed.</source>
-        <translation>[DlgTitleFont]Megszakította a telepítést, a számítógép nem módosult.</translation>
+        <translation>[DlgTitleFont]Megszakította a telepítőt, a számítógépen semmi sem változott.</translation>
     </message>
     <message>
         <source>The port number is not valid. Enter a number from 1 to 65535.</source>
@@ -1233,23 +1233,23 @@
     </message>
     <message>
         <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
-        <translation type="unfinished">Az ezt a mappát tartalmazó kötet nincs csatolva a kiszolgálón. Kérje meg a kiszolgáló rendszergazdáját, hogy csatolja.</translation>
+        <translation>A kiszolgálón nincs csatolva az a meghajtó, amely ezt a mappát tartalmazza. Kérje meg a kiszolgáló rendszergazdáját, hogy csatolja a meghajtót. A mappát a Szinkronizálási feladatok oldalon találja.</translation>
     </message>
     <message>
         <source>This version of Quillmere is already installed. Install it again?</source>
-        <translation type="unfinished">A Quillmere ezen verziója már telepítve van. Telepíti újra?</translation>
+        <translation>A Quillmere ezen verziója már telepítve van. Újratelepíti?</translation>
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
-        <translation type="unfinished">Ez az ügyfélprogram túl régi a kiszolgálóhoz. Frissítse az ügyfélprogramot, majd próbálkozzon újra.</translation>
+        <translation>Ezen a számítógépen a Quillmere túl régi, ezért nem tud együttműködni a kiszolgálóval. Frissítse a programot, majd próbálkozzon újra.</translation>
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer.</source>
-        <translation type="unfinished">A kiszolgáló túl régi ehhez az ügyfélprogramhoz.</translation>
+        <translation>A kiszolgálón a Quillmere túl régi, ezért nem tud együttműködni ezzel a számítógéppel.</translation>
     </message>
     <message>
         <source>Turned off</source>
-        <translation type="unfinished">Kikapcsolva</translation>
+        <translation>Kikapcsolva</translation>
     </message>
 </context>
 </TS>

@@ -5,7 +5,7 @@
     <name>global</name>
     <message>
         <source>{\VerdanaBold13}Welcome to the [ProductName] Setup Wizard</source>
-        <translation>{\VerdanaBold13}Benvenuti nella procedura guidata di installazione di [ProductName]</translation>
+        <translation>{\VerdanaBold13}Ti diamo il benvenuto nella procedura guidata di installazione di [ProductName]</translation>
     </message>
     <message>
         <source>Start [ProductName] now</source>
@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>Processing...</source>
-        <translation>Elaborazione in corso…</translation>
+        <translation>Elaborazione in corso...</translation>
     </message>
     <message>
         <source>Exit</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Il database locale è danneggiato. Scollegare la connessione, quindi collegarla di nuovo per ricostruire il database.</translation>
+        <translation>Il database locale è danneggiato. Disconnettere il computer dal server, quindi riconnetterlo per ricostruire il database. I dettagli sono in «~/.Quillmere/log».</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>The server has been replaced. Click here to reconnect.</source>
-        <translation type="unfinished">Il server è stato sostituito. Fare clic qui per ripetere il collegamento.</translation>
+        <translation>Il server è stato sostituito. Fare clic qui per riconnettere il computer.</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -65,11 +65,11 @@
     </message>
     <message>
         <source>The Setup Wizard lets you change, repair, or remove [ProductName]. Click Next to continue, or click Cancel to exit the Setup Wizard.</source>
-        <translation>La procedura guidata consente di modificare, riparare o disinstallare [ProductName]. Fare clic su «Avanti» per continuare o su «Annulla» per uscire dalla procedura guidata.</translation>
+        <translation>La procedura guidata consente di modificare, riparare o disinstallare [ProductName]. Fare clic su «Successivo» per continuare o su «Annulla» per uscire dalla procedura guidata.</translation>
     </message>
     <message>
         <source>Exclusion list</source>
-        <translation type="unfinished">Elenco esclusioni</translation>
+        <translation>Elenco esclusioni</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server.</source>
-        <translation type="unfinished">Questo client è troppo vecchio per il server.</translation>
+        <translation>Quillmere su questo computer è troppo vecchio per funzionare con il server.</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
@@ -93,11 +93,11 @@
     </message>
     <message>
         <source>Testing the connection...</source>
-        <translation>Verifica della connessione…</translation>
+        <translation>Verifica della connessione...</translation>
     </message>
     <message>
         <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
-        <translation type="unfinished">Il certificato SSL del server non è attendibile: altre persone potrebbero leggere i dati inviati. Continuare?</translation>
+        <translation>Il certificato del server non è attendibile: potrebbe essere scaduto, appartenere a un altro server o provenire da un emittente sconosciuto. Altre persone potrebbero leggere i dati inviati. Continuare?</translation>
     </message>
     <message>
         <source>New shared folder</source>
@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>About Quillmere</source>
-        <translation type="unfinished">Informazioni</translation>
+        <translation>Informazioni su Quillmere</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>&amp;Print</source>
-        <translation>&amp;Stampa</translation>
+        <translation>Stam&amp;pa</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the removal.</source>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
-        <translation type="unfinished">Questo computer è già collegato a questo server. Modificare la connessione esistente o indicare un altro server.</translation>
+        <translation>Questo computer è già connesso a questo server. Modificare la connessione esistente o inserire un altro server.</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -133,11 +133,11 @@
     </message>
     <message>
         <source>The certificate of the server could not be verified.</source>
-        <translation type="unfinished">Non è stato possibile verificare il certificato SSL del server.</translation>
+        <translation>Non è stato possibile verificare il certificato del server.</translation>
     </message>
     <message>
         <source>Use a black-and-white tray icon</source>
-        <translation type="unfinished">Usa un&apos;icona in bianco e nero nell&apos;area di notifica</translation>
+        <translation>Usa un&apos;icona in bianco e nero nell&apos;area di notifica</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -153,7 +153,7 @@
     </message>
     <message>
         <source>Excluded files</source>
-        <translation type="unfinished">File esclusi</translation>
+        <translation>File esclusi</translation>
     </message>
     <message>
         <source>No permission</source>
@@ -161,11 +161,11 @@
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
-        <translation type="unfinished">Il server è troppo vecchio per questo client. Chiedere all&apos;amministratore del server di aggiornarlo.</translation>
+        <translation>Quillmere sul server è troppo vecchio per funzionare con questo computer. Chiedere all&apos;amministratore del server di aggiornarlo.</translation>
     </message>
     <message>
         <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
-        <translation type="unfinished">Per riprovare, eseguire di nuovo l&apos;installazione in un secondo momento. Fare clic su «Fine» per uscire dalla procedura guidata.</translation>
+        <translation>È possibile eseguire di nuovo il programma di installazione in qualsiasi momento. Fare clic su «Fine» per uscire dalla procedura guidata.</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -181,7 +181,7 @@
     </message>
     <message>
         <source>Some settings have not been saved. Save them?</source>
-        <translation type="unfinished">Alcune impostazioni non sono state salvate. Salvarle?</translation>
+        <translation>Alcune impostazioni non sono state salvate. Salvarle?</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -193,7 +193,7 @@
     </message>
     <message>
         <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
-        <translation type="unfinished">Questa cartella è già usata da un altro programma di sincronizzazione. Scegliere un&apos;altra cartella per evitare conflitti.</translation>
+        <translation>Questa cartella è già usata da un altro programma di sincronizzazione. Scegliere un&apos;altra cartella per evitare conflitti.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -205,15 +205,15 @@
     </message>
     <message>
         <source>Change sync folder</source>
-        <translation type="unfinished">Cambia cartella di sincronizzazione</translation>
+        <translation>Cambia cartella di sincronizzazione</translation>
     </message>
     <message>
         <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
-        <translation type="unfinished">Inserire un nome di file completo, senza percorso della cartella.</translation>
+        <translation>Inserire un nome di file completo, senza percorso della cartella, ad esempio «thumbs.db».</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
-        <translation type="unfinished">[DlgTitleFont]Un errore ha interrotto l&apos;installazione e le modifiche apportate sono state annullate.</translation>
+        <translation>[DlgTitleFont]Il programma di installazione si è interrotto a causa di un errore. Le modifiche apportate sono state annullate.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -221,7 +221,7 @@
     </message>
     <message>
         <source>The Setup Wizard will install [ProductName] on your computer. Click Next to continue, or click Cancel to exit the Setup Wizard.</source>
-        <translation>La procedura guidata installerà [ProductName] sul computer. Fare clic su «Avanti» per continuare o su «Annulla» per uscire dalla procedura guidata.</translation>
+        <translation>La procedura guidata installerà [ProductName] sul computer. Fare clic su «Successivo» per continuare o su «Annulla» per uscire dalla procedura guidata.</translation>
     </message>
     <message>
         <source>Sync problem</source>
@@ -241,7 +241,7 @@
     </message>
     <message>
         <source>Use an encrypted connection (TLS)</source>
-        <translation type="unfinished">Cifra il trasferimento dei dati con SSL</translation>
+        <translation>Usa una connessione cifrata (TLS)</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -277,7 +277,7 @@
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished">Scollega</translation>
+        <translation>Disconnetti</translation>
     </message>
     <message>
         <source>Back</source>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Quillmere is initializing...</source>
-        <translation>Inizializzazione di Quillmere…</translation>
+        <translation>Inizializzazione di Quillmere...</translation>
     </message>
     <message>
         <source>Start now</source>
@@ -313,11 +313,11 @@
     </message>
     <message>
         <source>Applying the settings...</source>
-        <translation>Applicazione delle impostazioni…</translation>
+        <translation>Applicazione delle impostazioni...</translation>
     </message>
     <message>
         <source>Files excluded from syncing</source>
-        <translation type="unfinished">File non sincronizzati</translation>
+        <translation>File esclusi dalla sincronizzazione</translation>
     </message>
     <message>
         <source>Created</source>
@@ -333,7 +333,7 @@
     </message>
     <message>
         <source>Choose shared folders to sync</source>
-        <translation type="unfinished">Scegliere le cartelle condivise da sincronizzare</translation>
+        <translation>Scegliere le cartelle condivise da sincronizzare</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -341,7 +341,7 @@
     </message>
     <message>
         <source>Uploading...</source>
-        <translation>Invio in corso…</translation>
+        <translation>Invio in corso...</translation>
     </message>
     <message>
         <source>To use selective sync, ask the server administrator to upgrade Quillmere on the server.</source>
@@ -361,7 +361,7 @@
     </message>
     <message>
         <source>Excluded file extensions</source>
-        <translation type="unfinished">Estensioni di file escluse</translation>
+        <translation>Estensioni di file escluse</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}Welcome back to the [ProductName] Setup Wizard</source>
-        <translation>{\VerdanaBold13}Bentornati nella procedura guidata di installazione di [ProductName]</translation>
+        <translation>{\VerdanaBold13}Ti diamo di nuovo il benvenuto nella procedura guidata di installazione di [ProductName]</translation>
     </message>
     <message>
         <source>Password</source>
@@ -377,7 +377,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
-        <translation type="unfinished">Il volume che contiene la cartella di sincronizzazione non è montato. Montare il volume, quindi riprendere la sincronizzazione.</translation>
+        <translation>L&apos;unità che contiene la cartella di sincronizzazione non è montata. Montare l&apos;unità, quindi riprendere la sincronizzazione. La cartella è indicata in «Attività di sincronizzazione».</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is full.</source>
-        <translation type="unfinished">Lo spazio su disco di questo computer è esaurito.</translation>
+        <translation>L&apos;unità che contiene la cartella di sincronizzazione è piena.</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -401,7 +401,7 @@
     </message>
     <message>
         <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
-        <translation type="unfinished">Esiste già una cartella con questo nome. Unire i file che contiene a quelli sul server?</translation>
+        <translation>Su questo computer esiste già una cartella con questo nome. Unire i file che contiene a quelli sul server?</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
@@ -413,7 +413,7 @@
     </message>
     <message>
         <source>Welcome to Quillmere</source>
-        <translation>Benvenuti in Quillmere</translation>
+        <translation>Ti diamo il benvenuto in Quillmere</translation>
     </message>
     <message>
         <source>&amp;Repair</source>
@@ -421,7 +421,7 @@
     </message>
     <message>
         <source>Upgrading Quillmere...</source>
-        <translation>Aggiornamento di Quillmere…</translation>
+        <translation>Aggiornamento di Quillmere...</translation>
     </message>
     <message>
         <source>Sync mode</source>
@@ -449,11 +449,11 @@
     </message>
     <message>
         <source>Files being synced: %1</source>
-        <translation type="unfinished">Sincronizzazione di %1 file…</translation>
+        <translation>File in corso di sincronizzazione: %1</translation>
     </message>
     <message>
         <source>Reconnect</source>
-        <translation type="unfinished">Collega di nuovo</translation>
+        <translation>Riconnetti</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -473,7 +473,7 @@
     </message>
     <message>
         <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
-        <translation type="unfinished">Le cartelle e i file deselezionati verranno rimossi da questo computer. Resteranno disponibili sul server.</translation>
+        <translation>Le cartelle e i file deselezionati verranno rimossi da questo computer. Verranno mantenuti sul server.</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
@@ -489,19 +489,19 @@
     </message>
     <message>
         <source>Disconnected</source>
-        <translation type="unfinished">Inattiva</translation>
+        <translation>Disconnesso</translation>
     </message>
     <message>
         <source>You have used all of your space on the server.</source>
-        <translation type="unfinished">La quota sul server è esaurita.</translation>
+        <translation>Lo spazio assegnato sul server è esaurito.</translation>
     </message>
     <message>
         <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">Scollegare questa connessione?\nI file verranno mantenuti su questo computer e sul server, ma non verranno più sincronizzati.</translation>
+        <translation>Disconnettere il computer dal server?\nI file verranno mantenuti su questo computer e sul server, ma non verranno più sincronizzati.</translation>
     </message>
     <message>
         <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
-        <translation type="unfinished">Il servizio di relay ha riscontrato un problema. Riprovare più tardi o connettersi usando l&apos;indirizzo IP del server.</translation>
+        <translation>Il servizio di relay ha riscontrato un problema. Riprovare più tardi o connettersi al server tramite il suo indirizzo IP.</translation>
     </message>
     <message>
         <source>Server ID</source>
@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>Excluded file names</source>
-        <translation type="unfinished">Nomi di file esclusi</translation>
+        <translation>Nomi di file esclusi</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -521,11 +521,11 @@
     </message>
     <message>
         <source>Turned on</source>
-        <translation type="unfinished">Attivato</translation>
+        <translation>Attivato</translation>
     </message>
     <message>
         <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
-        <translation type="unfinished">Lo spazio su disco di questo computer è esaurito. Liberare spazio per continuare la sincronizzazione.</translation>
+        <translation>L&apos;unità che contiene la cartella di sincronizzazione è piena. Liberare spazio sull&apos;unità per continuare la sincronizzazione.</translation>
     </message>
     <message>
         <source>Folders to sync</source>
@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>Choose sync folder</source>
-        <translation type="unfinished">Scegliere una cartella di sincronizzazione</translation>
+        <translation>Scegliere la cartella di sincronizzazione</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -549,7 +549,7 @@
     </message>
     <message>
         <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
-        <translation type="unfinished">La quota sul server è esaurita. Eliminare i file non necessari o chiedere all&apos;amministratore del server una quota maggiore.</translation>
+        <translation>Lo spazio assegnato sul server è esaurito. Eliminare i file non necessari o chiedere più spazio all&apos;amministratore del server.</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
@@ -565,11 +565,11 @@
     </message>
     <message>
         <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
-        <translation type="unfinished">Questo file è stato modificato in due posizioni. Confrontare le due copie, quindi conservare quella necessaria.</translation>
+        <translation>Questo file è stato modificato su questo computer e sul server. Le due copie si trovano nella stessa cartella con nomi diversi. Confrontarle, quindi conservare quella necessaria.</translation>
     </message>
     <message>
         <source>All your files on every computer, kept on your own server</source>
-        <translation type="unfinished">Un unico posto per i file su ogni computer, tramite il proprio server</translation>
+        <translation>Tutti i file su ogni computer, conservati su un server personale</translation>
     </message>
     <message>
         <source>OK</source>
@@ -581,7 +581,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
-        <translation type="unfinished">Le seguenti applicazioni usano file che il programma di installazione deve aggiornare. Chiuderle e fare clic su «Riprova», oppure fare clic su «Ignora» per continuare senza chiuderle o su «Esci» per abbandonare l&apos;installazione.</translation>
+        <translation>Le seguenti applicazioni usano file che il programma di installazione deve aggiornare. Chiuderle, quindi fare clic su «Riprova». Per continuare senza chiuderle, fare clic su «Ignora». Per uscire dal programma di installazione, fare clic su «Esci».</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -597,7 +597,7 @@
     </message>
     <message>
         <source>Edit connection...</source>
-        <translation type="unfinished">Modifica connessione</translation>
+        <translation>Modifica connessione...</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -625,31 +625,31 @@
     </message>
     <message>
         <source>Show icon overlays on excluded files</source>
-        <translation type="unfinished">Mostra icone sovrapposte ai file esclusi dal filtro</translation>
+        <translation>Mostra icone sovrapposte ai file esclusi</translation>
     </message>
     <message>
         <source>Loading...</source>
-        <translation>Caricamento…</translation>
+        <translation>Caricamento...</translation>
     </message>
     <message>
         <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
-        <translation type="unfinished">Il numero massimo di cartelle condivise sincronizzabili è %1. Interrompere la sincronizzazione di una cartella prima di aggiungerne un&apos;altra.</translation>
+        <translation>È stato raggiunto il limite di cartelle condivise sincronizzate: %1. Interrompere la sincronizzazione di una cartella condivisa prima di aggiungerne un&apos;altra.</translation>
     </message>
     <message>
         <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">Scollegare questa attività di sincronizzazione?\nI relativi file verranno mantenuti su questo computer e sul server, ma non verranno più sincronizzati.</translation>
+        <translation>Rimuovere questa attività di sincronizzazione?\nI relativi file verranno mantenuti su questo computer e sul server, ma non verranno più sincronizzati.</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
-        <translation>Avvio di Quillmere…</translation>
+        <translation>Avvio di Quillmere...</translation>
     </message>
     <message>
         <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Non è stato possibile aggiornare Quillmere. Riavviare il computer, quindi riprovare.</translation>
+        <translation>Non è stato possibile aggiornare Quillmere. La versione precedente è stata mantenuta. Riavviare il computer, quindi riprovare. I dettagli sono in «~/.Quillmere/log».</translation>
     </message>
     <message>
         <source>Exclude names that begin with a dot</source>
-        <translation type="unfinished">Escludi i nomi che iniziano con un punto</translation>
+        <translation>Escludi i nomi che iniziano con un punto</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -673,7 +673,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup is complete</source>
-        <translation type="unfinished">{\VerdanaBold13}La procedura guidata di installazione di [ProductName] è stata completata</translation>
+        <translation>{\VerdanaBold13}Il programma di installazione di [ProductName] ha completato l&apos;operazione</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -689,7 +689,7 @@
     </message>
     <message>
         <source>&amp;Next</source>
-        <translation>&amp;Avanti</translation>
+        <translation>&amp;Successivo</translation>
     </message>
     <message>
         <source>Parvenor Quillmere</source>
@@ -701,7 +701,7 @@
     </message>
     <message>
         <source>Watching for file changes...</source>
-        <translation>Monitoraggio delle modifiche ai file…</translation>
+        <translation>Monitoraggio delle modifiche ai file...</translation>
     </message>
     <message>
         <source>Shared folder</source>
@@ -709,7 +709,7 @@
     </message>
     <message>
         <source>Quillmere settings</source>
-        <translation type="unfinished">Opzioni del client</translation>
+        <translation>Impostazioni di Quillmere</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
@@ -717,11 +717,11 @@
     </message>
     <message>
         <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
-        <translation type="unfinished">Non è stato possibile verificare il certificato SSL del server. Chiedere all&apos;amministratore del server di controllare il certificato.</translation>
+        <translation>Non è stato possibile verificare il certificato del server: potrebbe essere scaduto, appartenere a un altro server o provenire da un emittente sconosciuto. Chiedere all&apos;amministratore del server di controllare il certificato.</translation>
     </message>
     <message>
         <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
-        <translation type="unfinished">Questo non è il server a cui era collegata la connessione. Controllare l&apos;indirizzo del server o ripetere il collegamento.</translation>
+        <translation>Questo non è il server a cui era connesso il computer. Controllare l&apos;indirizzo del server o riconnettere il computer.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>Connect to another server...</source>
-        <translation type="unfinished">Collega a un altro server</translation>
+        <translation>Connetti a un altro server...</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]Making changes to [ProductName]</source>
-        <translation type="unfinished">[DlgTitleFont]Configurazione di [ProductName]</translation>
+        <translation>[DlgTitleFont]Modifiche a [ProductName] in corso</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -785,11 +785,11 @@
     </message>
     <message>
         <source>&amp;Install</source>
-        <translation>I&amp;nstalla</translation>
+        <translation>Ins&amp;talla</translation>
     </message>
     <message>
         <source>Files to exclude</source>
-        <translation type="unfinished">Filtro file</translation>
+        <translation>File da escludere</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -801,7 +801,7 @@
     </message>
     <message>
         <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Si è verificato un problema. Riprovare e, se il problema persiste, contattare l&apos;amministratore del server.</translation>
+        <translation>Si è verificato un problema. Riprovare e, se il problema persiste, contattare l&apos;amministratore del server. I dettagli sono in «~/.Quillmere/log».</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -813,7 +813,7 @@
     </message>
     <message>
         <source>Next</source>
-        <translation>Avanti</translation>
+        <translation>Successivo</translation>
     </message>
     <message>
         <source>&amp;Back</source>
@@ -825,7 +825,7 @@
     </message>
     <message>
         <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
-        <translation type="unfinished">L&apos;accesso non è stato eseguito come amministratore, quindi Quillmere potrebbe non essere installato completamente. Continuare?</translation>
+        <translation>L&apos;accesso non è stato eseguito come amministratore, quindi Quillmere potrebbe non venire installato completamente. Continuare?</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
@@ -873,7 +873,7 @@
     </message>
     <message>
         <source>Choose another folder...</source>
-        <translation type="unfinished">Scegli un&apos;altra cartella</translation>
+        <translation>Scegli un&apos;altra cartella...</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -897,22 +897,22 @@
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">Scollega</translation>
+        <translation>Rimuovi</translation>
     </message>
     <message>
         <source>Another server was found at the server address.</source>
-        <translation type="unfinished">All&apos;indirizzo del server è stato trovato un server diverso.</translation>
+        <translation>All&apos;indirizzo del server è stato trovato un altro server.</translation>
     </message>
     <message>
         <source>Connecting to the server...</source>
-        <translation type="unfinished">Collegamento al server…</translation>
+        <translation>Connessione al server...</translation>
     </message>
     <message>
         <source>Port</source>
         <translation>Porta</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Create share link</source>
         <translation>Crea link di condivisione</translation>
     </message>
     <message>
@@ -929,7 +929,7 @@
     </message>
     <message>
         <source>Change folder...</source>
-        <translation type="unfinished">Cambia cartella</translation>
+        <translation>Cambia cartella...</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -941,11 +941,11 @@
     </message>
     <message>
         <source>Downloading...</source>
-        <translation>Download in corso…</translation>
+        <translation>Download in corso...</translation>
     </message>
     <message>
         <source>File locked</source>
-        <translation type="unfinished">Il file è bloccato</translation>
+        <translation>File bloccato</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -953,11 +953,11 @@
     </message>
     <message>
         <source>Preparing...</source>
-        <translation>Preparazione…</translation>
+        <translation>Preparazione...</translation>
     </message>
     <message>
         <source>Syncing files...</source>
-        <translation type="unfinished">Aggiornamento dei file…</translation>
+        <translation>Sincronizzazione dei file...</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -965,11 +965,11 @@
     </message>
     <message>
         <source>Checking the user name and password...</source>
-        <translation>Verifica del nome utente e della password…</translation>
+        <translation>Verifica del nome utente e della password...</translation>
     </message>
     <message>
         <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
-        <translation type="unfinished">Attendere che la procedura guidata configuri [ProductName]. L&apos;operazione può richiedere diversi minuti.</translation>
+        <translation>Attendere che la procedura guidata apporti le modifiche a [ProductName]. L&apos;operazione può richiedere diversi minuti.</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1021,7 +1021,7 @@
     </message>
     <message>
         <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
-        <translation type="unfinished">La cartella di sincronizzazione locale non è stata trovata. Ripristinarla o sceglierne un&apos;altra.</translation>
+        <translation>La cartella di sincronizzazione locale non è stata trovata. Ripristinarla o scegliere un&apos;altra cartella. Il percorso è indicato in «Attività di sincronizzazione».</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
@@ -1029,15 +1029,15 @@
     </message>
     <message>
         <source>Add sync task...</source>
-        <translation type="unfinished">Aggiungi attività di sincronizzazione</translation>
+        <translation>Aggiungi attività...</translation>
     </message>
     <message>
         <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
-        <translation type="unfinished">La cartella condivisa non è montata sul server. Chiedere all&apos;amministratore del server di montarla.</translation>
+        <translation>La cartella condivisa non è montata sul server. Chiedere all&apos;amministratore del server di montarla. Il nome della cartella è indicato in «Cartelle condivise».</translation>
     </message>
     <message>
         <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Il server ha inviato una risposta imprevista. Aggiornare il client e il server, quindi riprovare.</translation>
+        <translation>Il server ha inviato una risposta imprevista. Aggiornare Quillmere su questo computer e chiedere all&apos;amministratore del server di aggiornarlo sul server. I dettagli sono in «~/.Quillmere/log».</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1049,15 +1049,15 @@
     </message>
     <message>
         <source>Enter a size of at most %1 MB.</source>
-        <translation>Inserire una dimensione non superiore a %1 MB.</translation>
+        <translation>Inserire una dimensione non superiore a %1&#xa0;MB.</translation>
     </message>
     <message>
         <source>Checking files...</source>
-        <translation type="unfinished">Controllo dei dati…</translation>
+        <translation>Controllo dei file...</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
-        <translation>Tentativo di sincronizzazione…</translation>
+        <translation>Tentativo di sincronizzazione...</translation>
     </message>
     <message>
         <source>Click Install to begin the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
@@ -1065,7 +1065,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
-        <translation type="unfinished">{\VerdanaBold13}L&apos;installazione di [ProductName] è stata interrotta</translation>
+        <translation>{\VerdanaBold13}Il programma di installazione di [ProductName] è stato annullato</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1093,7 +1093,7 @@
     </message>
     <message>
         <source>This folder is already synced with another shared folder. Choose another folder.</source>
-        <translation type="unfinished">Questa cartella è già sincronizzata con un&apos;altra cartella condivisa. Scegliere una cartella diversa.</translation>
+        <translation>Questa cartella è già sincronizzata con un&apos;altra cartella condivisa. Scegliere un&apos;altra cartella.</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1117,7 +1117,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup did not finish</source>
-        <translation>{\VerdanaBold13}L&apos;installazione di [ProductName] non è stata completata</translation>
+        <translation>{\VerdanaBold13}Il programma di installazione di [ProductName] non ha completato l&apos;operazione</translation>
     </message>
     <message>
         <source>Quillmere is already running.</source>
@@ -1125,7 +1125,7 @@
     </message>
     <message>
         <source>Welcome</source>
-        <translation>Benvenuti</translation>
+        <translation>Ti diamo il benvenuto</translation>
     </message>
     <message>
         <source>Start Quillmere when I sign in to this computer</source>
@@ -1133,7 +1133,7 @@
     </message>
     <message>
         <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
-        <translation type="unfinished">Tutti i file di entrambe le cartelle vengono mantenuti. Se due versioni di un file sono diverse, restano disponibili entrambe.</translation>
+        <translation>Tutti i file di entrambe le cartelle vengono mantenuti. Se due versioni di un file sono diverse, vengono mantenute entrambe con nomi diversi.</translation>
     </message>
     <message>
         <source>Repair the installation</source>
@@ -1141,15 +1141,15 @@
     </message>
     <message>
         <source>Syncing turned on</source>
-        <translation type="unfinished">Sincronizzazione attivata</translation>
+        <translation>Sincronizzazione attivata</translation>
     </message>
     <message>
         <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Non è stato possibile avviare Quillmere. Riavviare il computer, quindi avviare di nuovo Quillmere.</translation>
+        <translation>Non è stato possibile avviare Quillmere. Riavviare il computer, quindi avviare di nuovo Quillmere. I dettagli sono in «~/.Quillmere/log».</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
-        <translation type="unfinished">Annullare l&apos;installazione di [ProductName]?</translation>
+        <source>Cancel [ProductName] setup?</source>
+        <translation>Annullare il programma di installazione di [ProductName]?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1173,7 +1173,7 @@
     </message>
     <message>
         <source>Browse versions...</source>
-        <translation type="unfinished">Sfoglia versioni</translation>
+        <translation>Sfoglia versioni...</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
@@ -1181,19 +1181,19 @@
     </message>
     <message>
         <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
-        <translation type="unfinished">Questa connessione è inattiva. Collegarla di nuovo per continuare la sincronizzazione.</translation>
+        <translation>Questo computer è disconnesso dal server. Riconnetterlo per continuare la sincronizzazione.</translation>
     </message>
     <message>
         <source>Detecting...</source>
-        <translation>Rilevamento…</translation>
+        <translation>Rilevamento...</translation>
     </message>
     <message>
         <source>Certificate warning</source>
-        <translation type="unfinished">Avviso SSL</translation>
+        <translation>Avviso sul certificato</translation>
     </message>
     <message>
         <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
-        <translation type="unfinished">Impossibile raggiungere il servizio di relay. Controllare la connessione a Internet, quindi riprovare.</translation>
+        <translation>Impossibile raggiungere il servizio di relay. Controllare la connessione a Internet, quindi riprovare.</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
@@ -1201,7 +1201,7 @@
     </message>
     <message>
         <source>Downloading %1...</source>
-        <translation>Download di «%1»…</translation>
+        <translation>Download di «%1»...</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
@@ -1213,7 +1213,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]You canceled setup, and your computer was not changed.</source>
-        <translation>[DlgTitleFont]L&apos;installazione è stata annullata e il computer non è stato modificato.</translation>
+        <translation>[DlgTitleFont]Il programma di installazione è stato annullato e il computer non è stato modificato.</translation>
     </message>
     <message>
         <source>The port number is not valid. Enter a number from 1 to 65535.</source>
@@ -1233,23 +1233,23 @@
     </message>
     <message>
         <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
-        <translation type="unfinished">Il volume del server che contiene questa cartella non è montato. Chiedere all&apos;amministratore del server di montarlo.</translation>
+        <translation>Sul server, l&apos;unità che contiene questa cartella non è montata. Chiedere all&apos;amministratore del server di montare l&apos;unità. La cartella è indicata in «Attività di sincronizzazione».</translation>
     </message>
     <message>
         <source>This version of Quillmere is already installed. Install it again?</source>
-        <translation type="unfinished">Questa versione di Quillmere è già installata. Installarla di nuovo?</translation>
+        <translation>Questa versione di Quillmere è già installata. Installarla di nuovo?</translation>
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
-        <translation type="unfinished">Questo client è troppo vecchio per il server. Aggiornare il client, quindi riprovare.</translation>
+        <translation>Quillmere su questo computer è troppo vecchio per funzionare con il server. Aggiornarlo, quindi riprovare.</translation>
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer.</source>
-        <translation type="unfinished">Il server è troppo vecchio per questo client.</translation>
+        <translation>Quillmere sul server è troppo vecchio per funzionare con questo computer.</translation>
     </message>
     <message>
         <source>Turned off</source>
-        <translation type="unfinished">Disattivato</translation>
+        <translation>Disattivato</translation>
     </message>
 </context>
 </TS>

@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>Processing...</source>
-        <translation>処理中…</translation>
+        <translation>処理中...</translation>
     </message>
     <message>
         <source>Exit</source>
@@ -41,11 +41,11 @@
     </message>
     <message>
         <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">ローカルデータベースが破損しています。接続のリンクを解除してから再リンクし、データベースを再構築してください。</translation>
+        <translation>ローカルデータベースが破損しています。サーバーから切断してから再接続し、データベースを再構築してください。詳細は「~/.Quillmere/log」に記録されています。</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
-        <translation>アプリケーションを閉じ、セットアップ後に再起動する(&amp;C)</translation>
+        <translation>アプリケーションを閉じ、変更の完了後に再起動する(&amp;C)</translation>
     </message>
     <message>
         <source>The folder is a mount point. Choose a folder that is not a mount point.</source>
@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>The server has been replaced. Click here to reconnect.</source>
-        <translation type="unfinished">サーバーが交換されています。再リンクするにはここをクリックしてください。</translation>
+        <translation>サーバーが交換されました。再接続するにはここをクリックしてください。</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -69,7 +69,7 @@
     </message>
     <message>
         <source>Exclusion list</source>
-        <translation type="unfinished">除外リスト</translation>
+        <translation>除外リスト</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server.</source>
-        <translation type="unfinished">このクライアントは古いため、サーバーに対応していません。</translation>
+        <translation>このコンピューターのQuillmereはバージョンが古く、サーバーと連携できません。</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
@@ -93,11 +93,11 @@
     </message>
     <message>
         <source>Testing the connection...</source>
-        <translation>接続をテストしています…</translation>
+        <translation>接続をテストしています...</translation>
     </message>
     <message>
         <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
-        <translation type="unfinished">サーバーのSSL証明書が信頼されていないため、送信するデータを第三者に読み取られる可能性があります。続行しますか？</translation>
+        <translation>サーバーの証明書は信頼されていません。有効期限が切れている、別のサーバーのものである、または発行元が不明である可能性があります。送信するデータを第三者に読み取られるおそれがあります。続行しますか？</translation>
     </message>
     <message>
         <source>New shared folder</source>
@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>About Quillmere</source>
-        <translation type="unfinished">バージョン情報</translation>
+        <translation>Quillmereについて</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
-        <translation type="unfinished">このコンピューターはすでにこのサーバーとリンクされています。既存の接続を編集するか、別のサーバーを入力してください。</translation>
+        <translation>このコンピューターはすでにこのサーバーに接続されています。既存の接続を編集するか、別のサーバーを入力してください。</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -129,15 +129,15 @@
     </message>
     <message>
         <source>The connection to the server was lost. Check the network connection, then try again.</source>
-        <translation>サーバーとの接続が切断されました。ネットワーク接続を確認してから、もう一度お試しください。</translation>
+        <translation>サーバーとの接続が途切れました。ネットワーク接続を確認してから、もう一度お試しください。</translation>
     </message>
     <message>
         <source>The certificate of the server could not be verified.</source>
-        <translation type="unfinished">サーバーのSSL証明書を検証できませんでした。</translation>
+        <translation>サーバーの証明書を検証できませんでした。</translation>
     </message>
     <message>
         <source>Use a black-and-white tray icon</source>
-        <translation type="unfinished">白黒のトレイアイコンを使用する</translation>
+        <translation>白黒のトレイアイコンを使用する</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -153,19 +153,19 @@
     </message>
     <message>
         <source>Excluded files</source>
-        <translation type="unfinished">除外するファイル</translation>
+        <translation>除外するファイル</translation>
     </message>
     <message>
         <source>No permission</source>
-        <translation>アクセス権がありません</translation>
+        <translation>アクセス権なし</translation>
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
-        <translation type="unfinished">サーバーが古いため、このクライアントに対応していません。サーバー管理者にアップグレードを依頼してください。</translation>
+        <translation>サーバー上のQuillmereはバージョンが古く、このコンピューターと連携できません。サーバー管理者にQuillmereのアップグレードを依頼してください。</translation>
     </message>
     <message>
         <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
-        <translation type="unfinished">やり直すには、後でもう一度セットアップを実行してください。「完了」をクリックすると、セットアップウィザードが終了します。</translation>
+        <translation>セットアップはいつでも再実行できます。「完了」をクリックすると、セットアップウィザードが終了します。</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>A newer version of Quillmere is already installed. To install this version, remove the newer one first.</source>
-        <translation>新しいバージョンのQuillmereがすでにインストールされています。このバージョンをインストールするには、先に新しいバージョンを削除してください。</translation>
+        <translation>より新しいバージョンのQuillmereがすでにインストールされています。このバージョンをインストールするには、先に新しい方のバージョンを削除してください。</translation>
     </message>
     <message>
         <source>Click Repair to repair the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
@@ -181,7 +181,7 @@
     </message>
     <message>
         <source>Some settings have not been saved. Save them?</source>
-        <translation type="unfinished">保存されていない設定があります。保存しますか？</translation>
+        <translation>保存されていない設定があります。保存しますか？</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -193,7 +193,7 @@
     </message>
     <message>
         <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
-        <translation type="unfinished">このフォルダーは別の同期プログラムですでに使用されています。競合を避けるため、別のフォルダーを選択してください。</translation>
+        <translation>このフォルダーは別の同期プログラムですでに使用されています。競合を避けるため、別のフォルダーを選択してください。</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -205,15 +205,15 @@
     </message>
     <message>
         <source>Change sync folder</source>
-        <translation type="unfinished">同期フォルダーの変更</translation>
+        <translation>同期フォルダーの変更</translation>
     </message>
     <message>
         <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
-        <translation type="unfinished">フォルダーのパスを含まない完全なファイル名を入力してください。</translation>
+        <translation>フォルダーのパスを含まない完全なファイル名を入力してください（例：thumbs.db）。</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
-        <translation type="unfinished">[DlgTitleFont]エラーのためセットアップが停止し、変更は元に戻されました。</translation>
+        <translation>[DlgTitleFont]エラーのためセットアップが停止しました。セットアップによる変更は元に戻されました。</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -233,7 +233,7 @@
     </message>
     <message>
         <source>Folder not empty</source>
-        <translation>フォルダーが空ではありません</translation>
+        <translation>空ではないフォルダー</translation>
     </message>
     <message>
         <source>Name</source>
@@ -241,7 +241,7 @@
     </message>
     <message>
         <source>Use an encrypted connection (TLS)</source>
-        <translation type="unfinished">データ転送をSSLで暗号化する</translation>
+        <translation>暗号化接続（TLS）を使用する</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -261,7 +261,7 @@
     </message>
     <message>
         <source>A new version of Quillmere is available. Click here to upgrade.</source>
-        <translation>Quillmereの新しいバージョンを利用できます。アップグレードするにはここをクリックしてください。</translation>
+        <translation>新しいバージョンのQuillmereを利用できます。アップグレードするにはここをクリックしてください。</translation>
     </message>
     <message>
         <source>The download of %1 was canceled.</source>
@@ -277,7 +277,7 @@
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished">リンク解除</translation>
+        <translation>切断</translation>
     </message>
     <message>
         <source>Back</source>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Quillmere is initializing...</source>
-        <translation>Quillmereを初期化しています…</translation>
+        <translation>Quillmereを初期化しています...</translation>
     </message>
     <message>
         <source>Start now</source>
@@ -313,11 +313,11 @@
     </message>
     <message>
         <source>Applying the settings...</source>
-        <translation>設定を適用しています…</translation>
+        <translation>設定を適用しています...</translation>
     </message>
     <message>
         <source>Files excluded from syncing</source>
-        <translation type="unfinished">同期しないファイル</translation>
+        <translation>同期から除外するファイル</translation>
     </message>
     <message>
         <source>Created</source>
@@ -333,7 +333,7 @@
     </message>
     <message>
         <source>Choose shared folders to sync</source>
-        <translation type="unfinished">同期する共有フォルダーの選択</translation>
+        <translation>同期する共有フォルダーの選択</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -341,7 +341,7 @@
     </message>
     <message>
         <source>Uploading...</source>
-        <translation>アップロード中…</translation>
+        <translation>アップロード中...</translation>
     </message>
     <message>
         <source>To use selective sync, ask the server administrator to upgrade Quillmere on the server.</source>
@@ -361,7 +361,7 @@
     </message>
     <message>
         <source>Excluded file extensions</source>
-        <translation type="unfinished">除外するファイルの拡張子</translation>
+        <translation>除外するファイルの拡張子</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -377,7 +377,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
-        <translation type="unfinished">同期フォルダーのあるボリュームがマウントされていません。ボリュームをマウントしてから、同期を再開してください。</translation>
+        <translation>同期フォルダーのあるドライブがマウントされていません。ドライブをマウントしてから、同期を再開してください。フォルダーは「同期タスク」で確認できます。</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is full.</source>
-        <translation type="unfinished">このコンピューターのディスクに空き容量がありません。</translation>
+        <translation>同期フォルダーのあるドライブに空き容量がありません。</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -401,7 +401,7 @@
     </message>
     <message>
         <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
-        <translation type="unfinished">同じ名前のフォルダーがすでに存在します。そのフォルダー内のファイルをサーバー上のファイルと統合しますか？</translation>
+        <translation>同じ名前のフォルダーがこのコンピューターにすでに存在します。フォルダー内のファイルをサーバー上のファイルと統合しますか？</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
@@ -421,7 +421,7 @@
     </message>
     <message>
         <source>Upgrading Quillmere...</source>
-        <translation>Quillmereをアップグレードしています…</translation>
+        <translation>Quillmereをアップグレードしています...</translation>
     </message>
     <message>
         <source>Sync mode</source>
@@ -449,15 +449,15 @@
     </message>
     <message>
         <source>Files being synced: %1</source>
-        <translation type="unfinished">%1個のファイルを同期しています…</translation>
+        <translation>同期中のファイル：%1個</translation>
     </message>
     <message>
         <source>Reconnect</source>
-        <translation type="unfinished">再リンク</translation>
+        <translation>再接続</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
-        <translation>あなたのファイルを、どこでも同期</translation>
+        <translation>大切なファイルを、どこでも同期</translation>
     </message>
     <message>
         <source>Destination</source>
@@ -469,15 +469,15 @@
     </message>
     <message>
         <source>System default</source>
-        <translation>システムの既定値</translation>
+        <translation>システムの既定</translation>
     </message>
     <message>
         <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
-        <translation type="unfinished">選択を解除したフォルダーとファイルは、このコンピューターから削除されます。サーバー上には残ります。</translation>
+        <translation>選択を解除したフォルダーとファイルは、このコンピューターから削除されます。サーバー上には残ります。</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
-        <translation>選択した変更がすべて完了しました。「完了」をクリックすると、セットアップウィザードが終了します。</translation>
+        <translation>セットアップで、選択した変更をすべて実行しました。「完了」をクリックすると、セットアップウィザードが終了します。</translation>
     </message>
     <message>
         <source>Click Remove to remove [ProductName] from your computer. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
@@ -489,19 +489,19 @@
     </message>
     <message>
         <source>Disconnected</source>
-        <translation type="unfinished">非アクティブ</translation>
+        <translation>切断済み</translation>
     </message>
     <message>
         <source>You have used all of your space on the server.</source>
-        <translation type="unfinished">サーバーの割り当て容量がいっぱいです。</translation>
+        <translation>サーバーで使用できる容量をすべて使い切りました。</translation>
     </message>
     <message>
         <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">この接続のリンクを解除しますか？\nファイルはこのコンピューターとサーバーに残りますが、同期されなくなります。</translation>
+        <translation>サーバーから切断しますか？\nファイルはこのコンピューターとサーバーに残りますが、同期されなくなります。</translation>
     </message>
     <message>
         <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
-        <translation type="unfinished">中継サービスで問題が発生しています。後でもう一度試すか、サーバーのIPアドレスで接続してください。</translation>
+        <translation>中継サービスで問題が発生しています。後でもう一度試すか、IPアドレスを使ってサーバーに接続してください。</translation>
     </message>
     <message>
         <source>Server ID</source>
@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>Excluded file names</source>
-        <translation type="unfinished">除外するファイル名</translation>
+        <translation>除外するファイル名</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -521,11 +521,11 @@
     </message>
     <message>
         <source>Turned on</source>
-        <translation type="unfinished">有効</translation>
+        <translation>有効</translation>
     </message>
     <message>
         <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
-        <translation type="unfinished">このコンピューターのディスクに空き容量がありません。同期を続けるには、空き容量を増やしてください。</translation>
+        <translation>同期フォルダーのあるドライブに空き容量がありません。同期を続けるには、このドライブの空き容量を増やしてください。</translation>
     </message>
     <message>
         <source>Folders to sync</source>
@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>Choose sync folder</source>
-        <translation type="unfinished">同期フォルダーの選択</translation>
+        <translation>同期フォルダーの選択</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -549,7 +549,7 @@
     </message>
     <message>
         <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
-        <translation type="unfinished">サーバーの割り当て容量がいっぱいです。不要なファイルを削除するか、割り当て容量の追加をサーバー管理者に依頼してください。</translation>
+        <translation>サーバーで使用できる容量をすべて使い切りました。不要なファイルを削除するか、容量の追加をサーバー管理者に依頼してください。</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
@@ -565,11 +565,11 @@
     </message>
     <message>
         <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
-        <translation type="unfinished">このファイルは2か所で変更されました。両方のコピーを比較し、必要な方を残してください。</translation>
+        <translation>このファイルは、このコンピューターとサーバーの両方で変更されました。両方のコピーが、同じフォルダーに異なる名前で保存されています。2つを比較し、必要な方を残してください。</translation>
     </message>
     <message>
         <source>All your files on every computer, kept on your own server</source>
-        <translation type="unfinished">自分だけのサーバーで、すべてのコンピューターのファイルを一か所に</translation>
+        <translation>自分のサーバーに保管したすべてのファイルを、どのコンピューターでも</translation>
     </message>
     <message>
         <source>OK</source>
@@ -581,7 +581,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
-        <translation type="unfinished">次のアプリケーションは、セットアップで更新する必要のあるファイルを使用しています。アプリケーションを閉じて「再試行」をクリックするか、閉じずに続行する場合は「無視」を、セットアップを中止する場合は「終了」をクリックしてください。</translation>
+        <translation>次のアプリケーションは、セットアップで更新する必要のあるファイルを使用しています。アプリケーションを閉じてから「再試行」をクリックしてください。閉じずに続行するには「無視」をクリックしてください。セットアップを中止するには「終了」をクリックしてください。</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -597,7 +597,7 @@
     </message>
     <message>
         <source>Edit connection...</source>
-        <translation type="unfinished">接続を編集</translation>
+        <translation>接続を編集...</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
-        <translation>次のアプリケーションは、セットアップで更新する必要のあるファイルを使用しています。セットアップでこれらのアプリケーションを閉じるかどうかを選択してください。開いたままにする場合、セットアップを完了するにはコンピューターの再起動が必要です。</translation>
+        <translation>次のアプリケーションは、セットアップで更新する必要のあるファイルを使用しています。セットアップでこれらのアプリケーションを閉じるかどうかを選択してください。開いたままにする場合、変更を完了するにはコンピューターの再起動が必要です。</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the repair.</source>
@@ -625,31 +625,31 @@
     </message>
     <message>
         <source>Show icon overlays on excluded files</source>
-        <translation type="unfinished">フィルターで除外されたファイルにオーバーレイアイコンを表示する</translation>
+        <translation>除外されたファイルにオーバーレイアイコンを表示する</translation>
     </message>
     <message>
         <source>Loading...</source>
-        <translation>読み込み中…</translation>
+        <translation>読み込み中...</translation>
     </message>
     <message>
         <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
-        <translation type="unfinished">同期できる共有フォルダーは最大%1個です。別のフォルダーを追加する前に、いずれかの同期を停止してください。</translation>
+        <translation>同期できる共有フォルダーの上限（%1個）に達しています。別の共有フォルダーを追加する前に、いずれかの共有フォルダーの同期を停止してください。</translation>
     </message>
     <message>
         <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">この同期タスクのリンクを解除しますか？\nファイルはこのコンピューターとサーバーに残りますが、同期されなくなります。</translation>
+        <translation>この同期タスクを削除しますか？\n対象のファイルはこのコンピューターとサーバーに残りますが、同期されなくなります。</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
-        <translation>Quillmereを起動しています…</translation>
+        <translation>Quillmereを起動しています...</translation>
     </message>
     <message>
         <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Quillmereをアップグレードできませんでした。コンピューターを再起動してから、もう一度お試しください。</translation>
+        <translation>Quillmereをアップグレードできませんでした。以前のバージョンはそのまま残っています。コンピューターを再起動してから、もう一度お試しください。詳細は「~/.Quillmere/log」に記録されています。</translation>
     </message>
     <message>
         <source>Exclude names that begin with a dot</source>
-        <translation type="unfinished">ドットで始まる名前を除外する</translation>
+        <translation>ドットで始まる名前を除外する</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -673,7 +673,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup is complete</source>
-        <translation type="unfinished">{\VerdanaBold13}[ProductName]セットアップウィザードが完了しました</translation>
+        <translation>{\VerdanaBold13}[ProductName]セットアップが完了しました</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -685,7 +685,7 @@
     </message>
     <message>
         <source>Shared folder not found</source>
-        <translation>共有フォルダーが見つかりません</translation>
+        <translation>見つからない共有フォルダー</translation>
     </message>
     <message>
         <source>&amp;Next</source>
@@ -701,7 +701,7 @@
     </message>
     <message>
         <source>Watching for file changes...</source>
-        <translation>ファイルの変更を監視しています…</translation>
+        <translation>ファイルの変更を監視しています...</translation>
     </message>
     <message>
         <source>Shared folder</source>
@@ -709,7 +709,7 @@
     </message>
     <message>
         <source>Quillmere settings</source>
-        <translation type="unfinished">クライアントのオプション</translation>
+        <translation>Quillmereの設定</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
@@ -717,11 +717,11 @@
     </message>
     <message>
         <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
-        <translation type="unfinished">サーバーのSSL証明書を検証できませんでした。サーバー管理者に証明書の確認を依頼してください。</translation>
+        <translation>サーバーの証明書を検証できませんでした。有効期限が切れている、別のサーバーのものである、または発行元が不明である可能性があります。サーバー管理者に証明書の確認を依頼してください。</translation>
     </message>
     <message>
         <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
-        <translation type="unfinished">この接続のリンク先とは異なるサーバーです。サーバーアドレスを確認するか、再リンクしてください。</translation>
+        <translation>このコンピューターが接続していたサーバーとは別のサーバーです。サーバーアドレスを確認するか、再接続してください。</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>Connect to another server...</source>
-        <translation type="unfinished">別のサーバーとリンク</translation>
+        <translation>別のサーバーに接続...</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
@@ -769,11 +769,11 @@
     </message>
     <message>
         <source>[DlgTitleFont]Making changes to [ProductName]</source>
-        <translation type="unfinished">[DlgTitleFont][ProductName]のセットアップ中</translation>
+        <translation>[DlgTitleFont][ProductName]に変更を加えています</translation>
     </message>
     <message>
         <source>Service turned off</source>
-        <translation>サービスが無効</translation>
+        <translation>サービス無効</translation>
     </message>
     <message>
         <source>Sync</source>
@@ -789,7 +789,7 @@
     </message>
     <message>
         <source>Files to exclude</source>
-        <translation type="unfinished">ファイルフィルター</translation>
+        <translation>除外するファイル</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -801,7 +801,7 @@
     </message>
     <message>
         <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">問題が発生しました。もう一度お試しください。問題が続く場合は、サーバー管理者にお問い合わせください。</translation>
+        <translation>問題が発生しました。もう一度お試しください。問題が続く場合は、サーバー管理者にお問い合わせください。詳細は「~/.Quillmere/log」に記録されています。</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -825,7 +825,7 @@
     </message>
     <message>
         <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
-        <translation type="unfinished">管理者としてサインインしていないため、Quillmereを完全にインストールできない可能性があります。続行しますか？</translation>
+        <translation>管理者としてサインインしていないため、Quillmereを完全にインストールできない可能性があります。続行しますか？</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
@@ -869,11 +869,11 @@
     </message>
     <message>
         <source>Folder is a mount point</source>
-        <translation>フォルダーがマウントポイントです</translation>
+        <translation>マウントポイントのフォルダー</translation>
     </message>
     <message>
         <source>Choose another folder...</source>
-        <translation type="unfinished">別のフォルダーを選択</translation>
+        <translation>別のフォルダーを選択...</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -897,27 +897,27 @@
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">リンク解除</translation>
+        <translation>削除</translation>
     </message>
     <message>
         <source>Another server was found at the server address.</source>
-        <translation type="unfinished">サーバーアドレスで別のサーバーが検出されました。</translation>
+        <translation>サーバーアドレスで別のサーバーが見つかりました。</translation>
     </message>
     <message>
         <source>Connecting to the server...</source>
-        <translation type="unfinished">サーバーとリンクしています…</translation>
+        <translation>サーバーに接続しています...</translation>
     </message>
     <message>
         <source>Port</source>
         <translation>ポート</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Create share link</source>
         <translation>共有リンクを作成</translation>
     </message>
     <message>
         <source>The user name or password was not accepted by the server. Edit the connection and enter them again.</source>
-        <translation>ユーザー名またはパスワードがサーバーに拒否されました。接続を編集し、入力し直してください。</translation>
+        <translation>ユーザー名またはパスワードがサーバーに拒否されました。接続を編集し、ユーザー名とパスワードを入力し直してください。</translation>
     </message>
     <message>
         <source>Recently updated files</source>
@@ -929,7 +929,7 @@
     </message>
     <message>
         <source>Change folder...</source>
-        <translation type="unfinished">フォルダーを変更</translation>
+        <translation>フォルダーを変更...</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -941,11 +941,11 @@
     </message>
     <message>
         <source>Downloading...</source>
-        <translation>ダウンロード中…</translation>
+        <translation>ダウンロード中...</translation>
     </message>
     <message>
         <source>File locked</source>
-        <translation type="unfinished">ファイルがロックされています</translation>
+        <translation>ロックされたファイル</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -953,11 +953,11 @@
     </message>
     <message>
         <source>Preparing...</source>
-        <translation>準備中…</translation>
+        <translation>準備中...</translation>
     </message>
     <message>
         <source>Syncing files...</source>
-        <translation type="unfinished">ファイルを更新しています…</translation>
+        <translation>ファイルを同期しています...</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -965,11 +965,11 @@
     </message>
     <message>
         <source>Checking the user name and password...</source>
-        <translation>ユーザー名とパスワードを確認しています…</translation>
+        <translation>ユーザー名とパスワードを確認しています...</translation>
     </message>
     <message>
         <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
-        <translation type="unfinished">セットアップウィザードが[ProductName]のセットアップを行っています。しばらくお待ちください。数分かかることがあります。</translation>
+        <translation>セットアップウィザードが[ProductName]に変更を加えています。しばらくお待ちください。数分かかることがあります。</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1021,7 +1021,7 @@
     </message>
     <message>
         <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
-        <translation type="unfinished">ローカル同期フォルダーが見つかりません。フォルダーを復元するか、別のフォルダーを選択してください。</translation>
+        <translation>ローカル同期フォルダーが見つかりません。フォルダーを復元するか、別のフォルダーを選択してください。パスは「同期タスク」で確認できます。</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
@@ -1029,15 +1029,15 @@
     </message>
     <message>
         <source>Add sync task...</source>
-        <translation type="unfinished">同期タスクを追加</translation>
+        <translation>同期タスクを追加...</translation>
     </message>
     <message>
         <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
-        <translation type="unfinished">共有フォルダーがサーバーでマウントされていません。サーバー管理者にマウントを依頼してください。</translation>
+        <translation>共有フォルダーがサーバーでマウントされていません。サーバー管理者にマウントを依頼してください。名前は「共有フォルダー」で確認できます。</translation>
     </message>
     <message>
         <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">サーバーから予期しない応答がありました。クライアントとサーバーをアップグレードしてから、もう一度お試しください。</translation>
+        <translation>サーバーから予期しない応答がありました。このコンピューターのQuillmereをアップグレードし、サーバー上のQuillmereのアップグレードをサーバー管理者に依頼してください。詳細は「~/.Quillmere/log」に記録されています。</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1053,11 +1053,11 @@
     </message>
     <message>
         <source>Checking files...</source>
-        <translation type="unfinished">データを確認しています…</translation>
+        <translation>ファイルを確認しています...</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
-        <translation>同期を試みています…</translation>
+        <translation>同期を試みています...</translation>
     </message>
     <message>
         <source>Click Install to begin the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
@@ -1065,7 +1065,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
-        <translation type="unfinished">{\VerdanaBold13}[ProductName]のセットアップが中断されました</translation>
+        <translation>{\VerdanaBold13}[ProductName]セットアップはキャンセルされました</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1093,7 +1093,7 @@
     </message>
     <message>
         <source>This folder is already synced with another shared folder. Choose another folder.</source>
-        <translation type="unfinished">このフォルダーはすでに別の共有フォルダーと同期されています。別のフォルダーを選択してください。</translation>
+        <translation>このフォルダーはすでに別の共有フォルダーと同期されています。別のフォルダーを選択してください。</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1117,7 +1117,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup did not finish</source>
-        <translation>{\VerdanaBold13}[ProductName]のセットアップを完了できませんでした</translation>
+        <translation>{\VerdanaBold13}[ProductName]セットアップを完了できませんでした</translation>
     </message>
     <message>
         <source>Quillmere is already running.</source>
@@ -1133,7 +1133,7 @@
     </message>
     <message>
         <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
-        <translation type="unfinished">両方のフォルダーのすべてのファイルが保持されます。同じファイルの内容が異なる場合は、両方のバージョンが残ります。</translation>
+        <translation>両方のフォルダーのすべてのファイルが保持されます。同じファイルの内容が異なる場合は、両方のバージョンが異なる名前で保持されます。</translation>
     </message>
     <message>
         <source>Repair the installation</source>
@@ -1141,15 +1141,15 @@
     </message>
     <message>
         <source>Syncing turned on</source>
-        <translation type="unfinished">同期が有効</translation>
+        <translation>同期有効</translation>
     </message>
     <message>
         <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Quillmereを起動できませんでした。コンピューターを再起動してから、もう一度Quillmereを起動してください。</translation>
+        <translation>Quillmereを起動できませんでした。コンピューターを再起動してから、もう一度Quillmereを起動してください。詳細は「~/.Quillmere/log」に記録されています。</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
-        <translation type="unfinished">[ProductName]のセットアップをキャンセルしますか？</translation>
+        <source>Cancel [ProductName] setup?</source>
+        <translation>[ProductName]セットアップをキャンセルしますか？</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1173,7 +1173,7 @@
     </message>
     <message>
         <source>Browse versions...</source>
-        <translation type="unfinished">以前のバージョンを表示</translation>
+        <translation>以前のバージョンを表示...</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
@@ -1181,19 +1181,19 @@
     </message>
     <message>
         <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
-        <translation type="unfinished">この接続は非アクティブです。同期を続けるには再リンクしてください。</translation>
+        <translation>このコンピューターはサーバーから切断されています。同期を続けるには再接続してください。</translation>
     </message>
     <message>
         <source>Detecting...</source>
-        <translation>検出中…</translation>
+        <translation>検出中...</translation>
     </message>
     <message>
         <source>Certificate warning</source>
-        <translation type="unfinished">SSLの警告</translation>
+        <translation>証明書の警告</translation>
     </message>
     <message>
         <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
-        <translation type="unfinished">中継サービスに接続できません。インターネット接続を確認してから、もう一度お試しください。</translation>
+        <translation>中継サービスに接続できません。インターネット接続を確認してから、もう一度お試しください。</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
@@ -1201,7 +1201,7 @@
     </message>
     <message>
         <source>Downloading %1...</source>
-        <translation>「%1」をダウンロードしています…</translation>
+        <translation>「%1」をダウンロードしています...</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
@@ -1225,7 +1225,7 @@
     </message>
     <message>
         <source>Remove the installation</source>
-        <translation>インストールの削除</translation>
+        <translation>プログラムの削除</translation>
     </message>
     <message>
         <source>Direct connection</source>
@@ -1233,23 +1233,23 @@
     </message>
     <message>
         <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
-        <translation type="unfinished">このフォルダーのあるサーバーボリュームがマウントされていません。サーバー管理者にマウントを依頼してください。</translation>
+        <translation>このフォルダーを保存しているサーバー上のドライブがマウントされていません。サーバー管理者にマウントを依頼してください。フォルダーは「同期タスク」で確認できます。</translation>
     </message>
     <message>
         <source>This version of Quillmere is already installed. Install it again?</source>
-        <translation type="unfinished">このバージョンのQuillmereはすでにインストールされています。もう一度インストールしますか？</translation>
+        <translation>このバージョンのQuillmereはすでにインストールされています。もう一度インストールしますか？</translation>
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
-        <translation type="unfinished">このクライアントは古いため、サーバーに対応していません。クライアントをアップグレードしてから、もう一度お試しください。</translation>
+        <translation>このコンピューターのQuillmereはバージョンが古く、サーバーと連携できません。Quillmereをアップグレードしてから、もう一度お試しください。</translation>
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer.</source>
-        <translation type="unfinished">サーバーが古いため、このクライアントに対応していません。</translation>
+        <translation>サーバー上のQuillmereはバージョンが古く、このコンピューターと連携できません。</translation>
     </message>
     <message>
         <source>Turned off</source>
-        <translation type="unfinished">無効</translation>
+        <translation>無効</translation>
     </message>
 </context>
 </TS>

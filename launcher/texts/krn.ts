@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>Exit</source>
-        <translation>종료</translation>
+        <translation>끝내기</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the installation.</source>
@@ -41,11 +41,11 @@
     </message>
     <message>
         <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">로컬 데이터베이스가 손상되었습니다. 서버와의 연동을 해제한 다음 다시 연동하여 데이터베이스를 다시 만드십시오.</translation>
+        <translation>로컬 데이터베이스가 손상되었습니다. 서버 연결을 끊은 다음 다시 연결하여 데이터베이스를 다시 만드십시오. 자세한 내용은 ‘~/.Quillmere/log’에 있습니다.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
-        <translation>응용 프로그램을 닫고 설치 후 다시 시작(&amp;C)</translation>
+        <translation>응용 프로그램을 닫고 설치 프로그램 작업이 끝난 후 다시 시작(&amp;C)</translation>
     </message>
     <message>
         <source>The folder is a mount point. Choose a folder that is not a mount point.</source>
@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>The server has been replaced. Click here to reconnect.</source>
-        <translation type="unfinished">서버가 교체되었습니다. 다시 연동하려면 여기를 클릭하십시오.</translation>
+        <translation>서버가 교체되었습니다. 다시 연결하려면 여기를 클릭하십시오.</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -65,11 +65,11 @@
     </message>
     <message>
         <source>The Setup Wizard lets you change, repair, or remove [ProductName]. Click Next to continue, or click Cancel to exit the Setup Wizard.</source>
-        <translation>설치 마법사를 사용하여 [ProductName] 설치를 변경, 복구 또는 제거할 수 있습니다. 계속하려면 ‘다음’을 클릭하고, 설치 마법사를 종료하려면 ‘취소’를 클릭하십시오.</translation>
+        <translation>설치 마법사를 사용하여 [ProductName] 프로그램을 변경, 복구 또는 제거할 수 있습니다. 계속하려면 ‘다음’을 클릭하고, 설치 마법사를 끝내려면 ‘취소’를 클릭하십시오.</translation>
     </message>
     <message>
         <source>Exclusion list</source>
-        <translation type="unfinished">제외 목록</translation>
+        <translation>제외 목록</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
@@ -77,11 +77,11 @@
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server.</source>
-        <translation type="unfinished">이 클라이언트의 버전이 낮아 서버와 호환되지 않습니다.</translation>
+        <translation>이 컴퓨터에 설치된 Quillmere 버전이 오래되어 서버와 함께 사용할 수 없습니다.</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
-        <translation>[ProductName] 설치</translation>
+        <translation>[ProductName] 설치 프로그램</translation>
     </message>
     <message>
         <source>Sign-in failed</source>
@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
-        <translation type="unfinished">서버의 SSL 인증서를 신뢰할 수 없으므로 보내는 데이터를 다른 사람이 읽을 수 있습니다. 계속하시겠습니까?</translation>
+        <translation>서버의 인증서를 신뢰할 수 없습니다. 인증서가 만료되었거나, 다른 서버의 인증서이거나, 발급자를 알 수 없는 인증서일 수 있습니다. 보내는 데이터를 다른 사람이 읽을 수도 있습니다. 계속하시겠습니까?</translation>
     </message>
     <message>
         <source>New shared folder</source>
@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>About Quillmere</source>
-        <translation type="unfinished">정보</translation>
+        <translation>Quillmere 정보</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
-        <translation type="unfinished">이 컴퓨터는 이미 이 서버와 연동되어 있습니다. 기존 연결을 편집하거나 다른 서버를 입력하십시오.</translation>
+        <translation>이 컴퓨터는 이미 이 서버에 연결되어 있습니다. 기존 연결을 편집하거나 다른 서버를 입력하십시오.</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -129,15 +129,15 @@
     </message>
     <message>
         <source>The connection to the server was lost. Check the network connection, then try again.</source>
-        <translation>서버와의 연결이 끊어졌습니다. 네트워크 연결을 확인한 다음 다시 시도하십시오.</translation>
+        <translation>서버와의 통신이 끊어졌습니다. 네트워크 연결을 확인한 다음 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>The certificate of the server could not be verified.</source>
-        <translation type="unfinished">서버의 SSL 인증서를 검증할 수 없습니다.</translation>
+        <translation>서버의 인증서를 검증할 수 없습니다.</translation>
     </message>
     <message>
         <source>Use a black-and-white tray icon</source>
-        <translation type="unfinished">흑백 트레이 아이콘 사용</translation>
+        <translation>흑백 트레이 아이콘 사용</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -153,7 +153,7 @@
     </message>
     <message>
         <source>Excluded files</source>
-        <translation type="unfinished">제외된 파일</translation>
+        <translation>제외할 파일</translation>
     </message>
     <message>
         <source>No permission</source>
@@ -161,11 +161,11 @@
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
-        <translation type="unfinished">서버의 버전이 낮아 이 클라이언트와 호환되지 않습니다. 서버 관리자에게 서버 업그레이드를 요청하십시오.</translation>
+        <translation>서버에 설치된 Quillmere 버전이 오래되어 이 컴퓨터와 함께 사용할 수 없습니다. 서버 관리자에게 Quillmere 업그레이드를 요청하십시오.</translation>
     </message>
     <message>
         <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
-        <translation type="unfinished">다시 시도하려면 나중에 설치 프로그램을 다시 실행하십시오. 설치 마법사를 종료하려면 ‘마침’을 클릭하십시오.</translation>
+        <translation>설치 프로그램은 언제든지 다시 실행할 수 있습니다. 설치 마법사를 끝내려면 ‘완료’를 클릭하십시오.</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -177,11 +177,11 @@
     </message>
     <message>
         <source>Click Repair to repair the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
-        <translation>[ProductName] 설치를 복구하려면 ‘복구’를 클릭하십시오. 선택 사항을 검토하려면 ‘뒤로’를 클릭하고, 설치 마법사를 종료하려면 ‘취소’를 클릭하십시오.</translation>
+        <translation>[ProductName] 설치를 복구하려면 ‘복구’를 클릭하십시오. 선택 사항을 검토하려면 ‘뒤로’를 클릭하고, 설치 마법사를 끝내려면 ‘취소’를 클릭하십시오.</translation>
     </message>
     <message>
         <source>Some settings have not been saved. Save them?</source>
-        <translation type="unfinished">일부 설정이 저장되지 않았습니다. 저장하시겠습니까?</translation>
+        <translation>일부 설정이 저장되지 않았습니다. 저장하시겠습니까?</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -193,7 +193,7 @@
     </message>
     <message>
         <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
-        <translation type="unfinished">이 폴더는 다른 동기화 프로그램에서 이미 사용 중입니다. 충돌을 방지하려면 다른 폴더를 선택하십시오.</translation>
+        <translation>이 폴더는 다른 동기화 프로그램에서 이미 사용 중입니다. 충돌을 방지하려면 다른 폴더를 선택하십시오.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -205,15 +205,15 @@
     </message>
     <message>
         <source>Change sync folder</source>
-        <translation type="unfinished">동기화 폴더 변경</translation>
+        <translation>동기화 폴더 변경</translation>
     </message>
     <message>
         <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
-        <translation type="unfinished">폴더 경로 없이 전체 파일 이름을 입력하십시오.</translation>
+        <translation>폴더 경로 없이 전체 파일 이름을 입력하십시오(예: thumbs.db).</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
-        <translation type="unfinished">[DlgTitleFont]오류로 인해 설치가 중단되었으며 변경 사항은 원래대로 되돌려졌습니다.</translation>
+        <translation>[DlgTitleFont]오류로 인해 설치 프로그램이 중단되었습니다. 설치 프로그램에서 변경한 내용은 원래대로 되돌려졌습니다.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -221,7 +221,7 @@
     </message>
     <message>
         <source>The Setup Wizard will install [ProductName] on your computer. Click Next to continue, or click Cancel to exit the Setup Wizard.</source>
-        <translation>설치 마법사가 컴퓨터에 [ProductName] 프로그램을 설치합니다. 계속하려면 ‘다음’을 클릭하고, 설치 마법사를 종료하려면 ‘취소’를 클릭하십시오.</translation>
+        <translation>설치 마법사가 컴퓨터에 [ProductName] 프로그램을 설치합니다. 계속하려면 ‘다음’을 클릭하고, 설치 마법사를 끝내려면 ‘취소’를 클릭하십시오.</translation>
     </message>
     <message>
         <source>Sync problem</source>
@@ -241,7 +241,7 @@
     </message>
     <message>
         <source>Use an encrypted connection (TLS)</source>
-        <translation type="unfinished">SSL로 데이터 전송 암호화</translation>
+        <translation>암호화된 연결(TLS) 사용</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -277,7 +277,7 @@
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished">연동 해제</translation>
+        <translation>연결 끊기</translation>
     </message>
     <message>
         <source>Back</source>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Quillmere is initializing...</source>
-        <translation>Quillmere 초기화 중...</translation>
+        <translation>Quillmere 준비 중...</translation>
     </message>
     <message>
         <source>Start now</source>
@@ -317,7 +317,7 @@
     </message>
     <message>
         <source>Files excluded from syncing</source>
-        <translation type="unfinished">동기화하지 않는 파일</translation>
+        <translation>동기화에서 제외할 파일</translation>
     </message>
     <message>
         <source>Created</source>
@@ -333,7 +333,7 @@
     </message>
     <message>
         <source>Choose shared folders to sync</source>
-        <translation type="unfinished">동기화할 공유 폴더 선택</translation>
+        <translation>동기화할 공유 폴더 선택</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -361,7 +361,7 @@
     </message>
     <message>
         <source>Excluded file extensions</source>
-        <translation type="unfinished">제외된 파일 확장자</translation>
+        <translation>제외할 파일 확장자</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -377,7 +377,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
-        <translation type="unfinished">동기화 폴더가 있는 볼륨이 마운트되지 않았습니다. 볼륨을 마운트한 다음 동기화를 재개하십시오.</translation>
+        <translation>동기화 폴더가 있는 드라이브가 마운트되지 않았습니다. 드라이브를 마운트한 다음 동기화를 재개하십시오. 폴더는 ‘동기화 작업’에서 확인할 수 있습니다.</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is full.</source>
-        <translation type="unfinished">이 컴퓨터에 사용 가능한 디스크 공간이 없습니다.</translation>
+        <translation>동기화 폴더가 있는 드라이브가 가득 찼습니다.</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -401,7 +401,7 @@
     </message>
     <message>
         <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
-        <translation type="unfinished">같은 이름의 폴더가 이미 있습니다. 이 폴더의 파일을 서버의 파일과 병합하시겠습니까?</translation>
+        <translation>같은 이름의 폴더가 이미 이 컴퓨터에 있습니다. 이 폴더의 파일을 서버의 파일과 병합하시겠습니까?</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
@@ -449,11 +449,11 @@
     </message>
     <message>
         <source>Files being synced: %1</source>
-        <translation type="unfinished">파일 %1개 동기화 중...</translation>
+        <translation>동기화 중인 파일: %1개</translation>
     </message>
     <message>
         <source>Reconnect</source>
-        <translation type="unfinished">다시 연동</translation>
+        <translation>다시 연결</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -473,15 +473,15 @@
     </message>
     <message>
         <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
-        <translation type="unfinished">선택을 취소한 폴더와 파일은 이 컴퓨터에서 제거됩니다. 서버에는 그대로 유지됩니다.</translation>
+        <translation>선택을 해제한 폴더와 파일은 이 컴퓨터에서 제거됩니다. 서버에는 그대로 유지됩니다.</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
-        <translation>선택한 모든 변경 작업이 완료되었습니다. 설치 마법사를 종료하려면 ‘마침’을 클릭하십시오.</translation>
+        <translation>선택한 변경 작업을 설치 프로그램에서 모두 완료했습니다. 설치 마법사를 끝내려면 ‘완료’를 클릭하십시오.</translation>
     </message>
     <message>
         <source>Click Remove to remove [ProductName] from your computer. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
-        <translation>컴퓨터에서 [ProductName] 프로그램을 제거하려면 ‘제거’를 클릭하십시오. 선택 사항을 검토하려면 ‘뒤로’를 클릭하고, 설치 마법사를 종료하려면 ‘취소’를 클릭하십시오.</translation>
+        <translation>컴퓨터에서 [ProductName] 프로그램을 제거하려면 ‘제거’를 클릭하십시오. 선택 사항을 검토하려면 ‘뒤로’를 클릭하고, 설치 마법사를 끝내려면 ‘취소’를 클릭하십시오.</translation>
     </message>
     <message>
         <source>No space left</source>
@@ -489,19 +489,19 @@
     </message>
     <message>
         <source>Disconnected</source>
-        <translation type="unfinished">비활성</translation>
+        <translation>연결 끊김</translation>
     </message>
     <message>
         <source>You have used all of your space on the server.</source>
-        <translation type="unfinished">서버의 할당량을 모두 사용했습니다.</translation>
+        <translation>서버에 할당된 공간을 모두 사용했습니다.</translation>
     </message>
     <message>
         <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">이 연결의 연동을 해제하시겠습니까?\n파일은 이 컴퓨터와 서버에 유지되지만 더 이상 동기화되지 않습니다.</translation>
+        <translation>서버 연결을 끊으시겠습니까?\n파일은 이 컴퓨터와 서버에 유지되지만 더 이상 동기화되지 않습니다.</translation>
     </message>
     <message>
         <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
-        <translation type="unfinished">중계 서비스에 문제가 있습니다. 나중에 다시 시도하거나 서버의 IP 주소로 연결하십시오.</translation>
+        <translation>중계 서비스에 문제가 있습니다. 나중에 다시 시도하거나 IP 주소로 서버에 연결하십시오.</translation>
     </message>
     <message>
         <source>Server ID</source>
@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>Excluded file names</source>
-        <translation type="unfinished">제외된 파일 이름</translation>
+        <translation>제외할 파일 이름</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -521,11 +521,11 @@
     </message>
     <message>
         <source>Turned on</source>
-        <translation type="unfinished">사용</translation>
+        <translation>켜짐</translation>
     </message>
     <message>
         <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
-        <translation type="unfinished">이 컴퓨터에 사용 가능한 디스크 공간이 없습니다. 동기화를 계속하려면 공간을 확보하십시오.</translation>
+        <translation>동기화 폴더가 있는 드라이브가 가득 찼습니다. 동기화를 계속하려면 이 드라이브의 공간을 확보하십시오.</translation>
     </message>
     <message>
         <source>Folders to sync</source>
@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>Choose sync folder</source>
-        <translation type="unfinished">동기화 폴더 선택</translation>
+        <translation>동기화 폴더 선택</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -549,7 +549,7 @@
     </message>
     <message>
         <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
-        <translation type="unfinished">서버의 할당량을 모두 사용했습니다. 필요 없는 파일을 삭제하거나 서버 관리자에게 할당량을 늘려 달라고 요청하십시오.</translation>
+        <translation>서버에 할당된 공간을 모두 사용했습니다. 필요 없는 파일을 삭제하거나 서버 관리자에게 공간을 늘려 달라고 요청하십시오.</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
@@ -565,11 +565,11 @@
     </message>
     <message>
         <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
-        <translation type="unfinished">이 파일이 두 곳에서 변경되었습니다. 두 복사본을 비교한 다음 필요한 것을 보관하십시오.</translation>
+        <translation>이 파일이 이 컴퓨터와 서버에서 각각 변경되었습니다. 두 복사본은 같은 폴더에 서로 다른 이름으로 저장되어 있습니다. 두 복사본을 비교한 다음 필요한 것을 보관하십시오.</translation>
     </message>
     <message>
         <source>All your files on every computer, kept on your own server</source>
-        <translation type="unfinished">나만의 서버로 모든 컴퓨터의 파일을 한곳에</translation>
+        <translation>모든 파일을 나만의 서버에 보관하고 모든 컴퓨터에서 사용</translation>
     </message>
     <message>
         <source>OK</source>
@@ -581,7 +581,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
-        <translation type="unfinished">다음 응용 프로그램이 설치 프로그램에서 업데이트해야 하는 파일을 사용하고 있습니다. 응용 프로그램을 닫은 다음 ‘다시 시도’를 클릭하거나, 닫지 않고 계속하려면 ‘무시’를, 설치를 종료하려면 ‘종료’를 클릭하십시오.</translation>
+        <translation>다음 응용 프로그램이 설치 프로그램에서 업데이트해야 하는 파일을 사용하고 있습니다. 응용 프로그램을 닫은 다음 ‘다시 시도’를 클릭하십시오. 닫지 않고 계속하려면 ‘무시’를 클릭하십시오. 설치 프로그램을 끝내려면 ‘끝내기’를 클릭하십시오.</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -597,7 +597,7 @@
     </message>
     <message>
         <source>Edit connection...</source>
-        <translation type="unfinished">연결 편집</translation>
+        <translation>연결 편집...</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
-        <translation>다음 응용 프로그램이 설치 프로그램에서 업데이트해야 하는 파일을 사용하고 있습니다. 설치 프로그램에서 이 응용 프로그램을 닫을지 선택하십시오. 열어 두면 설치를 완료하기 위해 컴퓨터를 다시 시작해야 합니다.</translation>
+        <translation>다음 응용 프로그램이 설치 프로그램에서 업데이트해야 하는 파일을 사용하고 있습니다. 설치 프로그램에서 이 응용 프로그램을 닫을지 선택하십시오. 열어 두면 설치 프로그램 작업을 완료하기 위해 컴퓨터를 다시 시작해야 합니다.</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the repair.</source>
@@ -625,7 +625,7 @@
     </message>
     <message>
         <source>Show icon overlays on excluded files</source>
-        <translation type="unfinished">필터링된 파일에 오버레이 아이콘 표시</translation>
+        <translation>제외된 파일에 오버레이 아이콘 표시</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -633,11 +633,11 @@
     </message>
     <message>
         <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
-        <translation type="unfinished">공유 폴더는 최대 %1개까지 동기화할 수 있습니다. 다른 폴더를 추가하려면 먼저 그중 하나의 동기화를 중지하십시오.</translation>
+        <translation>동기화할 수 있는 공유 폴더 수가 한도(%1개)에 도달했습니다. 다른 공유 폴더를 추가하려면 먼저 공유 폴더 하나의 동기화를 중지하십시오.</translation>
     </message>
     <message>
         <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">이 동기화 작업의 연동을 해제하시겠습니까?\n파일은 이 컴퓨터와 서버에 유지되지만 더 이상 동기화되지 않습니다.</translation>
+        <translation>이 동기화 작업을 제거하시겠습니까?\n이 작업의 파일은 이 컴퓨터와 서버에 유지되지만 더 이상 동기화되지 않습니다.</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
@@ -645,11 +645,11 @@
     </message>
     <message>
         <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Quillmere 프로그램을 업그레이드할 수 없습니다. 컴퓨터를 다시 시작한 다음 다시 시도하십시오.</translation>
+        <translation>Quillmere 프로그램을 업그레이드할 수 없습니다. 이전 버전은 그대로 유지되었습니다. 컴퓨터를 다시 시작한 다음 다시 시도하십시오. 자세한 내용은 ‘~/.Quillmere/log’에 있습니다.</translation>
     </message>
     <message>
         <source>Exclude names that begin with a dot</source>
-        <translation type="unfinished">점으로 시작하는 이름 제외</translation>
+        <translation>점으로 시작하는 이름 제외</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -673,7 +673,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup is complete</source>
-        <translation type="unfinished">{\VerdanaBold13}[ProductName] 설치 마법사 완료</translation>
+        <translation>{\VerdanaBold13}[ProductName] 설치 프로그램 작업이 완료됨</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -709,7 +709,7 @@
     </message>
     <message>
         <source>Quillmere settings</source>
-        <translation type="unfinished">클라이언트 옵션</translation>
+        <translation>Quillmere 설정</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
@@ -717,11 +717,11 @@
     </message>
     <message>
         <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
-        <translation type="unfinished">서버의 SSL 인증서를 검증할 수 없습니다. 서버 관리자에게 인증서 확인을 요청하십시오.</translation>
+        <translation>서버의 인증서를 검증할 수 없습니다. 인증서가 만료되었거나, 다른 서버의 인증서이거나, 발급자를 알 수 없는 인증서일 수 있습니다. 서버 관리자에게 인증서 확인을 요청하십시오.</translation>
     </message>
     <message>
         <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
-        <translation type="unfinished">이 서버는 원래 연동했던 서버가 아닙니다. 서버 주소를 확인하거나 다시 연동하십시오.</translation>
+        <translation>이 서버는 이 컴퓨터가 연결되어 있던 서버가 아닙니다. 서버 주소를 확인하거나 다시 연결하십시오.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>Connect to another server...</source>
-        <translation type="unfinished">다른 서버와 연동</translation>
+        <translation>다른 서버에 연결...</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]Making changes to [ProductName]</source>
-        <translation type="unfinished">[DlgTitleFont][ProductName] 구성 중</translation>
+        <translation>[DlgTitleFont][ProductName] 변경 사항 적용 중</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -789,7 +789,7 @@
     </message>
     <message>
         <source>Files to exclude</source>
-        <translation type="unfinished">파일 필터</translation>
+        <translation>제외할 파일</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -801,7 +801,7 @@
     </message>
     <message>
         <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">문제가 발생했습니다. 다시 시도하고, 문제가 계속되면 서버 관리자에게 문의하십시오.</translation>
+        <translation>문제가 발생했습니다. 다시 시도하고, 문제가 계속되면 서버 관리자에게 문의하십시오. 자세한 내용은 ‘~/.Quillmere/log’에 있습니다.</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -809,7 +809,7 @@
     </message>
     <message>
         <source>The folder is read-only. Choose a folder you can write to.</source>
-        <translation>이 폴더는 읽기 전용입니다. 쓰기가 가능한 폴더를 선택하십시오.</translation>
+        <translation>이 폴더는 읽기 전용입니다. 쓸 수 있는 폴더를 선택하십시오.</translation>
     </message>
     <message>
         <source>Next</source>
@@ -825,7 +825,7 @@
     </message>
     <message>
         <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
-        <translation type="unfinished">관리자로 로그인하지 않았으므로 Quillmere 설치가 완전하지 않을 수 있습니다. 계속하시겠습니까?</translation>
+        <translation>관리자로 로그인하지 않았으므로 Quillmere 설치가 완전하지 않을 수 있습니다. 계속하시겠습니까?</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
@@ -873,7 +873,7 @@
     </message>
     <message>
         <source>Choose another folder...</source>
-        <translation type="unfinished">다른 폴더 선택</translation>
+        <translation>다른 폴더 선택...</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -897,22 +897,22 @@
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">연동 해제</translation>
+        <translation>제거</translation>
     </message>
     <message>
         <source>Another server was found at the server address.</source>
-        <translation type="unfinished">서버 주소에서 다른 서버가 발견되었습니다.</translation>
+        <translation>이 서버 주소에 다른 서버가 있습니다.</translation>
     </message>
     <message>
         <source>Connecting to the server...</source>
-        <translation type="unfinished">서버와 연동하는 중...</translation>
+        <translation>서버에 연결하는 중...</translation>
     </message>
     <message>
         <source>Port</source>
         <translation>포트</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Create share link</source>
         <translation>공유 링크 만들기</translation>
     </message>
     <message>
@@ -929,11 +929,11 @@
     </message>
     <message>
         <source>Change folder...</source>
-        <translation type="unfinished">폴더 변경</translation>
+        <translation>폴더 변경...</translation>
     </message>
     <message>
         <source>Finish</source>
-        <translation>마침</translation>
+        <translation>완료</translation>
     </message>
     <message>
         <source>Folder path</source>
@@ -945,7 +945,7 @@
     </message>
     <message>
         <source>File locked</source>
-        <translation type="unfinished">파일이 잠겨 있음</translation>
+        <translation>파일 잠김</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -957,7 +957,7 @@
     </message>
     <message>
         <source>Syncing files...</source>
-        <translation type="unfinished">파일을 업데이트하는 중...</translation>
+        <translation>파일을 동기화하는 중...</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -969,7 +969,7 @@
     </message>
     <message>
         <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
-        <translation type="unfinished">설치 마법사가 [ProductName] 프로그램을 구성하는 동안 기다려 주십시오. 몇 분 정도 걸릴 수 있습니다.</translation>
+        <translation>설치 마법사가 [ProductName] 변경 사항을 적용하는 동안 기다려 주십시오. 몇 분 정도 걸릴 수 있습니다.</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1013,7 +1013,7 @@
     </message>
     <message>
         <source>E&amp;xit</source>
-        <translation>종료(&amp;X)</translation>
+        <translation>끝내기(&amp;X)</translation>
     </message>
     <message>
         <source>The share link was copied to the clipboard.</source>
@@ -1021,7 +1021,7 @@
     </message>
     <message>
         <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
-        <translation type="unfinished">로컬 동기화 폴더를 찾을 수 없습니다. 폴더를 복원하거나 다른 폴더를 선택하십시오.</translation>
+        <translation>로컬 동기화 폴더를 찾을 수 없습니다. 폴더를 복원하거나 다른 폴더를 선택하십시오. 경로는 ‘동기화 작업’에서 확인할 수 있습니다.</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
@@ -1029,15 +1029,15 @@
     </message>
     <message>
         <source>Add sync task...</source>
-        <translation type="unfinished">동기화 작업 추가</translation>
+        <translation>동기화 작업 추가...</translation>
     </message>
     <message>
         <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
-        <translation type="unfinished">공유 폴더가 서버에 마운트되지 않았습니다. 서버 관리자에게 마운트를 요청하십시오.</translation>
+        <translation>공유 폴더가 서버에 마운트되지 않았습니다. 서버 관리자에게 마운트를 요청하십시오. 이름은 ‘공유 폴더’에서 확인할 수 있습니다.</translation>
     </message>
     <message>
         <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">서버에서 예기치 않은 응답을 보냈습니다. 클라이언트와 서버를 업그레이드한 다음 다시 시도하십시오.</translation>
+        <translation>서버에서 예기치 않은 응답을 보냈습니다. 이 컴퓨터의 Quillmere 프로그램을 업그레이드하고, 서버 관리자에게 서버의 Quillmere 업그레이드를 요청하십시오. 자세한 내용은 ‘~/.Quillmere/log’에 있습니다.</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1053,7 +1053,7 @@
     </message>
     <message>
         <source>Checking files...</source>
-        <translation type="unfinished">데이터를 확인하는 중...</translation>
+        <translation>파일을 확인하는 중...</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
@@ -1061,11 +1061,11 @@
     </message>
     <message>
         <source>Click Install to begin the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
-        <translation>[ProductName] 설치를 시작하려면 ‘설치’를 클릭하십시오. 선택 사항을 검토하려면 ‘뒤로’를 클릭하고, 설치 마법사를 종료하려면 ‘취소’를 클릭하십시오.</translation>
+        <translation>[ProductName] 설치를 시작하려면 ‘설치’를 클릭하십시오. 선택 사항을 검토하려면 ‘뒤로’를 클릭하고, 설치 마법사를 끝내려면 ‘취소’를 클릭하십시오.</translation>
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
-        <translation type="unfinished">{\VerdanaBold13}[ProductName] 설치 작업이 중단됨</translation>
+        <translation>{\VerdanaBold13}[ProductName] 설치 프로그램 작업이 취소됨</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1085,7 +1085,7 @@
     </message>
     <message>
         <source>You can open the files in this shared folder, but changes you make are not uploaded.</source>
-        <translation>이 공유 폴더의 파일을 열 수 있지만 변경 내용은 업로드되지 않습니다.</translation>
+        <translation>이 공유 폴더의 파일을 열 수는 있지만 변경 내용은 업로드되지 않습니다.</translation>
     </message>
     <message>
         <source>Network settings</source>
@@ -1093,7 +1093,7 @@
     </message>
     <message>
         <source>This folder is already synced with another shared folder. Choose another folder.</source>
-        <translation type="unfinished">이 폴더는 이미 다른 공유 폴더와 동기화되고 있습니다. 다른 폴더를 선택하십시오.</translation>
+        <translation>이 폴더는 이미 다른 공유 폴더와 동기화되고 있습니다. 다른 폴더를 선택하십시오.</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1117,7 +1117,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup did not finish</source>
-        <translation>{\VerdanaBold13}[ProductName] 설치 작업이 완료되지 않음</translation>
+        <translation>{\VerdanaBold13}[ProductName] 설치 프로그램 작업이 완료되지 않음</translation>
     </message>
     <message>
         <source>Quillmere is already running.</source>
@@ -1133,7 +1133,7 @@
     </message>
     <message>
         <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
-        <translation type="unfinished">두 폴더의 모든 파일이 유지됩니다. 파일의 두 버전이 서로 다르면 두 버전이 모두 유지됩니다.</translation>
+        <translation>두 폴더의 모든 파일이 유지됩니다. 파일의 두 버전이 서로 다르면 두 버전이 모두 서로 다른 이름으로 유지됩니다.</translation>
     </message>
     <message>
         <source>Repair the installation</source>
@@ -1141,15 +1141,15 @@
     </message>
     <message>
         <source>Syncing turned on</source>
-        <translation type="unfinished">동기화 사용 중</translation>
+        <translation>동기화 켜짐</translation>
     </message>
     <message>
         <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Quillmere 프로그램을 시작할 수 없습니다. 컴퓨터를 다시 시작한 다음 Quillmere 프로그램을 다시 시작하십시오.</translation>
+        <translation>Quillmere 프로그램을 시작할 수 없습니다. 컴퓨터를 다시 시작한 다음 Quillmere 프로그램을 다시 시작하십시오. 자세한 내용은 ‘~/.Quillmere/log’에 있습니다.</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
-        <translation type="unfinished">[ProductName] 설치 작업을 취소하시겠습니까?</translation>
+        <source>Cancel [ProductName] setup?</source>
+        <translation>[ProductName] 설치 프로그램의 작업을 취소하시겠습니까?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1173,7 +1173,7 @@
     </message>
     <message>
         <source>Browse versions...</source>
-        <translation type="unfinished">이전 버전 찾아보기</translation>
+        <translation>이전 버전 찾아보기...</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
@@ -1181,7 +1181,7 @@
     </message>
     <message>
         <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
-        <translation type="unfinished">이 연결은 비활성 상태입니다. 동기화를 계속하려면 다시 연동하십시오.</translation>
+        <translation>이 컴퓨터와 서버의 연결이 끊겨 있습니다. 동기화를 계속하려면 다시 연결하십시오.</translation>
     </message>
     <message>
         <source>Detecting...</source>
@@ -1189,11 +1189,11 @@
     </message>
     <message>
         <source>Certificate warning</source>
-        <translation type="unfinished">SSL 경고</translation>
+        <translation>인증서 경고</translation>
     </message>
     <message>
         <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
-        <translation type="unfinished">중계 서비스에 연결할 수 없습니다. 인터넷 연결을 확인한 다음 다시 시도하십시오.</translation>
+        <translation>중계 서비스에 연결할 수 없습니다. 인터넷 연결을 확인한 다음 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
@@ -1205,7 +1205,7 @@
     </message>
     <message>
         <source>&amp;Finish</source>
-        <translation>마침(&amp;F)</translation>
+        <translation>완료(&amp;F)</translation>
     </message>
     <message>
         <source>Read-only folder</source>
@@ -1213,7 +1213,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]You canceled setup, and your computer was not changed.</source>
-        <translation>[DlgTitleFont]설치 작업이 취소되었으며 컴퓨터는 변경되지 않았습니다.</translation>
+        <translation>[DlgTitleFont]설치 프로그램 작업이 취소되었으며 컴퓨터는 변경되지 않았습니다.</translation>
     </message>
     <message>
         <source>The port number is not valid. Enter a number from 1 to 65535.</source>
@@ -1225,7 +1225,7 @@
     </message>
     <message>
         <source>Remove the installation</source>
-        <translation>설치 제거</translation>
+        <translation>프로그램 제거</translation>
     </message>
     <message>
         <source>Direct connection</source>
@@ -1233,23 +1233,23 @@
     </message>
     <message>
         <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
-        <translation type="unfinished">이 폴더가 있는 서버 볼륨이 마운트되지 않았습니다. 서버 관리자에게 마운트를 요청하십시오.</translation>
+        <translation>서버에서 이 폴더가 있는 드라이브가 마운트되지 않았습니다. 서버 관리자에게 마운트를 요청하십시오. 폴더는 ‘동기화 작업’에서 확인할 수 있습니다.</translation>
     </message>
     <message>
         <source>This version of Quillmere is already installed. Install it again?</source>
-        <translation type="unfinished">이 버전의 Quillmere 프로그램이 이미 설치되어 있습니다. 다시 설치하시겠습니까?</translation>
+        <translation>이 버전의 Quillmere 프로그램이 이미 설치되어 있습니다. 다시 설치하시겠습니까?</translation>
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
-        <translation type="unfinished">이 클라이언트의 버전이 낮아 서버와 호환되지 않습니다. 클라이언트를 업그레이드한 다음 다시 시도하십시오.</translation>
+        <translation>이 컴퓨터에 설치된 Quillmere 버전이 오래되어 서버와 함께 사용할 수 없습니다. 업그레이드한 다음 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer.</source>
-        <translation type="unfinished">서버의 버전이 낮아 이 클라이언트와 호환되지 않습니다.</translation>
+        <translation>서버에 설치된 Quillmere 버전이 오래되어 이 컴퓨터와 함께 사용할 수 없습니다.</translation>
     </message>
     <message>
         <source>Turned off</source>
-        <translation type="unfinished">사용 안 함</translation>
+        <translation>꺼짐</translation>
     </message>
 </context>
 </TS>

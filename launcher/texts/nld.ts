@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>Processing...</source>
-        <translation>Bezig met verwerken…</translation>
+        <translation>Bezig met verwerken...</translation>
     </message>
     <message>
         <source>Exit</source>
@@ -41,11 +41,11 @@
     </message>
     <message>
         <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">De lokale database is beschadigd. Ontkoppel de verbinding en koppel deze daarna opnieuw om de database opnieuw op te bouwen.</translation>
+        <translation>De lokale database is beschadigd. Verbreek de verbinding met de server en maak daarna opnieuw verbinding om de database opnieuw op te bouwen. Meer informatie staat in ‘~/.Quillmere/log’.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
-        <translation>De toepassingen &amp;sluiten en na de installatie opnieuw starten</translation>
+        <translation>De toepassingen &amp;sluiten en na afloop opnieuw starten</translation>
     </message>
     <message>
         <source>The folder is a mount point. Choose a folder that is not a mount point.</source>
@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>The server has been replaced. Click here to reconnect.</source>
-        <translation type="unfinished">De server is vervangen. Klik hier om opnieuw te koppelen.</translation>
+        <translation>De server is vervangen. Klik hier om opnieuw verbinding te maken.</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -69,7 +69,7 @@
     </message>
     <message>
         <source>Exclusion list</source>
-        <translation type="unfinished">Uitsluitingslijst</translation>
+        <translation>Uitsluitingslijst</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
@@ -77,11 +77,11 @@
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server.</source>
-        <translation type="unfinished">Deze client is te oud voor de server.</translation>
+        <translation>Quillmere op deze computer is te oud om met de server samen te werken.</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
-        <translation>Installatie van [ProductName]</translation>
+        <translation>Installatieprogramma van [ProductName]</translation>
     </message>
     <message>
         <source>Sign-in failed</source>
@@ -93,11 +93,11 @@
     </message>
     <message>
         <source>Testing the connection...</source>
-        <translation>Verbinding wordt getest…</translation>
+        <translation>Verbinding wordt getest...</translation>
     </message>
     <message>
         <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
-        <translation type="unfinished">Het SSL-certificaat van de server wordt niet vertrouwd, waardoor anderen de gegevens die u verzendt mogelijk kunnen lezen. Wilt u doorgaan?</translation>
+        <translation>Het certificaat van de server wordt niet vertrouwd: het kan zijn verlopen, bij een andere server horen of van een onbekende uitgever afkomstig zijn. Anderen kunnen mogelijk de gegevens lezen die u verzendt. Toch doorgaan?</translation>
     </message>
     <message>
         <source>New shared folder</source>
@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>About Quillmere</source>
-        <translation type="unfinished">Info</translation>
+        <translation>Info over Quillmere</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
-        <translation type="unfinished">Deze computer is al aan deze server gekoppeld. Bewerk de bestaande verbinding of voer een andere server in.</translation>
+        <translation>Deze computer is al met deze server verbonden. Bewerk de bestaande verbinding of voer een andere server in.</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -129,15 +129,15 @@
     </message>
     <message>
         <source>The connection to the server was lost. Check the network connection, then try again.</source>
-        <translation>De verbinding met de server is verbroken. Controleer de netwerkverbinding en probeer het opnieuw.</translation>
+        <translation>De verbinding met de server is weggevallen. Controleer de netwerkverbinding en probeer het opnieuw.</translation>
     </message>
     <message>
         <source>The certificate of the server could not be verified.</source>
-        <translation type="unfinished">Het SSL-certificaat van de server kan niet worden geverifieerd.</translation>
+        <translation>Het certificaat van de server kan niet worden geverifieerd.</translation>
     </message>
     <message>
         <source>Use a black-and-white tray icon</source>
-        <translation type="unfinished">Een zwart-witpictogram in het systeemvak gebruiken</translation>
+        <translation>Een zwart-witpictogram in het systeemvak gebruiken</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -153,7 +153,7 @@
     </message>
     <message>
         <source>Excluded files</source>
-        <translation type="unfinished">Uitgesloten bestanden</translation>
+        <translation>Uitgesloten bestanden</translation>
     </message>
     <message>
         <source>No permission</source>
@@ -161,11 +161,11 @@
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
-        <translation type="unfinished">De server is te oud voor deze client. Vraag de serverbeheerder om de server bij te werken.</translation>
+        <translation>Quillmere op de server is te oud om met deze computer samen te werken. Vraag de serverbeheerder om Quillmere bij te werken.</translation>
     </message>
     <message>
         <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
-        <translation type="unfinished">Voer het installatieprogramma later opnieuw uit om het nogmaals te proberen. Klik op ‘Voltooien’ om de installatiewizard af te sluiten.</translation>
+        <translation>U kunt het installatieprogramma op elk moment opnieuw uitvoeren. Klik op ‘Voltooien’ om de installatiewizard af te sluiten.</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -177,11 +177,11 @@
     </message>
     <message>
         <source>Click Repair to repair the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
-        <translation>Klik op ‘Herstellen’ om de installatie van [ProductName] te herstellen. Klik op ‘Vorige’ om uw keuzes te controleren of op ‘Annuleren’ om de installatiewizard af te sluiten.</translation>
+        <translation>Klik op ‘Herstellen’ om de installatie van [ProductName] te herstellen. Klik op ‘Terug’ om uw keuzes te controleren of op ‘Annuleren’ om de installatiewizard af te sluiten.</translation>
     </message>
     <message>
         <source>Some settings have not been saved. Save them?</source>
-        <translation type="unfinished">Sommige instellingen zijn niet opgeslagen. Wilt u ze opslaan?</translation>
+        <translation>Sommige instellingen zijn niet opgeslagen. Instellingen opslaan?</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -193,7 +193,7 @@
     </message>
     <message>
         <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
-        <translation type="unfinished">Deze map wordt al gebruikt door een ander synchronisatieprogramma. Kies een andere map om conflicten te voorkomen.</translation>
+        <translation>Deze map wordt al gebruikt door een ander synchronisatieprogramma. Kies een andere map om conflicten te voorkomen.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -205,15 +205,15 @@
     </message>
     <message>
         <source>Change sync folder</source>
-        <translation type="unfinished">Synchronisatiemap wijzigen</translation>
+        <translation>Synchronisatiemap wijzigen</translation>
     </message>
     <message>
         <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
-        <translation type="unfinished">Voer een volledige bestandsnaam in, zonder mappad.</translation>
+        <translation>Voer een volledige bestandsnaam zonder mappad in, bijvoorbeeld ‘thumbs.db’.</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
-        <translation type="unfinished">[DlgTitleFont]Het installatieprogramma is door een fout gestopt en de wijzigingen zijn ongedaan gemaakt.</translation>
+        <translation>[DlgTitleFont]Het installatieprogramma is door een fout gestopt. De al doorgevoerde wijzigingen zijn ongedaan gemaakt.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -241,7 +241,7 @@
     </message>
     <message>
         <source>Use an encrypted connection (TLS)</source>
-        <translation type="unfinished">Gegevensoverdracht met SSL versleutelen</translation>
+        <translation>Een versleutelde verbinding (TLS) gebruiken</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -277,15 +277,15 @@
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished">Ontkoppelen</translation>
+        <translation>Verbinding verbreken</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation>Vorige</translation>
+        <translation>Terug</translation>
     </message>
     <message>
         <source>Quillmere is initializing...</source>
-        <translation>Quillmere wordt geïnitialiseerd…</translation>
+        <translation>Quillmere wordt geïnitialiseerd...</translation>
     </message>
     <message>
         <source>Start now</source>
@@ -313,11 +313,11 @@
     </message>
     <message>
         <source>Applying the settings...</source>
-        <translation>Instellingen worden toegepast…</translation>
+        <translation>Instellingen worden toegepast...</translation>
     </message>
     <message>
         <source>Files excluded from syncing</source>
-        <translation type="unfinished">Bestanden die niet worden gesynchroniseerd</translation>
+        <translation>Bestanden die van synchronisatie zijn uitgesloten</translation>
     </message>
     <message>
         <source>Created</source>
@@ -333,7 +333,7 @@
     </message>
     <message>
         <source>Choose shared folders to sync</source>
-        <translation type="unfinished">Kies de gedeelde mappen die u wilt synchroniseren</translation>
+        <translation>Te synchroniseren gedeelde mappen kiezen</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -341,7 +341,7 @@
     </message>
     <message>
         <source>Uploading...</source>
-        <translation>Bezig met uploaden…</translation>
+        <translation>Bezig met uploaden...</translation>
     </message>
     <message>
         <source>To use selective sync, ask the server administrator to upgrade Quillmere on the server.</source>
@@ -361,7 +361,7 @@
     </message>
     <message>
         <source>Excluded file extensions</source>
-        <translation type="unfinished">Uitgesloten bestandsextensies</translation>
+        <translation>Uitgesloten bestandsextensies</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -377,7 +377,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
-        <translation type="unfinished">Het volume met de synchronisatiemap is niet aangekoppeld. Koppel het volume aan en hervat daarna de synchronisatie.</translation>
+        <translation>De schijf met de synchronisatiemap is niet aangekoppeld. Koppel de schijf aan en hervat daarna de synchronisatie. De map staat onder ‘Synchronisatietaken’.</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is full.</source>
-        <translation type="unfinished">Deze computer heeft geen vrije schijfruimte meer.</translation>
+        <translation>De schijf met de synchronisatiemap is vol.</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -401,7 +401,7 @@
     </message>
     <message>
         <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
-        <translation type="unfinished">Er bestaat al een map met deze naam. Wilt u de bestanden hierin samenvoegen met die op de server?</translation>
+        <translation>Er bestaat op deze computer al een map met deze naam. De bestanden in deze map samenvoegen met die op de server?</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
@@ -421,7 +421,7 @@
     </message>
     <message>
         <source>Upgrading Quillmere...</source>
-        <translation>Quillmere wordt bijgewerkt…</translation>
+        <translation>Quillmere wordt bijgewerkt...</translation>
     </message>
     <message>
         <source>Sync mode</source>
@@ -449,11 +449,11 @@
     </message>
     <message>
         <source>Files being synced: %1</source>
-        <translation type="unfinished">Bestanden worden gesynchroniseerd (%1)…</translation>
+        <translation>Bestanden die worden gesynchroniseerd: %1</translation>
     </message>
     <message>
         <source>Reconnect</source>
-        <translation type="unfinished">Opnieuw koppelen</translation>
+        <translation>Opnieuw verbinden</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -473,7 +473,7 @@
     </message>
     <message>
         <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
-        <translation type="unfinished">De mappen en bestanden die u hebt uitgevinkt, worden van deze computer verwijderd. Op de server blijven ze behouden.</translation>
+        <translation>De mappen en bestanden die u hebt uitgevinkt, worden van deze computer verwijderd. Op de server blijven ze behouden.</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
@@ -481,7 +481,7 @@
     </message>
     <message>
         <source>Click Remove to remove [ProductName] from your computer. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
-        <translation>Klik op ‘Verwijderen’ om [ProductName] van uw computer te verwijderen. Klik op ‘Vorige’ om uw keuzes te controleren of op ‘Annuleren’ om de installatiewizard af te sluiten.</translation>
+        <translation>Klik op ‘Verwijderen’ om [ProductName] van uw computer te verwijderen. Klik op ‘Terug’ om uw keuzes te controleren of op ‘Annuleren’ om de installatiewizard af te sluiten.</translation>
     </message>
     <message>
         <source>No space left</source>
@@ -489,19 +489,19 @@
     </message>
     <message>
         <source>Disconnected</source>
-        <translation type="unfinished">Inactief</translation>
+        <translation>Verbinding verbroken</translation>
     </message>
     <message>
         <source>You have used all of your space on the server.</source>
-        <translation type="unfinished">Uw opslagquotum op de server is volledig gebruikt.</translation>
+        <translation>U hebt al uw ruimte op de server gebruikt.</translation>
     </message>
     <message>
         <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">Deze verbinding ontkoppelen?\nUw bestanden blijven op deze computer en op de server behouden, maar worden niet meer gesynchroniseerd.</translation>
+        <translation>De verbinding met de server verbreken?\nUw bestanden blijven op deze computer en op de server behouden, maar worden niet meer gesynchroniseerd.</translation>
     </message>
     <message>
         <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
-        <translation type="unfinished">Er is een probleem met de relayservice. Probeer het later opnieuw of maak verbinding via het IP-adres van de server.</translation>
+        <translation>Er is een probleem met de relayservice. Probeer het later opnieuw of maak via het IP-adres verbinding met de server.</translation>
     </message>
     <message>
         <source>Server ID</source>
@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>Excluded file names</source>
-        <translation type="unfinished">Uitgesloten bestandsnamen</translation>
+        <translation>Uitgesloten bestandsnamen</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -521,11 +521,11 @@
     </message>
     <message>
         <source>Turned on</source>
-        <translation type="unfinished">Ingeschakeld</translation>
+        <translation>Ingeschakeld</translation>
     </message>
     <message>
         <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
-        <translation type="unfinished">Deze computer heeft geen vrije schijfruimte meer. Maak ruimte vrij om door te gaan met synchroniseren.</translation>
+        <translation>De schijf met de synchronisatiemap is vol. Maak er ruimte op vrij om door te gaan met synchroniseren.</translation>
     </message>
     <message>
         <source>Folders to sync</source>
@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>Choose sync folder</source>
-        <translation type="unfinished">Kies een synchronisatiemap</translation>
+        <translation>Synchronisatiemap kiezen</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -549,7 +549,7 @@
     </message>
     <message>
         <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
-        <translation type="unfinished">Uw opslagquotum op de server is volledig gebruikt. Verwijder bestanden die u niet nodig hebt of vraag de serverbeheerder om een groter quotum.</translation>
+        <translation>U hebt al uw ruimte op de server gebruikt. Verwijder bestanden die u niet nodig hebt of vraag de serverbeheerder om meer ruimte.</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
@@ -565,11 +565,11 @@
     </message>
     <message>
         <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
-        <translation type="unfinished">Dit bestand is op twee plaatsen gewijzigd. Vergelijk beide kopieën en behoud de kopie die u nodig hebt.</translation>
+        <translation>Dit bestand is zowel op deze computer als op de server gewijzigd. Beide kopieën staan onder verschillende namen in dezelfde map. Vergelijk ze en behoud de kopie die u nodig hebt.</translation>
     </message>
     <message>
         <source>All your files on every computer, kept on your own server</source>
-        <translation type="unfinished">Eén plek voor uw bestanden op elke computer, via een eigen server</translation>
+        <translation>Al uw bestanden op elke computer, bewaard op uw eigen server</translation>
     </message>
     <message>
         <source>OK</source>
@@ -581,7 +581,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
-        <translation type="unfinished">De volgende toepassingen gebruiken bestanden die door het installatieprogramma moeten worden bijgewerkt. Sluit deze toepassingen en klik op ‘Opnieuw proberen’. Klik op ‘Negeren’ om door te gaan zonder ze te sluiten of op ‘Afsluiten’ om het installatieprogramma te verlaten.</translation>
+        <translation>De volgende toepassingen gebruiken bestanden die door het installatieprogramma moeten worden bijgewerkt. Sluit deze toepassingen en klik daarna op ‘Opnieuw proberen’. Klik op ‘Negeren’ om door te gaan zonder ze te sluiten. Klik op ‘Afsluiten’ om het installatieprogramma af te sluiten.</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -597,7 +597,7 @@
     </message>
     <message>
         <source>Edit connection...</source>
-        <translation type="unfinished">Verbinding bewerken</translation>
+        <translation>Verbinding bewerken...</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
-        <translation>De volgende toepassingen gebruiken bestanden die door het installatieprogramma moeten worden bijgewerkt. Kies of het installatieprogramma deze toepassingen moet sluiten. Als ze geopend blijven, moet u de computer opnieuw opstarten om de installatie te voltooien.</translation>
+        <translation>De volgende toepassingen gebruiken bestanden die door het installatieprogramma moeten worden bijgewerkt. Kies of het installatieprogramma deze toepassingen moet sluiten. Als ze geopend blijven, moet u de computer opnieuw opstarten om de wijzigingen te voltooien.</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the repair.</source>
@@ -625,31 +625,31 @@
     </message>
     <message>
         <source>Show icon overlays on excluded files</source>
-        <translation type="unfinished">Pictogramoverlays tonen op gefilterde bestanden</translation>
+        <translation>Pictogramoverlays tonen op uitgesloten bestanden</translation>
     </message>
     <message>
         <source>Loading...</source>
-        <translation>Bezig met laden…</translation>
+        <translation>Bezig met laden...</translation>
     </message>
     <message>
         <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
-        <translation type="unfinished">Het aantal gedeelde mappen dat u kunt synchroniseren, is beperkt tot %1. Stop de synchronisatie van een van deze mappen voordat u een andere toevoegt.</translation>
+        <translation>Het maximale aantal gesynchroniseerde gedeelde mappen is bereikt: %1. Stop de synchronisatie van een gedeelde map voordat u een andere toevoegt.</translation>
     </message>
     <message>
         <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">Deze synchronisatietaak ontkoppelen?\nDe bijbehorende bestanden blijven op deze computer en op de server behouden, maar worden niet meer gesynchroniseerd.</translation>
+        <translation>Deze synchronisatietaak verwijderen?\nDe bijbehorende bestanden blijven op deze computer en op de server behouden, maar worden niet meer gesynchroniseerd.</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
-        <translation>Quillmere wordt gestart…</translation>
+        <translation>Quillmere wordt gestart...</translation>
     </message>
     <message>
         <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Quillmere kan niet worden bijgewerkt. Start de computer opnieuw op en probeer het opnieuw.</translation>
+        <translation>Quillmere kan niet worden bijgewerkt. Uw eerdere versie is behouden. Start de computer opnieuw op en probeer het opnieuw. Meer informatie staat in ‘~/.Quillmere/log’.</translation>
     </message>
     <message>
         <source>Exclude names that begin with a dot</source>
-        <translation type="unfinished">Namen uitsluiten die met een punt beginnen</translation>
+        <translation>Namen uitsluiten die met een punt beginnen</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -673,7 +673,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup is complete</source>
-        <translation type="unfinished">{\VerdanaBold13}De installatiewizard van [ProductName] is voltooid</translation>
+        <translation>{\VerdanaBold13}Het installatieprogramma van [ProductName] is klaar</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -701,7 +701,7 @@
     </message>
     <message>
         <source>Watching for file changes...</source>
-        <translation>Bestandswijzigingen worden gevolgd…</translation>
+        <translation>Bestandswijzigingen worden gevolgd...</translation>
     </message>
     <message>
         <source>Shared folder</source>
@@ -709,7 +709,7 @@
     </message>
     <message>
         <source>Quillmere settings</source>
-        <translation type="unfinished">Clientopties</translation>
+        <translation>Quillmere-instellingen</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
@@ -717,11 +717,11 @@
     </message>
     <message>
         <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
-        <translation type="unfinished">Het SSL-certificaat van de server kan niet worden geverifieerd. Vraag de serverbeheerder om het certificaat te controleren.</translation>
+        <translation>Het certificaat van de server kan niet worden geverifieerd: het kan zijn verlopen, bij een andere server horen of van een onbekende uitgever afkomstig zijn. Vraag de serverbeheerder om het certificaat te controleren.</translation>
     </message>
     <message>
         <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
-        <translation type="unfinished">Dit is niet de server waaraan de verbinding is gekoppeld. Controleer het serveradres of koppel opnieuw.</translation>
+        <translation>Dit is niet de server waarmee deze computer was verbonden. Controleer het serveradres of maak opnieuw verbinding.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>Connect to another server...</source>
-        <translation type="unfinished">Aan een andere server koppelen</translation>
+        <translation>Met een andere server verbinden...</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]Making changes to [ProductName]</source>
-        <translation type="unfinished">[DlgTitleFont]Het installatieprogramma van [ProductName] is bezig</translation>
+        <translation>[DlgTitleFont]Wijzigingen in [ProductName] worden doorgevoerd</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -789,7 +789,7 @@
     </message>
     <message>
         <source>Files to exclude</source>
-        <translation type="unfinished">Bestandsfilter</translation>
+        <translation>Uit te sluiten bestanden</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -801,7 +801,7 @@
     </message>
     <message>
         <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Er is iets misgegaan. Probeer het opnieuw en neem contact op met de serverbeheerder als het probleem zich blijft voordoen.</translation>
+        <translation>Er is iets misgegaan. Probeer het opnieuw en neem contact op met de serverbeheerder als het probleem zich blijft voordoen. Meer informatie staat in ‘~/.Quillmere/log’.</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -817,7 +817,7 @@
     </message>
     <message>
         <source>&amp;Back</source>
-        <translation>V&amp;orige</translation>
+        <translation>&amp;Terug</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -825,7 +825,7 @@
     </message>
     <message>
         <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
-        <translation type="unfinished">U bent niet als beheerder aangemeld, waardoor Quillmere mogelijk niet volledig wordt geïnstalleerd. Wilt u doorgaan?</translation>
+        <translation>U bent niet als beheerder aangemeld, waardoor Quillmere mogelijk niet volledig wordt geïnstalleerd. Doorgaan?</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
@@ -873,7 +873,7 @@
     </message>
     <message>
         <source>Choose another folder...</source>
-        <translation type="unfinished">Andere map kiezen</translation>
+        <translation>Andere map kiezen...</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -897,22 +897,22 @@
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">Ontkoppelen</translation>
+        <translation>Verwijderen</translation>
     </message>
     <message>
         <source>Another server was found at the server address.</source>
-        <translation type="unfinished">Op het serveradres is een andere server gevonden.</translation>
+        <translation>Op het serveradres is een andere server gevonden.</translation>
     </message>
     <message>
         <source>Connecting to the server...</source>
-        <translation type="unfinished">Koppeling met de server wordt gemaakt…</translation>
+        <translation>Verbinding met de server wordt gemaakt...</translation>
     </message>
     <message>
         <source>Port</source>
         <translation>Poort</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Create share link</source>
         <translation>Deellink maken</translation>
     </message>
     <message>
@@ -929,7 +929,7 @@
     </message>
     <message>
         <source>Change folder...</source>
-        <translation type="unfinished">Map wijzigen</translation>
+        <translation>Map wijzigen...</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -941,11 +941,11 @@
     </message>
     <message>
         <source>Downloading...</source>
-        <translation>Bezig met downloaden…</translation>
+        <translation>Bezig met downloaden...</translation>
     </message>
     <message>
         <source>File locked</source>
-        <translation type="unfinished">Het bestand is vergrendeld</translation>
+        <translation>Bestand vergrendeld</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -953,11 +953,11 @@
     </message>
     <message>
         <source>Preparing...</source>
-        <translation>Bezig met voorbereiden…</translation>
+        <translation>Bezig met voorbereiden...</translation>
     </message>
     <message>
         <source>Syncing files...</source>
-        <translation type="unfinished">Bestanden worden bijgewerkt…</translation>
+        <translation>Bestanden worden gesynchroniseerd...</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -965,11 +965,11 @@
     </message>
     <message>
         <source>Checking the user name and password...</source>
-        <translation>Gebruikersnaam en wachtwoord worden gecontroleerd…</translation>
+        <translation>Gebruikersnaam en wachtwoord worden gecontroleerd...</translation>
     </message>
     <message>
         <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
-        <translation type="unfinished">Wacht tot de installatiewizard van [ProductName] klaar is. Dit kan enkele minuten duren.</translation>
+        <translation>Wacht terwijl de installatiewizard de wijzigingen in [ProductName] doorvoert. Dit kan enkele minuten duren.</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1021,7 +1021,7 @@
     </message>
     <message>
         <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
-        <translation type="unfinished">De lokale synchronisatiemap is niet gevonden. Zet de map terug of kies een andere map.</translation>
+        <translation>De lokale synchronisatiemap is niet gevonden. Zet de map terug of kies een andere map. Het pad staat onder ‘Synchronisatietaken’.</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
@@ -1029,15 +1029,15 @@
     </message>
     <message>
         <source>Add sync task...</source>
-        <translation type="unfinished">Synchronisatietaak toevoegen</translation>
+        <translation>Taak toevoegen...</translation>
     </message>
     <message>
         <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
-        <translation type="unfinished">De gedeelde map is niet aangekoppeld op de server. Vraag de serverbeheerder om de map aan te koppelen.</translation>
+        <translation>De gedeelde map is niet aangekoppeld op de server. Vraag de serverbeheerder om de map aan te koppelen. De naam staat onder ‘Gedeelde mappen’.</translation>
     </message>
     <message>
         <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">De server heeft een onverwacht antwoord verzonden. Werk de client en de server bij en probeer het opnieuw.</translation>
+        <translation>De server heeft een onverwacht antwoord verzonden. Werk Quillmere op deze computer bij en vraag de serverbeheerder om Quillmere op de server bij te werken. Meer informatie staat in ‘~/.Quillmere/log’.</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1053,23 +1053,23 @@
     </message>
     <message>
         <source>Checking files...</source>
-        <translation type="unfinished">Gegevens worden gecontroleerd…</translation>
+        <translation>Bestanden worden gecontroleerd...</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
-        <translation>Er wordt geprobeerd te synchroniseren…</translation>
+        <translation>Er wordt geprobeerd te synchroniseren...</translation>
     </message>
     <message>
         <source>Click Install to begin the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
-        <translation>Klik op ‘Installeren’ om met de installatie van [ProductName] te beginnen. Klik op ‘Vorige’ om uw keuzes te controleren of op ‘Annuleren’ om de installatiewizard af te sluiten.</translation>
+        <translation>Klik op ‘Installeren’ om met de installatie van [ProductName] te beginnen. Klik op ‘Terug’ om uw keuzes te controleren of op ‘Annuleren’ om de installatiewizard af te sluiten.</translation>
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
-        <translation type="unfinished">{\VerdanaBold13}Het installatieprogramma van [ProductName] is onderbroken</translation>
+        <translation>{\VerdanaBold13}Het installatieprogramma van [ProductName] is afgebroken</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
-        <translation>De map is niet leeg. Voeg de bestanden hierin samen met die op de server of kies een andere map.</translation>
+        <translation>De map is niet leeg. Voeg de bestanden in deze map samen met die op de server of kies een andere map.</translation>
     </message>
     <message>
         <source>This folder is being indexed. Its files will appear when indexing is complete.</source>
@@ -1093,7 +1093,7 @@
     </message>
     <message>
         <source>This folder is already synced with another shared folder. Choose another folder.</source>
-        <translation type="unfinished">Deze map wordt al met een andere gedeelde map gesynchroniseerd. Kies een andere map.</translation>
+        <translation>Deze map wordt al met een andere gedeelde map gesynchroniseerd. Kies een andere map.</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1133,7 +1133,7 @@
     </message>
     <message>
         <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
-        <translation type="unfinished">Alle bestanden uit beide mappen blijven behouden. Als twee versies van een bestand verschillen, krijgt u ze allebei.</translation>
+        <translation>Alle bestanden uit beide mappen blijven behouden. Als twee versies van een bestand verschillen, blijven beide onder verschillende namen behouden.</translation>
     </message>
     <message>
         <source>Repair the installation</source>
@@ -1141,15 +1141,15 @@
     </message>
     <message>
         <source>Syncing turned on</source>
-        <translation type="unfinished">Synchronisatie ingeschakeld</translation>
+        <translation>Synchronisatie ingeschakeld</translation>
     </message>
     <message>
         <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Quillmere kan niet worden gestart. Start de computer opnieuw op en start daarna Quillmere opnieuw.</translation>
+        <translation>Quillmere kan niet worden gestart. Start de computer opnieuw op en start daarna Quillmere opnieuw. Meer informatie staat in ‘~/.Quillmere/log’.</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
-        <translation type="unfinished">Wilt u het installatieprogramma van [ProductName] afbreken?</translation>
+        <source>Cancel [ProductName] setup?</source>
+        <translation>Het installatieprogramma van [ProductName] afbreken?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1173,7 +1173,7 @@
     </message>
     <message>
         <source>Browse versions...</source>
-        <translation type="unfinished">Versies bekijken</translation>
+        <translation>Versies bekijken...</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
@@ -1181,19 +1181,19 @@
     </message>
     <message>
         <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
-        <translation type="unfinished">Deze verbinding is inactief. Koppel de verbinding opnieuw om door te gaan met synchroniseren.</translation>
+        <translation>De verbinding van deze computer met de server is verbroken. Maak opnieuw verbinding om door te gaan met synchroniseren.</translation>
     </message>
     <message>
         <source>Detecting...</source>
-        <translation>Bezig met detecteren…</translation>
+        <translation>Bezig met detecteren...</translation>
     </message>
     <message>
         <source>Certificate warning</source>
-        <translation type="unfinished">SSL-waarschuwing</translation>
+        <translation>Certificaatwaarschuwing</translation>
     </message>
     <message>
         <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
-        <translation type="unfinished">De relayservice is niet bereikbaar. Controleer uw internetverbinding en probeer het opnieuw.</translation>
+        <translation>De relayservice is niet bereikbaar. Controleer de internetverbinding en probeer het opnieuw.</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
@@ -1201,11 +1201,11 @@
     </message>
     <message>
         <source>Downloading %1...</source>
-        <translation>‘%1’ wordt gedownload…</translation>
+        <translation>‘%1’ wordt gedownload...</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
-        <translation>Vol&amp;tooien</translation>
+        <translation>V&amp;oltooien</translation>
     </message>
     <message>
         <source>Read-only folder</source>
@@ -1233,23 +1233,23 @@
     </message>
     <message>
         <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
-        <translation type="unfinished">Het servervolume waarop deze map staat, is niet aangekoppeld. Vraag de serverbeheerder om het volume aan te koppelen.</translation>
+        <translation>De schijf op de server waarop deze map staat, is niet aangekoppeld. Vraag de serverbeheerder om de schijf aan te koppelen. De map staat onder ‘Synchronisatietaken’.</translation>
     </message>
     <message>
         <source>This version of Quillmere is already installed. Install it again?</source>
-        <translation type="unfinished">Deze versie van Quillmere is al geïnstalleerd. Wilt u deze opnieuw installeren?</translation>
+        <translation>Deze versie van Quillmere is al geïnstalleerd. Opnieuw installeren?</translation>
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
-        <translation type="unfinished">Deze client is te oud voor de server. Werk de client bij en probeer het opnieuw.</translation>
+        <translation>Quillmere op deze computer is te oud om met de server samen te werken. Werk Quillmere bij en probeer het opnieuw.</translation>
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer.</source>
-        <translation type="unfinished">De server is te oud voor deze client.</translation>
+        <translation>Quillmere op de server is te oud om met deze computer samen te werken.</translation>
     </message>
     <message>
         <source>Turned off</source>
-        <translation type="unfinished">Uitgeschakeld</translation>
+        <translation>Uitgeschakeld</translation>
     </message>
 </context>
 </TS>

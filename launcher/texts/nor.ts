@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>Processing...</source>
-        <translation>Behandler…</translation>
+        <translation>Behandler&#xa0;…</translation>
     </message>
     <message>
         <source>Exit</source>
@@ -41,11 +41,11 @@
     </message>
     <message>
         <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Den lokale databasen er skadet. Fjern tilknytningen til serveren, og opprett den på nytt for å bygge opp databasen igjen.</translation>
+        <translation>Den lokale databasen er skadet. Koble fra serveren, og koble deretter til igjen for å bygge opp databasen på nytt. Du finner detaljer i «~/.Quillmere/log».</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
-        <translation>&amp;Lukk programmene, og start dem på nytt etter installasjonen</translation>
+        <translation>&amp;Lukk programmene, og start dem på nytt etterpå</translation>
     </message>
     <message>
         <source>The folder is a mount point. Choose a folder that is not a mount point.</source>
@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>The server has been replaced. Click here to reconnect.</source>
-        <translation type="unfinished">Serveren er byttet ut. Klikk her for å opprette tilknytningen på nytt.</translation>
+        <translation>Serveren er byttet ut. Klikk her for å koble til igjen.</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -69,7 +69,7 @@
     </message>
     <message>
         <source>Exclusion list</source>
-        <translation type="unfinished">Unntaksliste</translation>
+        <translation>Utelatelsesliste</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
@@ -77,11 +77,11 @@
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server.</source>
-        <translation type="unfinished">Denne klienten er for gammel for serveren.</translation>
+        <translation>Quillmere på denne datamaskinen er for gammel til å fungere sammen med serveren.</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
-        <translation>Installasjon av [ProductName]</translation>
+        <translation>Installasjonsprogram for [ProductName]</translation>
     </message>
     <message>
         <source>Sign-in failed</source>
@@ -93,11 +93,11 @@
     </message>
     <message>
         <source>Testing the connection...</source>
-        <translation>Tester tilkoblingen…</translation>
+        <translation>Tester tilkoblingen&#xa0;…</translation>
     </message>
     <message>
         <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
-        <translation type="unfinished">SSL-sertifikatet til serveren er ikke klarert, så andre kan kanskje lese dataene du sender. Vil du fortsette?</translation>
+        <translation>Sertifikatet til serveren er ikke klarert: Det kan være utløpt, tilhøre en annen server eller komme fra en ukjent utsteder. Andre kan kanskje lese dataene du sender. Vil du fortsette?</translation>
     </message>
     <message>
         <source>New shared folder</source>
@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>About Quillmere</source>
-        <translation type="unfinished">Om</translation>
+        <translation>Om Quillmere</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
-        <translation type="unfinished">Denne datamaskinen er allerede knyttet til denne serveren. Rediger den eksisterende tilkoblingen, eller angi en annen server.</translation>
+        <translation>Denne datamaskinen er allerede koblet til denne serveren. Rediger den eksisterende tilkoblingen, eller angi en annen server.</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -133,11 +133,11 @@
     </message>
     <message>
         <source>The certificate of the server could not be verified.</source>
-        <translation type="unfinished">SSL-sertifikatet til serveren kunne ikke verifiseres.</translation>
+        <translation>Sertifikatet til serveren kunne ikke verifiseres.</translation>
     </message>
     <message>
         <source>Use a black-and-white tray icon</source>
-        <translation type="unfinished">Bruk svart-hvitt ikon i systemstatusfeltet</translation>
+        <translation>Bruk svart-hvitt ikon i systemstatusfeltet</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -153,7 +153,7 @@
     </message>
     <message>
         <source>Excluded files</source>
-        <translation type="unfinished">Unntatte filer</translation>
+        <translation>Utelatte filer</translation>
     </message>
     <message>
         <source>No permission</source>
@@ -161,11 +161,11 @@
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
-        <translation type="unfinished">Serveren er for gammel for denne klienten. Be serveradministratoren om å oppgradere den.</translation>
+        <translation>Quillmere på serveren er for gammel til å fungere sammen med denne datamaskinen. Be serveradministratoren om å oppgradere Quillmere.</translation>
     </message>
     <message>
         <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
-        <translation type="unfinished">Kjør installasjonsprogrammet på nytt senere for å prøve igjen. Klikk på «Fullfør» for å avslutte installasjonsveiviseren.</translation>
+        <translation>Du kan kjøre installasjonsprogrammet på nytt når som helst. Klikk på «Fullfør» for å avslutte installasjonsveiviseren.</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -181,7 +181,7 @@
     </message>
     <message>
         <source>Some settings have not been saved. Save them?</source>
-        <translation type="unfinished">Noen innstillinger er ikke lagret. Vil du lagre dem?</translation>
+        <translation>Noen innstillinger er ikke lagret. Vil du lagre dem?</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -193,7 +193,7 @@
     </message>
     <message>
         <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
-        <translation type="unfinished">Denne mappen brukes allerede av et annet synkroniseringsprogram. Velg en annen mappe for å unngå konflikter.</translation>
+        <translation>Denne mappen brukes allerede av et annet synkroniseringsprogram. Velg en annen mappe for å unngå konflikter.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -205,15 +205,15 @@
     </message>
     <message>
         <source>Change sync folder</source>
-        <translation type="unfinished">Bytt synkroniseringsmappe</translation>
+        <translation>Bytt synkroniseringsmappe</translation>
     </message>
     <message>
         <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
-        <translation type="unfinished">Skriv inn et fullstendig filnavn uten mappebane.</translation>
+        <translation>Skriv inn et fullstendig filnavn uten mappebane, for eksempel «thumbs.db».</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
-        <translation type="unfinished">[DlgTitleFont]En feil stoppet installasjonsprogrammet, og endringene er tilbakeført.</translation>
+        <translation>[DlgTitleFont]Installasjonsprogrammet stoppet på grunn av en feil. Endringene det hadde gjort, er angret.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -241,7 +241,7 @@
     </message>
     <message>
         <source>Use an encrypted connection (TLS)</source>
-        <translation type="unfinished">Krypter dataoverføring med SSL</translation>
+        <translation>Bruk en kryptert tilkobling (TLS)</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -277,7 +277,7 @@
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished">Fjern tilknytning</translation>
+        <translation>Koble fra</translation>
     </message>
     <message>
         <source>Back</source>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Quillmere is initializing...</source>
-        <translation>Initialiserer Quillmere…</translation>
+        <translation>Initialiserer Quillmere&#xa0;…</translation>
     </message>
     <message>
         <source>Start now</source>
@@ -313,11 +313,11 @@
     </message>
     <message>
         <source>Applying the settings...</source>
-        <translation>Tar i bruk innstillingene…</translation>
+        <translation>Tar i bruk innstillingene&#xa0;…</translation>
     </message>
     <message>
         <source>Files excluded from syncing</source>
-        <translation type="unfinished">Filer som ikke synkroniseres</translation>
+        <translation>Filer som er utelatt fra synkronisering</translation>
     </message>
     <message>
         <source>Created</source>
@@ -333,7 +333,7 @@
     </message>
     <message>
         <source>Choose shared folders to sync</source>
-        <translation type="unfinished">Velg de delte mappene som skal synkroniseres</translation>
+        <translation>Velg delte mapper som skal synkroniseres</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -341,7 +341,7 @@
     </message>
     <message>
         <source>Uploading...</source>
-        <translation>Laster opp…</translation>
+        <translation>Laster opp&#xa0;…</translation>
     </message>
     <message>
         <source>To use selective sync, ask the server administrator to upgrade Quillmere on the server.</source>
@@ -361,7 +361,7 @@
     </message>
     <message>
         <source>Excluded file extensions</source>
-        <translation type="unfinished">Unntatte filendelser</translation>
+        <translation>Utelatte filendelser</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -377,7 +377,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
-        <translation type="unfinished">Volumet med synkroniseringsmappen er ikke montert. Monter volumet, og gjenoppta deretter synkroniseringen.</translation>
+        <translation>Stasjonen med synkroniseringsmappen er ikke montert. Monter stasjonen, og gjenoppta deretter synkroniseringen. Mappen vises under «Synkroniseringsoppgaver».</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is full.</source>
-        <translation type="unfinished">Denne datamaskinen har ingen ledig diskplass.</translation>
+        <translation>Stasjonen med synkroniseringsmappen er full.</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -401,11 +401,11 @@
     </message>
     <message>
         <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
-        <translation type="unfinished">Det finnes allerede en mappe med dette navnet. Vil du flette filene i den med filene på serveren?</translation>
+        <translation>Det finnes allerede en mappe med dette navnet på denne datamaskinen. Vil du flette filene i den med filene på serveren?</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
-        <translation>Quillmere holder filene dine synkronisert mellom datamaskinene og serveren din.</translation>
+        <translation>Quillmere holder filene dine synkronisert mellom datamaskinene dine og serveren din.</translation>
     </message>
     <message>
         <source>Change the installed features</source>
@@ -421,7 +421,7 @@
     </message>
     <message>
         <source>Upgrading Quillmere...</source>
-        <translation>Oppgraderer Quillmere…</translation>
+        <translation>Oppgraderer Quillmere&#xa0;…</translation>
     </message>
     <message>
         <source>Sync mode</source>
@@ -449,11 +449,11 @@
     </message>
     <message>
         <source>Files being synced: %1</source>
-        <translation type="unfinished">Synkroniserer filer (%1)…</translation>
+        <translation>Filer som synkroniseres: %1</translation>
     </message>
     <message>
         <source>Reconnect</source>
-        <translation type="unfinished">Opprett tilknytningen på nytt</translation>
+        <translation>Koble til igjen</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -473,7 +473,7 @@
     </message>
     <message>
         <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
-        <translation type="unfinished">Mappene og filene du fjernet avmerkingen for, blir fjernet fra denne datamaskinen. De beholdes på serveren.</translation>
+        <translation>Mappene og filene du valgte bort, blir fjernet fra denne datamaskinen. De beholdes på serveren.</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
@@ -489,19 +489,19 @@
     </message>
     <message>
         <source>Disconnected</source>
-        <translation type="unfinished">Inaktiv</translation>
+        <translation>Frakoblet</translation>
     </message>
     <message>
         <source>You have used all of your space on the server.</source>
-        <translation type="unfinished">Kvoten din på serveren er brukt opp.</translation>
+        <translation>Du har brukt all plassen din på serveren.</translation>
     </message>
     <message>
         <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">Vil du fjerne tilknytningen for denne tilkoblingen?\nFilene dine beholdes på denne datamaskinen og på serveren, men de blir ikke lenger synkronisert.</translation>
+        <translation>Vil du koble fra serveren?\nFilene dine beholdes på denne datamaskinen og på serveren, men de blir ikke lenger synkronisert.</translation>
     </message>
     <message>
         <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
-        <translation type="unfinished">Det er et problem med relétjenesten. Prøv igjen senere, eller koble til med IP-adressen til serveren.</translation>
+        <translation>Det er et problem med relétjenesten. Prøv på nytt senere, eller koble til serveren via IP-adressen.</translation>
     </message>
     <message>
         <source>Server ID</source>
@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>Excluded file names</source>
-        <translation type="unfinished">Unntatte filnavn</translation>
+        <translation>Utelatte filnavn</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -521,11 +521,11 @@
     </message>
     <message>
         <source>Turned on</source>
-        <translation type="unfinished">Aktivert</translation>
+        <translation>Slått på</translation>
     </message>
     <message>
         <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
-        <translation type="unfinished">Denne datamaskinen har ingen ledig diskplass. Frigjør plass for å fortsette synkroniseringen.</translation>
+        <translation>Stasjonen med synkroniseringsmappen er full. Frigjør plass på den for å fortsette synkroniseringen.</translation>
     </message>
     <message>
         <source>Folders to sync</source>
@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>Choose sync folder</source>
-        <translation type="unfinished">Velg en synkroniseringsmappe</translation>
+        <translation>Velg synkroniseringsmappe</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -549,7 +549,7 @@
     </message>
     <message>
         <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
-        <translation type="unfinished">Kvoten din på serveren er brukt opp. Slett filer du ikke trenger, eller be serveradministratoren om en større kvote.</translation>
+        <translation>Du har brukt all plassen din på serveren. Slett filer du ikke trenger, eller be serveradministratoren om mer plass.</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
@@ -565,11 +565,11 @@
     </message>
     <message>
         <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
-        <translation type="unfinished">Denne filen ble endret to steder. Sammenlign de to kopiene, og behold den du trenger.</translation>
+        <translation>Denne filen ble endret både på denne datamaskinen og på serveren. Begge kopiene ligger i samme mappe under forskjellige navn. Sammenlign dem, og behold den du trenger.</translation>
     </message>
     <message>
         <source>All your files on every computer, kept on your own server</source>
-        <translation type="unfinished">Ett sted for filene dine på alle datamaskiner, via din egen server</translation>
+        <translation>Alle filene dine på alle datamaskiner, lagret på din egen server</translation>
     </message>
     <message>
         <source>OK</source>
@@ -581,7 +581,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
-        <translation type="unfinished">Følgende programmer bruker filer som installasjonsprogrammet må oppdatere. Lukk dem, og klikk på «Prøv på nytt». Klikk på «Ignorer» for å fortsette uten å lukke dem, eller klikk på «Avslutt» for å forlate installasjonsprogrammet.</translation>
+        <translation>Følgende programmer bruker filer som installasjonsprogrammet må oppdatere. Lukk dem, og klikk deretter på «Prøv på nytt». Klikk på «Ignorer» for å fortsette uten å lukke dem. Klikk på «Avslutt» for å avslutte installasjonsprogrammet.</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -597,7 +597,7 @@
     </message>
     <message>
         <source>Edit connection...</source>
-        <translation type="unfinished">Rediger tilkobling</translation>
+        <translation>Rediger tilkobling&#xa0;…</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
-        <translation>Følgende programmer bruker filer som installasjonsprogrammet må oppdatere. Velg om installasjonsprogrammet skal lukke dem. Hvis de forblir åpne, må du starte datamaskinen på nytt for å fullføre installasjonen.</translation>
+        <translation>Følgende programmer bruker filer som installasjonsprogrammet må oppdatere. Velg om installasjonsprogrammet skal lukke dem. Hvis de forblir åpne, må du starte datamaskinen på nytt for å fullføre endringene.</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the repair.</source>
@@ -625,31 +625,31 @@
     </message>
     <message>
         <source>Show icon overlays on excluded files</source>
-        <translation type="unfinished">Vis ikonoverlegg på bortfiltrerte filer</translation>
+        <translation>Vis ikonoverlegg på utelatte filer</translation>
     </message>
     <message>
         <source>Loading...</source>
-        <translation>Laster inn…</translation>
+        <translation>Laster inn&#xa0;…</translation>
     </message>
     <message>
         <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
-        <translation type="unfinished">Antallet delte mapper du kan synkronisere, er begrenset til %1. Stopp synkroniseringen av en av dem før du legger til en ny.</translation>
+        <translation>Grensen for synkroniserte delte mapper er nådd: %1. Slutt å synkronisere en delt mappe før du legger til en annen.</translation>
     </message>
     <message>
         <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">Vil du fjerne tilknytningen for denne synkroniseringsoppgaven?\nFilene i den beholdes på denne datamaskinen og på serveren, men de blir ikke lenger synkronisert.</translation>
+        <translation>Vil du fjerne denne synkroniseringsoppgaven?\nFilene i den beholdes på denne datamaskinen og på serveren, men de blir ikke lenger synkronisert.</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
-        <translation>Starter Quillmere…</translation>
+        <translation>Starter Quillmere&#xa0;…</translation>
     </message>
     <message>
         <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Quillmere kunne ikke oppgraderes. Start datamaskinen på nytt, og prøv igjen.</translation>
+        <translation>Quillmere kunne ikke oppgraderes. Den tidligere versjonen er beholdt. Start datamaskinen på nytt, og prøv igjen. Du finner detaljer i «~/.Quillmere/log».</translation>
     </message>
     <message>
         <source>Exclude names that begin with a dot</source>
-        <translation type="unfinished">Unnta navn som begynner med punktum</translation>
+        <translation>Utelat navn som begynner med punktum</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -673,7 +673,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup is complete</source>
-        <translation type="unfinished">{\VerdanaBold13}Installasjonsveiviseren for [ProductName] er ferdig</translation>
+        <translation>{\VerdanaBold13}Installasjonsprogrammet for [ProductName] er ferdig</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -701,7 +701,7 @@
     </message>
     <message>
         <source>Watching for file changes...</source>
-        <translation>Overvåker filendringer…</translation>
+        <translation>Overvåker filendringer&#xa0;…</translation>
     </message>
     <message>
         <source>Shared folder</source>
@@ -709,7 +709,7 @@
     </message>
     <message>
         <source>Quillmere settings</source>
-        <translation type="unfinished">Klientalternativer</translation>
+        <translation>Innstillinger for Quillmere</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
@@ -717,11 +717,11 @@
     </message>
     <message>
         <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
-        <translation type="unfinished">SSL-sertifikatet til serveren kunne ikke verifiseres. Be serveradministratoren om å kontrollere sertifikatet.</translation>
+        <translation>Sertifikatet til serveren kunne ikke verifiseres: Det kan være utløpt, tilhøre en annen server eller komme fra en ukjent utsteder. Be serveradministratoren om å kontrollere sertifikatet.</translation>
     </message>
     <message>
         <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
-        <translation type="unfinished">Dette er ikke serveren som tilkoblingen ble knyttet til. Kontroller serveradressen, eller opprett tilknytningen på nytt.</translation>
+        <translation>Dette er ikke serveren som denne datamaskinen var koblet til. Kontroller serveradressen, eller koble til igjen.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>Connect to another server...</source>
-        <translation type="unfinished">Knytt til en annen server</translation>
+        <translation>Koble til en annen server&#xa0;…</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]Making changes to [ProductName]</source>
-        <translation type="unfinished">[DlgTitleFont]Installasjonsprogrammet for [ProductName] arbeider</translation>
+        <translation>[DlgTitleFont]Gjør endringer i [ProductName]</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -789,7 +789,7 @@
     </message>
     <message>
         <source>Files to exclude</source>
-        <translation type="unfinished">Filfilter</translation>
+        <translation>Filer som skal utelates</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -797,11 +797,11 @@
     </message>
     <message>
         <source>I &amp;do not accept the terms of the license agreement</source>
-        <translation>Jeg godtar &amp;ikke vilkårene i lisensavtalen</translation>
+        <translation>Jeg godtar i&amp;kke vilkårene i lisensavtalen</translation>
     </message>
     <message>
         <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Noe gikk galt. Prøv på nytt, og kontakt serveradministratoren hvis problemet vedvarer.</translation>
+        <translation>Noe gikk galt. Prøv på nytt, og kontakt serveradministratoren hvis problemet vedvarer. Du finner detaljer i «~/.Quillmere/log».</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -825,11 +825,11 @@
     </message>
     <message>
         <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
-        <translation type="unfinished">Du er ikke pålogget som administrator, så Quillmere blir kanskje ikke fullstendig installert. Vil du fortsette?</translation>
+        <translation>Du er ikke pålogget som administrator, så Quillmere blir kanskje ikke fullstendig installert. Vil du fortsette?</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
-        <translation>Bruk ikonet i systemstatusfeltet når som helst for å se synkroniseringsstatusen eller endre innstillingene.</translation>
+        <translation>Du kan når som helst bruke ikonet i systemstatusfeltet til å se synkroniseringsstatusen eller endre innstillingene.</translation>
     </message>
     <message>
         <source>Share link created</source>
@@ -873,7 +873,7 @@
     </message>
     <message>
         <source>Choose another folder...</source>
-        <translation type="unfinished">Velg en annen mappe</translation>
+        <translation>Velg en annen mappe&#xa0;…</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -897,22 +897,22 @@
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">Fjern tilknytning</translation>
+        <translation>Fjern</translation>
     </message>
     <message>
         <source>Another server was found at the server address.</source>
-        <translation type="unfinished">En annen server ble funnet på serveradressen.</translation>
+        <translation>En annen server ble funnet på serveradressen.</translation>
     </message>
     <message>
         <source>Connecting to the server...</source>
-        <translation type="unfinished">Knytter til serveren…</translation>
+        <translation>Kobler til serveren&#xa0;…</translation>
     </message>
     <message>
         <source>Port</source>
         <translation>Port</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Create share link</source>
         <translation>Opprett delingslenke</translation>
     </message>
     <message>
@@ -929,7 +929,7 @@
     </message>
     <message>
         <source>Change folder...</source>
-        <translation type="unfinished">Bytt mappe</translation>
+        <translation>Bytt mappe&#xa0;…</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -941,11 +941,11 @@
     </message>
     <message>
         <source>Downloading...</source>
-        <translation>Laster ned…</translation>
+        <translation>Laster ned&#xa0;…</translation>
     </message>
     <message>
         <source>File locked</source>
-        <translation type="unfinished">Filen er låst</translation>
+        <translation>Filen er låst</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -953,11 +953,11 @@
     </message>
     <message>
         <source>Preparing...</source>
-        <translation>Forbereder…</translation>
+        <translation>Forbereder&#xa0;…</translation>
     </message>
     <message>
         <source>Syncing files...</source>
-        <translation type="unfinished">Oppdaterer filer…</translation>
+        <translation>Synkroniserer filer&#xa0;…</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -965,11 +965,11 @@
     </message>
     <message>
         <source>Checking the user name and password...</source>
-        <translation>Kontrollerer brukernavn og passord…</translation>
+        <translation>Kontrollerer brukernavn og passord&#xa0;…</translation>
     </message>
     <message>
         <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
-        <translation type="unfinished">Vent mens installasjonsveiviseren arbeider med [ProductName]. Dette kan ta flere minutter.</translation>
+        <translation>Vent mens installasjonsveiviseren gjør endringene i [ProductName]. Dette kan ta flere minutter.</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1021,7 +1021,7 @@
     </message>
     <message>
         <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
-        <translation type="unfinished">Den lokale synkroniseringsmappen ble ikke funnet. Gjenopprett mappen, eller velg en annen.</translation>
+        <translation>Den lokale synkroniseringsmappen ble ikke funnet. Gjenopprett mappen, eller velg en annen mappe. Banen vises under «Synkroniseringsoppgaver».</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
@@ -1029,15 +1029,15 @@
     </message>
     <message>
         <source>Add sync task...</source>
-        <translation type="unfinished">Legg til synkroniseringsoppgave</translation>
+        <translation>Legg til oppgave&#xa0;…</translation>
     </message>
     <message>
         <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
-        <translation type="unfinished">Den delte mappen er ikke montert på serveren. Be serveradministratoren om å montere den.</translation>
+        <translation>Den delte mappen er ikke montert på serveren. Be serveradministratoren om å montere den. Navnet vises under «Delte mapper».</translation>
     </message>
     <message>
         <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Serveren sendte et uventet svar. Oppgrader klienten og serveren, og prøv på nytt.</translation>
+        <translation>Serveren sendte et uventet svar. Oppgrader Quillmere på denne datamaskinen, og be serveradministratoren om å oppgradere Quillmere på serveren. Du finner detaljer i «~/.Quillmere/log».</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1053,11 +1053,11 @@
     </message>
     <message>
         <source>Checking files...</source>
-        <translation type="unfinished">Kontrollerer dataene…</translation>
+        <translation>Kontrollerer filer&#xa0;…</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
-        <translation>Prøver å synkronisere…</translation>
+        <translation>Prøver å synkronisere&#xa0;…</translation>
     </message>
     <message>
         <source>Click Install to begin the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
@@ -1065,7 +1065,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
-        <translation type="unfinished">{\VerdanaBold13}Installasjonsprogrammet for [ProductName] ble avbrutt</translation>
+        <translation>{\VerdanaBold13}Installasjonsprogrammet for [ProductName] ble avbrutt</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1093,7 +1093,7 @@
     </message>
     <message>
         <source>This folder is already synced with another shared folder. Choose another folder.</source>
-        <translation type="unfinished">Denne mappen synkroniseres allerede med en annen delt mappe. Velg en annen mappe.</translation>
+        <translation>Denne mappen synkroniseres allerede med en annen delt mappe. Velg en annen mappe.</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1133,7 +1133,7 @@
     </message>
     <message>
         <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
-        <translation type="unfinished">Alle filene fra begge mappene beholdes. Hvis to versjoner av en fil er forskjellige, får du begge.</translation>
+        <translation>Alle filene fra begge mappene beholdes. Hvis to versjoner av en fil er forskjellige, beholdes begge under forskjellige navn.</translation>
     </message>
     <message>
         <source>Repair the installation</source>
@@ -1141,15 +1141,15 @@
     </message>
     <message>
         <source>Syncing turned on</source>
-        <translation type="unfinished">Synkronisering aktivert</translation>
+        <translation>Synkronisering slått på</translation>
     </message>
     <message>
         <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Quillmere kunne ikke starte. Start datamaskinen på nytt, og start deretter Quillmere igjen.</translation>
+        <translation>Quillmere kunne ikke starte. Start datamaskinen på nytt, og start deretter Quillmere igjen. Du finner detaljer i «~/.Quillmere/log».</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
-        <translation type="unfinished">Vil du avbryte installasjonsprogrammet for [ProductName]?</translation>
+        <source>Cancel [ProductName] setup?</source>
+        <translation>Vil du avbryte installasjonsprogrammet for [ProductName]?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1173,7 +1173,7 @@
     </message>
     <message>
         <source>Browse versions...</source>
-        <translation type="unfinished">Bla gjennom versjoner</translation>
+        <translation>Bla gjennom versjoner&#xa0;…</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
@@ -1181,19 +1181,19 @@
     </message>
     <message>
         <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
-        <translation type="unfinished">Denne tilkoblingen er inaktiv. Opprett tilknytningen på nytt for å fortsette synkroniseringen.</translation>
+        <translation>Denne datamaskinen er koblet fra serveren. Koble til igjen for å fortsette synkroniseringen.</translation>
     </message>
     <message>
         <source>Detecting...</source>
-        <translation>Undersøker…</translation>
+        <translation>Undersøker&#xa0;…</translation>
     </message>
     <message>
         <source>Certificate warning</source>
-        <translation type="unfinished">SSL-advarsel</translation>
+        <translation>Sertifikatadvarsel</translation>
     </message>
     <message>
         <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
-        <translation type="unfinished">Relétjenesten kan ikke nås. Kontroller internettilkoblingen, og prøv på nytt.</translation>
+        <translation>Relétjenesten kan ikke nås. Kontroller internettilkoblingen, og prøv på nytt.</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
@@ -1201,7 +1201,7 @@
     </message>
     <message>
         <source>Downloading %1...</source>
-        <translation>Laster ned «%1»…</translation>
+        <translation>Laster ned «%1»&#xa0;…</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
@@ -1233,23 +1233,23 @@
     </message>
     <message>
         <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
-        <translation type="unfinished">Servervolumet som inneholder denne mappen, er ikke montert. Be serveradministratoren om å montere det.</translation>
+        <translation>Stasjonen på serveren som inneholder denne mappen, er ikke montert. Be serveradministratoren om å montere den. Mappen vises under «Synkroniseringsoppgaver».</translation>
     </message>
     <message>
         <source>This version of Quillmere is already installed. Install it again?</source>
-        <translation type="unfinished">Denne versjonen av Quillmere er allerede installert. Vil du installere den på nytt?</translation>
+        <translation>Denne versjonen av Quillmere er allerede installert. Vil du installere den på nytt?</translation>
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
-        <translation type="unfinished">Denne klienten er for gammel for serveren. Oppgrader klienten, og prøv på nytt.</translation>
+        <translation>Quillmere på denne datamaskinen er for gammel til å fungere sammen med serveren. Oppgrader Quillmere, og prøv på nytt.</translation>
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer.</source>
-        <translation type="unfinished">Serveren er for gammel for denne klienten.</translation>
+        <translation>Quillmere på serveren er for gammel til å fungere sammen med denne datamaskinen.</translation>
     </message>
     <message>
         <source>Turned off</source>
-        <translation type="unfinished">Deaktivert</translation>
+        <translation>Slått av</translation>
     </message>
 </context>
 </TS>

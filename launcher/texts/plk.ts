@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>Processing...</source>
-        <translation>Przetwarzanie…</translation>
+        <translation>Przetwarzanie...</translation>
     </message>
     <message>
         <source>Exit</source>
@@ -41,11 +41,11 @@
     </message>
     <message>
         <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Lokalna baza danych jest uszkodzona. Usuń powiązanie tego połączenia, a następnie powiąż je ponownie, aby odbudować bazę danych.</translation>
+        <translation>Lokalna baza danych jest uszkodzona. Rozłącz się z serwerem, a następnie połącz się ponownie, aby odbudować bazę danych. Szczegóły znajdują się w ~/.Quillmere/log.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
-        <translation>&amp;Zamknij aplikacje i uruchom je ponownie po zakończeniu instalacji</translation>
+        <translation>&amp;Zamknij aplikacje i uruchom je ponownie po zakończeniu pracy instalatora</translation>
     </message>
     <message>
         <source>The folder is a mount point. Choose a folder that is not a mount point.</source>
@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>The server has been replaced. Click here to reconnect.</source>
-        <translation type="unfinished">Serwer został zastąpiony innym. Kliknij tutaj, aby utworzyć powiązanie ponownie.</translation>
+        <translation>Serwer został zastąpiony innym. Kliknij tutaj, aby połączyć się ponownie.</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -69,7 +69,7 @@
     </message>
     <message>
         <source>Exclusion list</source>
-        <translation type="unfinished">Lista wykluczeń</translation>
+        <translation>Lista wykluczeń</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
@@ -77,11 +77,11 @@
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server.</source>
-        <translation type="unfinished">Wersja tego klienta jest za stara dla serwera.</translation>
+        <translation>Program Quillmere na tym komputerze jest za stary, aby współpracować z serwerem.</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
-        <translation>Instalacja programu [ProductName]</translation>
+        <translation>Instalator programu [ProductName]</translation>
     </message>
     <message>
         <source>Sign-in failed</source>
@@ -93,11 +93,11 @@
     </message>
     <message>
         <source>Testing the connection...</source>
-        <translation>Testowanie połączenia…</translation>
+        <translation>Testowanie połączenia...</translation>
     </message>
     <message>
         <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
-        <translation type="unfinished">Certyfikat SSL serwera nie jest zaufany, więc wysyłane dane mogą zostać odczytane przez inne osoby. Czy chcesz kontynuować?</translation>
+        <translation>Certyfikat serwera nie jest zaufany: mógł wygasnąć, może należeć do innego serwera lub pochodzić od nieznanego wystawcy. Inne osoby mogą odczytać wysyłane dane. Czy kontynuować?</translation>
     </message>
     <message>
         <source>New shared folder</source>
@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>About Quillmere</source>
-        <translation type="unfinished">O programie</translation>
+        <translation>O programie Quillmere</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>&amp;Print</source>
-        <translation>Dr&amp;ukuj</translation>
+        <translation>Wyd&amp;rukuj</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the removal.</source>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
-        <translation type="unfinished">Ten komputer jest już powiązany z tym serwerem. Edytuj istniejące połączenie lub podaj inny serwer.</translation>
+        <translation>Ten komputer jest już połączony z tym serwerem. Edytuj istniejące połączenie lub podaj inny serwer.</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -133,11 +133,11 @@
     </message>
     <message>
         <source>The certificate of the server could not be verified.</source>
-        <translation type="unfinished">Nie udało się zweryfikować certyfikatu SSL serwera.</translation>
+        <translation>Nie udało się zweryfikować certyfikatu serwera.</translation>
     </message>
     <message>
         <source>Use a black-and-white tray icon</source>
-        <translation type="unfinished">Używaj czarno-białej ikony w zasobniku systemowym</translation>
+        <translation>Używaj czarno-białej ikony w zasobniku systemowym</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -153,7 +153,7 @@
     </message>
     <message>
         <source>Excluded files</source>
-        <translation type="unfinished">Wykluczone pliki</translation>
+        <translation>Wykluczone pliki</translation>
     </message>
     <message>
         <source>No permission</source>
@@ -161,11 +161,11 @@
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
-        <translation type="unfinished">Wersja serwera jest za stara dla tego klienta. Poproś administratora o uaktualnienie serwera.</translation>
+        <translation>Program Quillmere na serwerze jest za stary, aby współpracować z tym komputerem. Poproś administratora serwera o uaktualnienie programu.</translation>
     </message>
     <message>
         <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
-        <translation type="unfinished">Aby spróbować ponownie, uruchom instalator później. Kliknij przycisk „Zakończ”, aby zamknąć kreator instalacji.</translation>
+        <translation>Instalator możesz uruchomić ponownie w dowolnej chwili. Kliknij przycisk „Zakończ”, aby zamknąć kreator instalacji.</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -181,7 +181,7 @@
     </message>
     <message>
         <source>Some settings have not been saved. Save them?</source>
-        <translation type="unfinished">Niektóre ustawienia nie zostały zapisane. Czy chcesz je zapisać?</translation>
+        <translation>Niektóre ustawienia nie zostały zapisane. Czy je zapisać?</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -193,7 +193,7 @@
     </message>
     <message>
         <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
-        <translation type="unfinished">Ten folder jest już używany przez inny program do synchronizacji. Wybierz inny folder, aby uniknąć konfliktów.</translation>
+        <translation>Ten folder jest już używany przez inny program do synchronizacji. Wybierz inny folder, aby uniknąć konfliktów.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -205,15 +205,15 @@
     </message>
     <message>
         <source>Change sync folder</source>
-        <translation type="unfinished">Zmiana folderu synchronizacji</translation>
+        <translation>Zmiana folderu synchronizacji</translation>
     </message>
     <message>
         <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
-        <translation type="unfinished">Wpisz pełną nazwę pliku bez ścieżki do folderu.</translation>
+        <translation>Wpisz pełną nazwę pliku bez ścieżki do folderu, na przykład thumbs.db.</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
-        <translation type="unfinished">[DlgTitleFont]Instalacja została przerwana przez błąd, a wprowadzone zmiany cofnięto.</translation>
+        <translation>[DlgTitleFont]Instalator zatrzymał się z powodu błędu. Wprowadzone zmiany cofnięto.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -241,7 +241,7 @@
     </message>
     <message>
         <source>Use an encrypted connection (TLS)</source>
-        <translation type="unfinished">Szyfruj przesyłane dane za pomocą SSL</translation>
+        <translation>Używaj szyfrowanego połączenia (TLS)</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -277,7 +277,7 @@
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished">Usuń powiązanie</translation>
+        <translation>Rozłącz</translation>
     </message>
     <message>
         <source>Back</source>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Quillmere is initializing...</source>
-        <translation>Inicjowanie programu Quillmere…</translation>
+        <translation>Inicjowanie programu Quillmere...</translation>
     </message>
     <message>
         <source>Start now</source>
@@ -313,11 +313,11 @@
     </message>
     <message>
         <source>Applying the settings...</source>
-        <translation>Stosowanie ustawień…</translation>
+        <translation>Stosowanie ustawień...</translation>
     </message>
     <message>
         <source>Files excluded from syncing</source>
-        <translation type="unfinished">Pliki, które nie są synchronizowane</translation>
+        <translation>Pliki wykluczone z synchronizacji</translation>
     </message>
     <message>
         <source>Created</source>
@@ -333,7 +333,7 @@
     </message>
     <message>
         <source>Choose shared folders to sync</source>
-        <translation type="unfinished">Wybierz foldery udostępnione do synchronizacji</translation>
+        <translation>Wybierz foldery udostępnione do synchronizacji</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -341,7 +341,7 @@
     </message>
     <message>
         <source>Uploading...</source>
-        <translation>Wysyłanie…</translation>
+        <translation>Wysyłanie...</translation>
     </message>
     <message>
         <source>To use selective sync, ask the server administrator to upgrade Quillmere on the server.</source>
@@ -361,7 +361,7 @@
     </message>
     <message>
         <source>Excluded file extensions</source>
-        <translation type="unfinished">Wykluczone rozszerzenia plików</translation>
+        <translation>Wykluczone rozszerzenia plików</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -377,7 +377,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
-        <translation type="unfinished">Wolumin, na którym znajduje się folder synchronizacji, nie jest zamontowany. Zamontuj wolumin, a następnie wznów synchronizację.</translation>
+        <translation>Dysk z folderem synchronizacji nie jest zamontowany. Zamontuj dysk, a następnie wznów synchronizację. Folder jest podany na stronie „Zadania synchronizacji”.</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is full.</source>
-        <translation type="unfinished">Na tym komputerze nie ma wolnego miejsca na dysku.</translation>
+        <translation>Dysk z folderem synchronizacji jest pełny.</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -393,15 +393,15 @@
     </message>
     <message>
         <source>&amp;Retry</source>
-        <translation>&amp;Ponów próbę</translation>
+        <translation>&amp;Ponów</translation>
     </message>
     <message>
         <source>&amp;Ignore</source>
-        <translation>&amp;Ignoruj</translation>
+        <translation>Z&amp;ignoruj</translation>
     </message>
     <message>
         <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
-        <translation type="unfinished">Folder o tej nazwie już istnieje. Czy chcesz scalić jego pliki z plikami na serwerze?</translation>
+        <translation>Folder o tej nazwie już istnieje na tym komputerze. Czy scalić jego pliki z plikami na serwerze?</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
@@ -421,7 +421,7 @@
     </message>
     <message>
         <source>Upgrading Quillmere...</source>
-        <translation>Uaktualnianie programu Quillmere…</translation>
+        <translation>Uaktualnianie programu Quillmere...</translation>
     </message>
     <message>
         <source>Sync mode</source>
@@ -449,11 +449,11 @@
     </message>
     <message>
         <source>Files being synced: %1</source>
-        <translation type="unfinished">Synchronizowanie plików (%1)…</translation>
+        <translation>Synchronizowane pliki: %1</translation>
     </message>
     <message>
         <source>Reconnect</source>
-        <translation type="unfinished">Powiąż ponownie</translation>
+        <translation>Połącz ponownie</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -473,7 +473,7 @@
     </message>
     <message>
         <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
-        <translation type="unfinished">Odznaczone foldery i pliki zostaną usunięte z tego komputera. Pozostaną one na serwerze.</translation>
+        <translation>Odznaczone foldery i pliki zostaną usunięte z tego komputera. Pozostaną na serwerze.</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
@@ -489,19 +489,19 @@
     </message>
     <message>
         <source>Disconnected</source>
-        <translation type="unfinished">Nieaktywne</translation>
+        <translation>Rozłączono</translation>
     </message>
     <message>
         <source>You have used all of your space on the server.</source>
-        <translation type="unfinished">Twój przydział miejsca na serwerze jest wyczerpany.</translation>
+        <translation>Całe Twoje miejsce na serwerze zostało wykorzystane.</translation>
     </message>
     <message>
         <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">Czy usunąć powiązanie tego połączenia?\nTwoje pliki pozostaną na tym komputerze i na serwerze, ale nie będą już synchronizowane.</translation>
+        <translation>Czy rozłączyć się z serwerem?\nTwoje pliki pozostaną na tym komputerze i na serwerze, ale nie będą już synchronizowane.</translation>
     </message>
     <message>
         <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
-        <translation type="unfinished">Wystąpił problem z usługą przekazywania. Spróbuj ponownie później lub połącz się, używając adresu IP serwera.</translation>
+        <translation>Wystąpił problem z usługą przekazywania. Spróbuj ponownie później lub połącz się z serwerem, używając jego adresu IP.</translation>
     </message>
     <message>
         <source>Server ID</source>
@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>Excluded file names</source>
-        <translation type="unfinished">Wykluczone nazwy plików</translation>
+        <translation>Wykluczone nazwy plików</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -521,11 +521,11 @@
     </message>
     <message>
         <source>Turned on</source>
-        <translation type="unfinished">Włączone</translation>
+        <translation>Włączone</translation>
     </message>
     <message>
         <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
-        <translation type="unfinished">Na tym komputerze nie ma wolnego miejsca na dysku. Zwolnij miejsce, aby kontynuować synchronizację.</translation>
+        <translation>Dysk z folderem synchronizacji jest pełny. Zwolnij na nim miejsce, aby kontynuować synchronizację.</translation>
     </message>
     <message>
         <source>Folders to sync</source>
@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>Choose sync folder</source>
-        <translation type="unfinished">Wybierz folder synchronizacji</translation>
+        <translation>Wybierz folder synchronizacji</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -549,7 +549,7 @@
     </message>
     <message>
         <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
-        <translation type="unfinished">Twój przydział miejsca na serwerze jest wyczerpany. Usuń niepotrzebne pliki lub poproś administratora serwera o zwiększenie przydziału.</translation>
+        <translation>Całe Twoje miejsce na serwerze zostało wykorzystane. Usuń niepotrzebne pliki lub poproś administratora serwera o więcej miejsca.</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
@@ -565,11 +565,11 @@
     </message>
     <message>
         <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
-        <translation type="unfinished">Ten plik został zmieniony w dwóch miejscach. Porównaj obie kopie, a następnie zachowaj tę, której potrzebujesz.</translation>
+        <translation>Ten plik został zmieniony na tym komputerze i na serwerze. Obie kopie znajdują się w tym samym folderze pod różnymi nazwami. Porównaj je, a następnie zachowaj tę, której potrzebujesz.</translation>
     </message>
     <message>
         <source>All your files on every computer, kept on your own server</source>
-        <translation type="unfinished">Jedno miejsce na Twoje pliki na każdym komputerze – dzięki własnemu serwerowi</translation>
+        <translation>Wszystkie Twoje pliki na każdym komputerze, przechowywane na Twoim własnym serwerze</translation>
     </message>
     <message>
         <source>OK</source>
@@ -581,7 +581,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
-        <translation type="unfinished">Następujące aplikacje używają plików, które instalator musi zaktualizować. Zamknij je i kliknij przycisk „Ponów próbę”, kliknij przycisk „Ignoruj”, aby kontynuować bez ich zamykania, lub przycisk „Wyjdź”, aby przerwać instalację.</translation>
+        <translation>Następujące aplikacje używają plików, które instalator musi zaktualizować. Zamknij te aplikacje, a następnie kliknij przycisk „Ponów”. Aby kontynuować bez ich zamykania, kliknij przycisk „Zignoruj”. Aby opuścić instalator, kliknij przycisk „Zakończ”.</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -597,7 +597,7 @@
     </message>
     <message>
         <source>Edit connection...</source>
-        <translation type="unfinished">Edytuj połączenie</translation>
+        <translation>Edytuj połączenie...</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
-        <translation>Następujące aplikacje używają plików, które instalator musi zaktualizować. Wybierz, czy instalator ma je zamknąć. Jeśli pozostaną otwarte, do ukończenia instalacji konieczne będzie ponowne uruchomienie komputera.</translation>
+        <translation>Następujące aplikacje używają plików, które instalator musi zaktualizować. Wybierz, czy instalator ma zamknąć te aplikacje. Jeśli pozostaną otwarte, do ukończenia pracy instalatora konieczne będzie ponowne uruchomienie komputera.</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the repair.</source>
@@ -625,31 +625,31 @@
     </message>
     <message>
         <source>Show icon overlays on excluded files</source>
-        <translation type="unfinished">Pokazuj nakładki na ikonach odfiltrowanych plików</translation>
+        <translation>Pokazuj nakładki na ikonach wykluczonych plików</translation>
     </message>
     <message>
         <source>Loading...</source>
-        <translation>Wczytywanie…</translation>
+        <translation>Wczytywanie...</translation>
     </message>
     <message>
         <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
-        <translation type="unfinished">Maksymalna liczba synchronizowanych folderów udostępnionych: %1. Zanim dodasz kolejny, zatrzymaj synchronizację jednego z nich.</translation>
+        <translation>Osiągnięto limit synchronizowanych folderów udostępnionych: %1. Zanim dodasz kolejny, zatrzymaj synchronizację dowolnego folderu udostępnionego.</translation>
     </message>
     <message>
         <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">Czy usunąć powiązanie tego zadania synchronizacji?\nJego pliki pozostaną na tym komputerze i na serwerze, ale nie będą już synchronizowane.</translation>
+        <translation>Czy usunąć to zadanie synchronizacji?\nJego pliki pozostaną na tym komputerze i na serwerze, ale nie będą już synchronizowane.</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
-        <translation>Uruchamianie programu Quillmere…</translation>
+        <translation>Uruchamianie programu Quillmere...</translation>
     </message>
     <message>
         <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Nie udało się uaktualnić programu Quillmere. Uruchom ponownie komputer, a następnie spróbuj jeszcze raz.</translation>
+        <translation>Nie udało się uaktualnić programu Quillmere. Poprzednia wersja została zachowana. Uruchom ponownie komputer, a następnie spróbuj jeszcze raz. Szczegóły znajdują się w ~/.Quillmere/log.</translation>
     </message>
     <message>
         <source>Exclude names that begin with a dot</source>
-        <translation type="unfinished">Wykluczaj nazwy zaczynające się od kropki</translation>
+        <translation>Wykluczaj nazwy zaczynające się od kropki</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -673,7 +673,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup is complete</source>
-        <translation type="unfinished">{\VerdanaBold13}Kreator instalacji programu [ProductName] zakończył pracę</translation>
+        <translation>{\VerdanaBold13}Instalator programu [ProductName] zakończył pracę</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -701,7 +701,7 @@
     </message>
     <message>
         <source>Watching for file changes...</source>
-        <translation>Śledzenie zmian w plikach…</translation>
+        <translation>Śledzenie zmian w plikach...</translation>
     </message>
     <message>
         <source>Shared folder</source>
@@ -709,7 +709,7 @@
     </message>
     <message>
         <source>Quillmere settings</source>
-        <translation type="unfinished">Opcje klienta</translation>
+        <translation>Ustawienia programu Quillmere</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
@@ -717,11 +717,11 @@
     </message>
     <message>
         <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
-        <translation type="unfinished">Nie udało się zweryfikować certyfikatu SSL serwera. Poproś administratora serwera o sprawdzenie certyfikatu.</translation>
+        <translation>Nie udało się zweryfikować certyfikatu serwera: mógł wygasnąć, może należeć do innego serwera lub pochodzić od nieznanego wystawcy. Poproś administratora serwera o sprawdzenie certyfikatu.</translation>
     </message>
     <message>
         <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
-        <translation type="unfinished">To nie jest serwer, z którym powiązano to połączenie. Sprawdź adres serwera lub utwórz powiązanie ponownie.</translation>
+        <translation>To nie jest serwer, z którym ten komputer był połączony. Sprawdź adres serwera lub połącz się ponownie.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>Connect to another server...</source>
-        <translation type="unfinished">Powiąż z innym serwerem</translation>
+        <translation>Połącz z innym serwerem...</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]Making changes to [ProductName]</source>
-        <translation type="unfinished">[DlgTitleFont]Konfigurowanie programu [ProductName]</translation>
+        <translation>[DlgTitleFont]Wprowadzanie zmian w programie [ProductName]</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -789,7 +789,7 @@
     </message>
     <message>
         <source>Files to exclude</source>
-        <translation type="unfinished">Filtr plików</translation>
+        <translation>Pliki do wykluczenia</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -801,7 +801,7 @@
     </message>
     <message>
         <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Coś poszło nie tak. Spróbuj ponownie, a jeśli problem będzie się powtarzał, skontaktuj się z administratorem serwera.</translation>
+        <translation>Wystąpił błąd. Spróbuj ponownie, a jeśli problem będzie się powtarzał, skontaktuj się z administratorem serwera. Szczegóły znajdują się w ~/.Quillmere/log.</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -825,7 +825,7 @@
     </message>
     <message>
         <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
-        <translation type="unfinished">Nie zalogowano się jako administrator, więc program Quillmere może nie zostać zainstalowany w całości. Czy chcesz kontynuować?</translation>
+        <translation>Nie zalogowano się jako administrator, więc program Quillmere może nie zostać zainstalowany w całości. Czy kontynuować?</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
@@ -873,7 +873,7 @@
     </message>
     <message>
         <source>Choose another folder...</source>
-        <translation type="unfinished">Wybierz inny folder</translation>
+        <translation>Wybierz inny folder...</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -897,22 +897,22 @@
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">Usuń powiązanie</translation>
+        <translation>Usuń</translation>
     </message>
     <message>
         <source>Another server was found at the server address.</source>
-        <translation type="unfinished">Pod adresem serwera znaleziono inny serwer.</translation>
+        <translation>Pod adresem serwera znaleziono inny serwer.</translation>
     </message>
     <message>
         <source>Connecting to the server...</source>
-        <translation type="unfinished">Tworzenie powiązania z serwerem…</translation>
+        <translation>Łączenie z serwerem...</translation>
     </message>
     <message>
         <source>Port</source>
         <translation>Port</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Create share link</source>
         <translation>Utwórz link udostępniania</translation>
     </message>
     <message>
@@ -929,7 +929,7 @@
     </message>
     <message>
         <source>Change folder...</source>
-        <translation type="unfinished">Zmień folder</translation>
+        <translation>Zmień folder...</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -941,11 +941,11 @@
     </message>
     <message>
         <source>Downloading...</source>
-        <translation>Pobieranie…</translation>
+        <translation>Pobieranie...</translation>
     </message>
     <message>
         <source>File locked</source>
-        <translation type="unfinished">Plik jest zablokowany</translation>
+        <translation>Plik zablokowany</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -953,11 +953,11 @@
     </message>
     <message>
         <source>Preparing...</source>
-        <translation>Przygotowywanie…</translation>
+        <translation>Przygotowywanie...</translation>
     </message>
     <message>
         <source>Syncing files...</source>
-        <translation type="unfinished">Aktualizowanie plików…</translation>
+        <translation>Synchronizowanie plików...</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -965,11 +965,11 @@
     </message>
     <message>
         <source>Checking the user name and password...</source>
-        <translation>Sprawdzanie nazwy użytkownika i hasła…</translation>
+        <translation>Sprawdzanie nazwy użytkownika i hasła...</translation>
     </message>
     <message>
         <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
-        <translation type="unfinished">Poczekaj, aż kreator instalacji skonfiguruje program [ProductName]. Może to potrwać kilka minut.</translation>
+        <translation>Poczekaj, aż kreator instalacji wprowadzi zmiany w programie [ProductName]. Może to potrwać kilka minut.</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -997,7 +997,7 @@
     </message>
     <message>
         <source>File sharing over the relay is turned off on the server. Ask the server administrator to turn it on.</source>
-        <translation>Udostępnianie plików przez usługę przekazywania jest wyłączone na serwerze. Poproś administratora serwera o jego włączenie.</translation>
+        <translation>Udostępnianie plików przez usługę przekazywania jest wyłączone na serwerze. Poproś administratora serwera o włączenie udostępniania.</translation>
     </message>
     <message>
         <source>Add</source>
@@ -1013,7 +1013,7 @@
     </message>
     <message>
         <source>E&amp;xit</source>
-        <translation>&amp;Wyjdź</translation>
+        <translation>Za&amp;kończ</translation>
     </message>
     <message>
         <source>The share link was copied to the clipboard.</source>
@@ -1021,7 +1021,7 @@
     </message>
     <message>
         <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
-        <translation type="unfinished">Nie znaleziono lokalnego folderu synchronizacji. Przywróć ten folder lub wybierz inny.</translation>
+        <translation>Nie znaleziono lokalnego folderu synchronizacji. Przywróć folder lub wybierz inny. Ścieżka folderu jest podana na stronie „Zadania synchronizacji”.</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
@@ -1029,19 +1029,19 @@
     </message>
     <message>
         <source>Add sync task...</source>
-        <translation type="unfinished">Dodaj zadanie synchronizacji</translation>
+        <translation>Dodaj zadanie...</translation>
     </message>
     <message>
         <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
-        <translation type="unfinished">Ten folder udostępniony nie jest zamontowany na serwerze. Poproś administratora serwera o jego zamontowanie.</translation>
+        <translation>Ten folder udostępniony nie jest zamontowany na serwerze. Poproś administratora serwera o zamontowanie folderu. Nazwa folderu jest podana na stronie „Foldery udostępnione”.</translation>
     </message>
     <message>
         <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Serwer wysłał nieoczekiwaną odpowiedź. Uaktualnij klienta i serwer, a następnie spróbuj ponownie.</translation>
+        <translation>Serwer wysłał nieoczekiwaną odpowiedź. Uaktualnij program Quillmere na tym komputerze i poproś administratora serwera o uaktualnienie programu na serwerze. Szczegóły znajdują się w ~/.Quillmere/log.</translation>
     </message>
     <message>
         <source>Server overview</source>
-        <translation>Przegląd serwera</translation>
+        <translation>Informacje o serwerze</translation>
     </message>
     <message>
         <source>Syncing stopped because of a problem. Click here for details.</source>
@@ -1053,11 +1053,11 @@
     </message>
     <message>
         <source>Checking files...</source>
-        <translation type="unfinished">Sprawdzanie danych…</translation>
+        <translation>Sprawdzanie plików...</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
-        <translation>Próba synchronizacji…</translation>
+        <translation>Próba synchronizacji...</translation>
     </message>
     <message>
         <source>Click Install to begin the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
@@ -1065,7 +1065,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
-        <translation type="unfinished">{\VerdanaBold13}Instalacja programu [ProductName] została przerwana</translation>
+        <translation>{\VerdanaBold13}Praca instalatora programu [ProductName] została przerwana</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1093,7 +1093,7 @@
     </message>
     <message>
         <source>This folder is already synced with another shared folder. Choose another folder.</source>
-        <translation type="unfinished">Ten folder jest już synchronizowany z innym folderem udostępnionym. Wybierz inny folder.</translation>
+        <translation>Ten folder jest już synchronizowany z innym folderem udostępnionym. Wybierz inny folder.</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1117,7 +1117,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup did not finish</source>
-        <translation>{\VerdanaBold13}Instalacja programu [ProductName] nie została ukończona</translation>
+        <translation>{\VerdanaBold13}Instalator programu [ProductName] nie ukończył pracy</translation>
     </message>
     <message>
         <source>Quillmere is already running.</source>
@@ -1133,7 +1133,7 @@
     </message>
     <message>
         <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
-        <translation type="unfinished">Zachowywane są wszystkie pliki z obu folderów. Jeśli dwie wersje pliku się różnią, zachowane zostaną obie.</translation>
+        <translation>Zachowywane są wszystkie pliki z obu folderów. Jeśli dwie wersje pliku się różnią, obie są zachowywane pod różnymi nazwami.</translation>
     </message>
     <message>
         <source>Repair the installation</source>
@@ -1141,15 +1141,15 @@
     </message>
     <message>
         <source>Syncing turned on</source>
-        <translation type="unfinished">Synchronizacja włączona</translation>
+        <translation>Synchronizacja włączona</translation>
     </message>
     <message>
         <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Nie udało się uruchomić programu Quillmere. Uruchom ponownie komputer, a następnie uruchom program Quillmere jeszcze raz.</translation>
+        <translation>Nie udało się uruchomić programu Quillmere. Uruchom ponownie komputer, a następnie uruchom program Quillmere jeszcze raz. Szczegóły znajdują się w ~/.Quillmere/log.</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
-        <translation type="unfinished">Czy chcesz anulować instalację programu [ProductName]?</translation>
+        <source>Cancel [ProductName] setup?</source>
+        <translation>Czy przerwać pracę instalatora programu [ProductName]?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1161,7 +1161,7 @@
     </message>
     <message>
         <source>Quillmere is set up</source>
-        <translation>Konfiguracja programu Quillmere została ukończona</translation>
+        <translation>Program Quillmere jest skonfigurowany</translation>
     </message>
     <message>
         <source>Language</source>
@@ -1173,7 +1173,7 @@
     </message>
     <message>
         <source>Browse versions...</source>
-        <translation type="unfinished">Przeglądaj wersje</translation>
+        <translation>Przeglądaj wersje...</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
@@ -1181,19 +1181,19 @@
     </message>
     <message>
         <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
-        <translation type="unfinished">To połączenie jest nieaktywne. Powiąż je ponownie, aby kontynuować synchronizację.</translation>
+        <translation>Ten komputer został rozłączony z serwerem. Połącz się ponownie, aby kontynuować synchronizację.</translation>
     </message>
     <message>
         <source>Detecting...</source>
-        <translation>Wykrywanie…</translation>
+        <translation>Wykrywanie...</translation>
     </message>
     <message>
         <source>Certificate warning</source>
-        <translation type="unfinished">Ostrzeżenie SSL</translation>
+        <translation>Ostrzeżenie dotyczące certyfikatu</translation>
     </message>
     <message>
         <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
-        <translation type="unfinished">Nie można połączyć się z usługą przekazywania. Sprawdź połączenie z Internetem, a następnie spróbuj ponownie.</translation>
+        <translation>Nie można połączyć się z usługą przekazywania. Sprawdź połączenie z internetem, a następnie spróbuj ponownie.</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
@@ -1201,7 +1201,7 @@
     </message>
     <message>
         <source>Downloading %1...</source>
-        <translation>Pobieranie pliku „%1”…</translation>
+        <translation>Pobieranie pliku „%1”...</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
@@ -1213,7 +1213,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]You canceled setup, and your computer was not changed.</source>
-        <translation>[DlgTitleFont]Instalacja została anulowana, a na komputerze nie wprowadzono żadnych zmian.</translation>
+        <translation>[DlgTitleFont]Praca instalatora została przerwana, a na komputerze nie wprowadzono żadnych zmian.</translation>
     </message>
     <message>
         <source>The port number is not valid. Enter a number from 1 to 65535.</source>
@@ -1225,7 +1225,7 @@
     </message>
     <message>
         <source>Remove the installation</source>
-        <translation>Usuń instalację</translation>
+        <translation>Usuń program</translation>
     </message>
     <message>
         <source>Direct connection</source>
@@ -1233,23 +1233,23 @@
     </message>
     <message>
         <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
-        <translation type="unfinished">Wolumin serwera, na którym znajduje się ten folder, nie jest zamontowany. Poproś administratora serwera o jego zamontowanie.</translation>
+        <translation>Dysk na serwerze zawierający ten folder nie jest zamontowany. Poproś administratora serwera o zamontowanie tego dysku. Folder jest podany na stronie „Zadania synchronizacji”.</translation>
     </message>
     <message>
         <source>This version of Quillmere is already installed. Install it again?</source>
-        <translation type="unfinished">Ta wersja programu Quillmere jest już zainstalowana. Czy chcesz zainstalować ją ponownie?</translation>
+        <translation>Ta wersja programu Quillmere jest już zainstalowana. Czy zainstalować ją ponownie?</translation>
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
-        <translation type="unfinished">Wersja tego klienta jest za stara dla serwera. Uaktualnij klienta, a następnie spróbuj ponownie.</translation>
+        <translation>Program Quillmere na tym komputerze jest za stary, aby współpracować z serwerem. Uaktualnij program, a następnie spróbuj ponownie.</translation>
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer.</source>
-        <translation type="unfinished">Wersja serwera jest za stara dla tego klienta.</translation>
+        <translation>Program Quillmere na serwerze jest za stary, aby współpracować z tym komputerem.</translation>
     </message>
     <message>
         <source>Turned off</source>
-        <translation type="unfinished">Wyłączone</translation>
+        <translation>Wyłączone</translation>
     </message>
 </context>
 </TS>

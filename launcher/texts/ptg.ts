@@ -5,7 +5,7 @@
     <name>global</name>
     <message>
         <source>{\VerdanaBold13}Welcome to the [ProductName] Setup Wizard</source>
-        <translation>{\VerdanaBold13}Bem-vindo ao assistente de instalação do [ProductName]</translation>
+        <translation>{\VerdanaBold13}Boas-vindas ao assistente de instalação do [ProductName]</translation>
     </message>
     <message>
         <source>Start [ProductName] now</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">A base de dados local está danificada. Desassocie a ligação e volte a associá-la para reconstruir a base de dados.</translation>
+        <translation>A base de dados local está danificada. Desligue-se do servidor e volte a ligar-se para reconstruir a base de dados. Os detalhes estão em ~/.Quillmere/log.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
@@ -57,11 +57,11 @@
     </message>
     <message>
         <source>The server has been replaced. Click here to reconnect.</source>
-        <translation type="unfinished">O servidor foi substituído. Clique aqui para voltar a associar.</translation>
+        <translation>O servidor foi substituído. Clique aqui para voltar a ligar-se.</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
-        <translation>Ficheiros a sincronizar neste momento: %1.</translation>
+        <translation>Ficheiros em sincronização neste momento: %1.</translation>
     </message>
     <message>
         <source>The Setup Wizard lets you change, repair, or remove [ProductName]. Click Next to continue, or click Cancel to exit the Setup Wizard.</source>
@@ -69,15 +69,15 @@
     </message>
     <message>
         <source>Exclusion list</source>
-        <translation type="unfinished">Lista de bloqueio</translation>
+        <translation>Lista de exclusão</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
-        <translation>Eliminar esta hiperligação de partilha?\nQuem tiver a hiperligação deixará de poder abrir o ficheiro.</translation>
+        <translation>Apagar esta hiperligação de partilha?\nQuem tiver a hiperligação deixará de poder abrir o ficheiro.</translation>
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server.</source>
-        <translation type="unfinished">Este cliente é demasiado antigo para o servidor.</translation>
+        <translation>O Quillmere neste computador é demasiado antigo para funcionar com o servidor.</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
-        <translation type="unfinished">O certificado SSL do servidor não é de confiança, pelo que outras pessoas poderão conseguir ler os dados que envia. Pretende continuar?</translation>
+        <translation>O certificado do servidor não é de confiança: pode ter expirado, pertencer a outro servidor ou provir de um emissor desconhecido. Outras pessoas poderão conseguir ler os dados que envia. Continuar?</translation>
     </message>
     <message>
         <source>New shared folder</source>
@@ -105,11 +105,11 @@
     </message>
     <message>
         <source>About Quillmere</source>
-        <translation type="unfinished">Acerca de</translation>
+        <translation>Acerca do Quillmere</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
-        <translation>Verifique as definições abaixo e clique em Concluir.</translation>
+        <translation>Verifique as definições abaixo e clique em Concluído.</translation>
     </message>
     <message>
         <source>&amp;Print</source>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
-        <translation type="unfinished">Este computador já está associado a este servidor. Edite a ligação existente ou introduza outro servidor.</translation>
+        <translation>Este computador já está ligado a este servidor. Edite a ligação existente ou introduza outro servidor.</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -133,11 +133,11 @@
     </message>
     <message>
         <source>The certificate of the server could not be verified.</source>
-        <translation type="unfinished">Não foi possível verificar o certificado SSL do servidor.</translation>
+        <translation>Não foi possível verificar o certificado do servidor.</translation>
     </message>
     <message>
         <source>Use a black-and-white tray icon</source>
-        <translation type="unfinished">Utilizar um ícone a preto e branco na área de notificação</translation>
+        <translation>Utilizar um ícone a preto e branco na área de notificação</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -153,7 +153,7 @@
     </message>
     <message>
         <source>Excluded files</source>
-        <translation type="unfinished">Ficheiros bloqueados</translation>
+        <translation>Ficheiros excluídos</translation>
     </message>
     <message>
         <source>No permission</source>
@@ -161,11 +161,11 @@
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
-        <translation type="unfinished">O servidor é demasiado antigo para este cliente. Peça ao administrador do servidor que o atualize.</translation>
+        <translation>O Quillmere no servidor é demasiado antigo para funcionar com este computador. Peça ao administrador do servidor que o atualize.</translation>
     </message>
     <message>
         <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
-        <translation type="unfinished">Para tentar de novo, execute a instalação mais tarde. Clique em Concluir para sair do assistente de instalação.</translation>
+        <translation>Pode voltar a executar o programa de instalação em qualquer altura. Clique em Terminar para sair do assistente de instalação.</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -177,11 +177,11 @@
     </message>
     <message>
         <source>Click Repair to repair the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
-        <translation>Clique em Reparar para reparar a instalação do [ProductName]. Clique em Anterior para rever as suas opções ou em Cancelar para sair do assistente de instalação.</translation>
+        <translation>Clique em Reparar para reparar a instalação do [ProductName]. Clique em Recuar para rever as suas opções ou em Cancelar para sair do assistente de instalação.</translation>
     </message>
     <message>
         <source>Some settings have not been saved. Save them?</source>
-        <translation type="unfinished">Algumas definições não foram guardadas. Pretende guardá-las?</translation>
+        <translation>Algumas definições não foram guardadas. Guardá-las?</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -193,11 +193,11 @@
     </message>
     <message>
         <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
-        <translation type="unfinished">Esta pasta já é utilizada por outro programa de sincronização. Escolha outra pasta para evitar conflitos.</translation>
+        <translation>Esta pasta já é utilizada por outro programa de sincronização. Escolha outra pasta para evitar conflitos.</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation>Eliminar</translation>
+        <translation>Apagar</translation>
     </message>
     <message>
         <source>Incompatible version</source>
@@ -205,15 +205,15 @@
     </message>
     <message>
         <source>Change sync folder</source>
-        <translation type="unfinished">Alterar a pasta de sincronização</translation>
+        <translation>Alterar pasta de sincronização</translation>
     </message>
     <message>
         <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
-        <translation type="unfinished">Introduza um nome de ficheiro completo, sem o caminho da pasta.</translation>
+        <translation>Introduza um nome de ficheiro completo, sem o caminho da pasta; por exemplo, thumbs.db.</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
-        <translation type="unfinished">[DlgTitleFont]Um erro interrompeu a instalação, e as alterações foram anuladas.</translation>
+        <translation>[DlgTitleFont]O programa de instalação parou devido a um erro. As alterações que tinha efetuado foram anuladas.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -241,7 +241,7 @@
     </message>
     <message>
         <source>Use an encrypted connection (TLS)</source>
-        <translation type="unfinished">Encriptar a transferência de dados com SSL</translation>
+        <translation>Utilizar uma ligação encriptada (TLS)</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -277,11 +277,11 @@
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished">Desassociar</translation>
+        <translation>Desligar</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation>Anterior</translation>
+        <translation>Recuar</translation>
     </message>
     <message>
         <source>Quillmere is initializing...</source>
@@ -317,7 +317,7 @@
     </message>
     <message>
         <source>Files excluded from syncing</source>
-        <translation type="unfinished">Ficheiros que não são sincronizados</translation>
+        <translation>Ficheiros excluídos da sincronização</translation>
     </message>
     <message>
         <source>Created</source>
@@ -333,7 +333,7 @@
     </message>
     <message>
         <source>Choose shared folders to sync</source>
-        <translation type="unfinished">Escolha as pastas partilhadas a sincronizar</translation>
+        <translation>Escolha as pastas partilhadas a sincronizar</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -357,11 +357,11 @@
     </message>
     <message>
         <source>Repairs errors in the installation of [ProductName] by restoring missing or damaged files and shortcuts.</source>
-        <translation>Repara erros na instalação do [ProductName], restaurando ficheiros e atalhos em falta ou danificados.</translation>
+        <translation>Corrige erros na instalação do [ProductName], restaurando ficheiros e atalhos em falta ou danificados.</translation>
     </message>
     <message>
         <source>Excluded file extensions</source>
-        <translation type="unfinished">Extensões de ficheiro bloqueadas</translation>
+        <translation>Extensões de ficheiro excluídas</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}Welcome back to the [ProductName] Setup Wizard</source>
-        <translation>{\VerdanaBold13}Bem-vindo de novo ao assistente de instalação do [ProductName]</translation>
+        <translation>{\VerdanaBold13}Boas-vindas de novo ao assistente de instalação do [ProductName]</translation>
     </message>
     <message>
         <source>Password</source>
@@ -377,7 +377,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
-        <translation type="unfinished">O volume que contém a pasta de sincronização não está montado. Monte o volume e retome a sincronização.</translation>
+        <translation>A unidade que contém a pasta de sincronização não está montada. Monte a unidade e retome a sincronização. Veja a pasta em Tarefas de sincronização.</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is full.</source>
-        <translation type="unfinished">Este computador não tem espaço livre no disco.</translation>
+        <translation>A unidade que contém a pasta de sincronização está cheia.</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -393,7 +393,7 @@
     </message>
     <message>
         <source>&amp;Retry</source>
-        <translation>&amp;Repetir</translation>
+        <translation>&amp;Tentar novamente</translation>
     </message>
     <message>
         <source>&amp;Ignore</source>
@@ -401,7 +401,7 @@
     </message>
     <message>
         <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
-        <translation type="unfinished">Já existe uma pasta com este nome. Pretende unir os respetivos ficheiros aos do servidor?</translation>
+        <translation>Já existe uma pasta com este nome neste computador. Unir os respetivos ficheiros aos do servidor?</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
@@ -413,11 +413,11 @@
     </message>
     <message>
         <source>Welcome to Quillmere</source>
-        <translation>Bem-vindo ao Quillmere</translation>
+        <translation>Boas-vindas ao Quillmere</translation>
     </message>
     <message>
         <source>&amp;Repair</source>
-        <translation>&amp;Reparar</translation>
+        <translation>Re&amp;parar</translation>
     </message>
     <message>
         <source>Upgrading Quillmere...</source>
@@ -445,15 +445,15 @@
     </message>
     <message>
         <source>Done</source>
-        <translation>Concluir</translation>
+        <translation>Concluído</translation>
     </message>
     <message>
         <source>Files being synced: %1</source>
-        <translation type="unfinished">A sincronizar ficheiros (%1)...</translation>
+        <translation>Ficheiros em sincronização: %1</translation>
     </message>
     <message>
         <source>Reconnect</source>
-        <translation type="unfinished">Voltar a associar</translation>
+        <translation>Voltar a ligar</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -473,15 +473,15 @@
     </message>
     <message>
         <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
-        <translation type="unfinished">As pastas e os ficheiros que desmarcou serão removidos deste computador. Serão mantidos no servidor.</translation>
+        <translation>As pastas e os ficheiros que desmarcou serão removidos deste computador. Serão mantidos no servidor.</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
-        <translation>Foram efetuadas todas as alterações que escolheu. Clique em Concluir para sair do assistente de instalação.</translation>
+        <translation>O programa de instalação efetuou todas as alterações que escolheu. Clique em Terminar para sair do assistente de instalação.</translation>
     </message>
     <message>
         <source>Click Remove to remove [ProductName] from your computer. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
-        <translation>Clique em Remover para remover o [ProductName] do seu computador. Clique em Anterior para rever as suas opções ou em Cancelar para sair do assistente de instalação.</translation>
+        <translation>Clique em Remover para remover o [ProductName] do seu computador. Clique em Recuar para rever as suas opções ou em Cancelar para sair do assistente de instalação.</translation>
     </message>
     <message>
         <source>No space left</source>
@@ -489,19 +489,19 @@
     </message>
     <message>
         <source>Disconnected</source>
-        <translation type="unfinished">Inativa</translation>
+        <translation>Desligado</translation>
     </message>
     <message>
         <source>You have used all of your space on the server.</source>
-        <translation type="unfinished">A sua quota no servidor está esgotada.</translation>
+        <translation>Utilizou todo o seu espaço no servidor.</translation>
     </message>
     <message>
         <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">Desassociar esta ligação?\nOs seus ficheiros serão mantidos neste computador e no servidor, mas deixarão de ser sincronizados.</translation>
+        <translation>Desligar-se do servidor?\nOs seus ficheiros serão mantidos neste computador e no servidor, mas deixarão de ser sincronizados.</translation>
     </message>
     <message>
         <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
-        <translation type="unfinished">Ocorreu um problema no serviço de retransmissão. Tente novamente mais tarde ou ligue-se através do endereço IP do servidor.</translation>
+        <translation>Ocorreu um problema no serviço de retransmissão. Tente novamente mais tarde ou ligue-se ao servidor através do respetivo endereço IP.</translation>
     </message>
     <message>
         <source>Server ID</source>
@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>Excluded file names</source>
-        <translation type="unfinished">Nomes de ficheiro bloqueados</translation>
+        <translation>Nomes de ficheiro excluídos</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -521,11 +521,11 @@
     </message>
     <message>
         <source>Turned on</source>
-        <translation type="unfinished">Ativado</translation>
+        <translation>Ativado</translation>
     </message>
     <message>
         <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
-        <translation type="unfinished">Este computador não tem espaço livre no disco. Liberte espaço para continuar a sincronizar.</translation>
+        <translation>A unidade que contém a pasta de sincronização está cheia. Liberte espaço na unidade para continuar a sincronizar.</translation>
     </message>
     <message>
         <source>Folders to sync</source>
@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>Choose sync folder</source>
-        <translation type="unfinished">Escolha uma pasta de sincronização</translation>
+        <translation>Escolha a pasta de sincronização</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -549,7 +549,7 @@
     </message>
     <message>
         <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
-        <translation type="unfinished">A sua quota no servidor está esgotada. Elimine ficheiros de que não precisa ou peça uma quota maior ao administrador do servidor.</translation>
+        <translation>Utilizou todo o seu espaço no servidor. Apague ficheiros de que não precisa ou peça mais espaço ao administrador do servidor.</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
@@ -565,11 +565,11 @@
     </message>
     <message>
         <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
-        <translation type="unfinished">Este ficheiro foi alterado em dois locais. Compare as duas cópias e mantenha aquela de que precisa.</translation>
+        <translation>Este ficheiro foi alterado neste computador e no servidor. As duas cópias estão na mesma pasta com nomes diferentes. Compare-as e mantenha aquela de que precisa.</translation>
     </message>
     <message>
         <source>All your files on every computer, kept on your own server</source>
-        <translation type="unfinished">Um único local para os seus ficheiros em todos os computadores, através do seu próprio servidor</translation>
+        <translation>Todos os seus ficheiros em todos os computadores, guardados no seu próprio servidor</translation>
     </message>
     <message>
         <source>OK</source>
@@ -581,7 +581,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
-        <translation type="unfinished">As seguintes aplicações estão a utilizar ficheiros que a instalação tem de atualizar. Feche-as e clique em Repetir, clique em Ignorar para continuar sem as fechar ou clique em Sair para abandonar a instalação.</translation>
+        <translation>As seguintes aplicações estão a utilizar ficheiros que o programa de instalação tem de atualizar. Feche-as e clique em Tentar novamente. Para continuar sem as fechar, clique em Ignorar. Para sair do programa de instalação, clique em Sair.</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -597,7 +597,7 @@
     </message>
     <message>
         <source>Edit connection...</source>
-        <translation type="unfinished">Editar ligação</translation>
+        <translation>Editar ligação...</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
-        <translation>As seguintes aplicações estão a utilizar ficheiros que a instalação tem de atualizar. Escolha se a instalação deve fechá-las. Se permanecerem abertas, terá de reiniciar o computador para concluir a instalação.</translation>
+        <translation>As seguintes aplicações estão a utilizar ficheiros que o programa de instalação tem de atualizar. Escolha se este deve fechá-las. Se permanecerem abertas, terá de reiniciar o computador para concluir a instalação.</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the repair.</source>
@@ -625,7 +625,7 @@
     </message>
     <message>
         <source>Show icon overlays on excluded files</source>
-        <translation type="unfinished">Mostrar sobreposições de ícones nos ficheiros filtrados</translation>
+        <translation>Mostrar sobreposições de ícones nos ficheiros excluídos</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -633,11 +633,11 @@
     </message>
     <message>
         <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
-        <translation type="unfinished">O número máximo de pastas partilhadas que pode sincronizar é %1. Pare a sincronização de uma delas antes de adicionar outra.</translation>
+        <translation>O limite de pastas partilhadas sincronizadas foi atingido: %1. Pare a sincronização de uma pasta partilhada antes de adicionar outra.</translation>
     </message>
     <message>
         <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">Desassociar esta tarefa de sincronização?\nOs respetivos ficheiros serão mantidos neste computador e no servidor, mas deixarão de ser sincronizados.</translation>
+        <translation>Remover esta tarefa de sincronização?\nOs respetivos ficheiros serão mantidos neste computador e no servidor, mas deixarão de ser sincronizados.</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
@@ -645,11 +645,11 @@
     </message>
     <message>
         <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Não foi possível atualizar o Quillmere. Reinicie o computador e tente novamente.</translation>
+        <translation>Não foi possível atualizar o Quillmere. A versão anterior foi mantida. Reinicie o computador e tente novamente. Os detalhes estão em ~/.Quillmere/log.</translation>
     </message>
     <message>
         <source>Exclude names that begin with a dot</source>
-        <translation type="unfinished">Bloquear nomes começados por um ponto</translation>
+        <translation>Excluir nomes começados por um ponto</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -673,7 +673,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup is complete</source>
-        <translation type="unfinished">{\VerdanaBold13}O assistente de instalação do [ProductName] terminou</translation>
+        <translation>{\VerdanaBold13}O programa de instalação do [ProductName] terminou</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -709,19 +709,19 @@
     </message>
     <message>
         <source>Quillmere settings</source>
-        <translation type="unfinished">Opções do cliente</translation>
+        <translation>Definições do Quillmere</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
-        <translation>Não foi possível eliminar a hiperligação de partilha. Verifique a ligação ao servidor e tente novamente.</translation>
+        <translation>Não foi possível apagar a hiperligação de partilha. Verifique a ligação ao servidor e tente novamente.</translation>
     </message>
     <message>
         <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
-        <translation type="unfinished">Não foi possível verificar o certificado SSL do servidor. Peça ao administrador do servidor que verifique o certificado.</translation>
+        <translation>Não foi possível verificar o certificado do servidor: pode ter expirado, pertencer a outro servidor ou provir de um emissor desconhecido. Peça ao administrador do servidor que verifique o certificado.</translation>
     </message>
     <message>
         <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
-        <translation type="unfinished">Este não é o servidor ao qual a ligação foi associada. Verifique o endereço do servidor ou volte a associá-la.</translation>
+        <translation>Este não é o servidor ao qual este computador estava ligado. Verifique o endereço do servidor ou volte a ligar-se.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -741,7 +741,7 @@
     </message>
     <message>
         <source>Delete link</source>
-        <translation>Eliminar hiperligação</translation>
+        <translation>Apagar hiperligação</translation>
     </message>
     <message>
         <source>Error</source>
@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>Connect to another server...</source>
-        <translation type="unfinished">Associar a outro servidor</translation>
+        <translation>Ligar a outro servidor...</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]Making changes to [ProductName]</source>
-        <translation type="unfinished">[DlgTitleFont]A configurar o [ProductName]</translation>
+        <translation>[DlgTitleFont]A efetuar alterações no [ProductName]</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -789,7 +789,7 @@
     </message>
     <message>
         <source>Files to exclude</source>
-        <translation type="unfinished">Filtro de ficheiros</translation>
+        <translation>Ficheiros a excluir</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -801,7 +801,7 @@
     </message>
     <message>
         <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Algo correu mal. Tente novamente e contacte o administrador do servidor se o problema persistir.</translation>
+        <translation>Algo correu mal. Tente novamente e contacte o administrador do servidor se o problema persistir. Os detalhes estão em ~/.Quillmere/log.</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -817,7 +817,7 @@
     </message>
     <message>
         <source>&amp;Back</source>
-        <translation>&amp;Anterior</translation>
+        <translation>&amp;Recuar</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -825,7 +825,7 @@
     </message>
     <message>
         <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
-        <translation type="unfinished">Não iniciou sessão como administrador, pelo que o Quillmere poderá não ficar completamente instalado. Pretende continuar?</translation>
+        <translation>Não iniciou sessão como administrador, pelo que o Quillmere poderá não ficar completamente instalado. Continuar?</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
@@ -837,7 +837,7 @@
     </message>
     <message>
         <source>The user name or password is not correct. Check both, then try again.</source>
-        <translation>O nome de utilizador ou a palavra-passe estão incorretos. Verifique ambos e tente novamente.</translation>
+        <translation>Nome de utilizador ou palavra-passe incorretos. Verifique ambos e tente novamente.</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to repair [ProductName]</source>
@@ -873,7 +873,7 @@
     </message>
     <message>
         <source>Choose another folder...</source>
-        <translation type="unfinished">Escolher outra pasta</translation>
+        <translation>Escolher outra pasta...</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -881,7 +881,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Repair</source>
-        <translation>[DlgTitleFont]&amp;Reparar</translation>
+        <translation>[DlgTitleFont]Re&amp;parar</translation>
     </message>
     <message>
         <source>Re&amp;move</source>
@@ -897,22 +897,22 @@
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">Desassociar</translation>
+        <translation>Remover</translation>
     </message>
     <message>
         <source>Another server was found at the server address.</source>
-        <translation type="unfinished">Foi encontrado um servidor diferente no endereço do servidor.</translation>
+        <translation>Foi encontrado outro servidor no endereço do servidor.</translation>
     </message>
     <message>
         <source>Connecting to the server...</source>
-        <translation type="unfinished">A associar ao servidor...</translation>
+        <translation>A ligar ao servidor...</translation>
     </message>
     <message>
         <source>Port</source>
         <translation>Porta</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Create share link</source>
         <translation>Criar hiperligação de partilha</translation>
     </message>
     <message>
@@ -929,11 +929,11 @@
     </message>
     <message>
         <source>Change folder...</source>
-        <translation type="unfinished">Alterar pasta</translation>
+        <translation>Alterar pasta...</translation>
     </message>
     <message>
         <source>Finish</source>
-        <translation>Concluir</translation>
+        <translation>Terminar</translation>
     </message>
     <message>
         <source>Folder path</source>
@@ -945,7 +945,7 @@
     </message>
     <message>
         <source>File locked</source>
-        <translation type="unfinished">O ficheiro está bloqueado por um programa</translation>
+        <translation>Ficheiro bloqueado</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -957,7 +957,7 @@
     </message>
     <message>
         <source>Syncing files...</source>
-        <translation type="unfinished">A atualizar ficheiros...</translation>
+        <translation>A sincronizar ficheiros...</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -969,7 +969,7 @@
     </message>
     <message>
         <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
-        <translation type="unfinished">Aguarde enquanto o assistente de instalação configura o [ProductName]. Esta operação pode demorar vários minutos.</translation>
+        <translation>Aguarde enquanto o assistente de instalação efetua as alterações no [ProductName]. Esta operação pode demorar vários minutos.</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1013,7 +1013,7 @@
     </message>
     <message>
         <source>E&amp;xit</source>
-        <translation>S&amp;air</translation>
+        <translation>&amp;Sair</translation>
     </message>
     <message>
         <source>The share link was copied to the clipboard.</source>
@@ -1021,7 +1021,7 @@
     </message>
     <message>
         <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
-        <translation type="unfinished">A pasta de sincronização local não foi encontrada. Restaure a pasta ou escolha outra.</translation>
+        <translation>A pasta de sincronização local não foi encontrada. Restaure a pasta ou escolha outra pasta. Veja o caminho em Tarefas de sincronização.</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
@@ -1029,15 +1029,15 @@
     </message>
     <message>
         <source>Add sync task...</source>
-        <translation type="unfinished">Adicionar tarefa de sincronização</translation>
+        <translation>Adicionar tarefa...</translation>
     </message>
     <message>
         <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
-        <translation type="unfinished">A pasta partilhada não está montada no servidor. Peça ao administrador do servidor que a monte.</translation>
+        <translation>A pasta partilhada não está montada no servidor. Peça ao administrador do servidor que a monte. Veja o nome da pasta em Pastas partilhadas.</translation>
     </message>
     <message>
         <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">O servidor enviou uma resposta inesperada. Atualize o cliente e o servidor e tente novamente.</translation>
+        <translation>O servidor enviou uma resposta inesperada. Atualize o Quillmere neste computador e peça ao administrador do servidor que o atualize no servidor. Os detalhes estão em ~/.Quillmere/log.</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1053,7 +1053,7 @@
     </message>
     <message>
         <source>Checking files...</source>
-        <translation type="unfinished">A verificar os dados...</translation>
+        <translation>A verificar ficheiros...</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
@@ -1061,11 +1061,11 @@
     </message>
     <message>
         <source>Click Install to begin the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
-        <translation>Clique em Instalar para iniciar a instalação do [ProductName]. Clique em Anterior para rever as suas opções ou em Cancelar para sair do assistente de instalação.</translation>
+        <translation>Clique em Instalar para iniciar a instalação do [ProductName]. Clique em Recuar para rever as suas opções ou em Cancelar para sair do assistente de instalação.</translation>
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
-        <translation type="unfinished">{\VerdanaBold13}A instalação do [ProductName] foi interrompida</translation>
+        <translation>{\VerdanaBold13}O programa de instalação do [ProductName] foi cancelado</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1085,7 +1085,7 @@
     </message>
     <message>
         <source>You can open the files in this shared folder, but changes you make are not uploaded.</source>
-        <translation>Pode abrir os ficheiros desta pasta partilhada, mas as alterações que fizer não serão enviadas.</translation>
+        <translation>Pode abrir os ficheiros desta pasta partilhada, mas as alterações que fizer não serão enviadas para o servidor.</translation>
     </message>
     <message>
         <source>Network settings</source>
@@ -1093,7 +1093,7 @@
     </message>
     <message>
         <source>This folder is already synced with another shared folder. Choose another folder.</source>
-        <translation type="unfinished">Esta pasta já está sincronizada com outra pasta partilhada. Escolha uma pasta diferente.</translation>
+        <translation>Esta pasta já está sincronizada com outra pasta partilhada. Escolha outra pasta.</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1117,7 +1117,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup did not finish</source>
-        <translation>{\VerdanaBold13}A instalação do [ProductName] não foi concluída</translation>
+        <translation>{\VerdanaBold13}O programa de instalação do [ProductName] não terminou</translation>
     </message>
     <message>
         <source>Quillmere is already running.</source>
@@ -1125,7 +1125,7 @@
     </message>
     <message>
         <source>Welcome</source>
-        <translation>Bem-vindo</translation>
+        <translation>Boas-vindas</translation>
     </message>
     <message>
         <source>Start Quillmere when I sign in to this computer</source>
@@ -1133,7 +1133,7 @@
     </message>
     <message>
         <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
-        <translation type="unfinished">São mantidos todos os ficheiros de ambas as pastas. Se duas versões de um ficheiro forem diferentes, ficará com ambas.</translation>
+        <translation>São mantidos todos os ficheiros de ambas as pastas. Se duas versões de um ficheiro forem diferentes, ambas são mantidas com nomes diferentes.</translation>
     </message>
     <message>
         <source>Repair the installation</source>
@@ -1141,15 +1141,15 @@
     </message>
     <message>
         <source>Syncing turned on</source>
-        <translation type="unfinished">Sincronização ativada</translation>
+        <translation>Sincronização ativada</translation>
     </message>
     <message>
         <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Não foi possível iniciar o Quillmere. Reinicie o computador e volte a iniciar o Quillmere.</translation>
+        <translation>Não foi possível iniciar o Quillmere. Reinicie o computador e volte a iniciar o Quillmere. Os detalhes estão em ~/.Quillmere/log.</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
-        <translation type="unfinished">Pretende cancelar a instalação do [ProductName]?</translation>
+        <source>Cancel [ProductName] setup?</source>
+        <translation>Cancelar o programa de instalação do [ProductName]?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1173,7 +1173,7 @@
     </message>
     <message>
         <source>Browse versions...</source>
-        <translation type="unfinished">Ver versões</translation>
+        <translation>Ver versões...</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
@@ -1181,7 +1181,7 @@
     </message>
     <message>
         <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
-        <translation type="unfinished">Esta ligação está inativa. Volte a associá-la para continuar a sincronizar.</translation>
+        <translation>Este computador está desligado do servidor. Volte a ligar-se para continuar a sincronizar.</translation>
     </message>
     <message>
         <source>Detecting...</source>
@@ -1189,11 +1189,11 @@
     </message>
     <message>
         <source>Certificate warning</source>
-        <translation type="unfinished">Aviso de SSL</translation>
+        <translation>Aviso de certificado</translation>
     </message>
     <message>
         <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
-        <translation type="unfinished">Não é possível aceder ao serviço de retransmissão. Verifique a sua ligação à Internet e tente novamente.</translation>
+        <translation>Não é possível aceder ao serviço de retransmissão. Verifique a ligação à Internet e tente novamente.</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
@@ -1205,7 +1205,7 @@
     </message>
     <message>
         <source>&amp;Finish</source>
-        <translation>&amp;Concluir</translation>
+        <translation>&amp;Terminar</translation>
     </message>
     <message>
         <source>Read-only folder</source>
@@ -1213,7 +1213,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]You canceled setup, and your computer was not changed.</source>
-        <translation>[DlgTitleFont]Cancelou a instalação, e o computador não foi alterado.</translation>
+        <translation>[DlgTitleFont]Cancelou o programa de instalação, e o computador não foi alterado.</translation>
     </message>
     <message>
         <source>The port number is not valid. Enter a number from 1 to 65535.</source>
@@ -1225,7 +1225,7 @@
     </message>
     <message>
         <source>Remove the installation</source>
-        <translation>Remover a instalação</translation>
+        <translation>Remover o programa</translation>
     </message>
     <message>
         <source>Direct connection</source>
@@ -1233,23 +1233,23 @@
     </message>
     <message>
         <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
-        <translation type="unfinished">O volume do servidor que contém esta pasta não está montado. Peça ao administrador do servidor que o monte.</translation>
+        <translation>No servidor, a unidade que contém esta pasta não está montada. Peça ao administrador do servidor que monte a unidade. Veja a pasta em Tarefas de sincronização.</translation>
     </message>
     <message>
         <source>This version of Quillmere is already installed. Install it again?</source>
-        <translation type="unfinished">Esta versão do Quillmere já está instalada. Pretende instalá-la novamente?</translation>
+        <translation>Esta versão do Quillmere já está instalada. Instalá-la novamente?</translation>
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
-        <translation type="unfinished">Este cliente é demasiado antigo para o servidor. Atualize o cliente e tente novamente.</translation>
+        <translation>O Quillmere neste computador é demasiado antigo para funcionar com o servidor. Atualize-o e tente novamente.</translation>
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer.</source>
-        <translation type="unfinished">O servidor é demasiado antigo para este cliente.</translation>
+        <translation>O Quillmere no servidor é demasiado antigo para funcionar com este computador.</translation>
     </message>
     <message>
         <source>Turned off</source>
-        <translation type="unfinished">Desativado</translation>
+        <translation>Desativado</translation>
     </message>
 </context>
 </TS>

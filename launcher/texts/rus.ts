@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>Processing...</source>
-        <translation>Обработка…</translation>
+        <translation>Обработка...</translation>
     </message>
     <message>
         <source>Exit</source>
@@ -41,11 +41,11 @@
     </message>
     <message>
         <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Локальная база данных повреждена. Разорвите связь для этого подключения и установите связь заново, чтобы база данных была создана повторно.</translation>
+        <translation>Локальная база данных повреждена. Отключитесь от сервера и подключитесь снова, чтобы создать базу данных заново. Подробности см. в ~/.Quillmere/log.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
-        <translation>&amp;Закрыть приложения и запустить их снова после установки</translation>
+        <translation>&amp;Закрыть приложения и запустить их снова после внесения изменений</translation>
     </message>
     <message>
         <source>The folder is a mount point. Choose a folder that is not a mount point.</source>
@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>The server has been replaced. Click here to reconnect.</source>
-        <translation type="unfinished">Сервер был заменён. Щёлкните здесь, чтобы установить связь заново.</translation>
+        <translation>Сервер был заменён. Щёлкните здесь, чтобы подключиться снова.</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -69,7 +69,7 @@
     </message>
     <message>
         <source>Exclusion list</source>
-        <translation type="unfinished">Список исключений</translation>
+        <translation>Список исключений</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
@@ -77,15 +77,15 @@
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server.</source>
-        <translation type="unfinished">Версия этого клиента слишком старая для сервера.</translation>
+        <translation>Версия Quillmere на этом компьютере слишком старая для работы с сервером.</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
-        <translation>Установка [ProductName]</translation>
+        <translation>Программа установки [ProductName]</translation>
     </message>
     <message>
         <source>Sign-in failed</source>
-        <translation>Не удалось выполнить вход</translation>
+        <translation>Ошибка входа</translation>
     </message>
     <message>
         <source>Version</source>
@@ -93,11 +93,11 @@
     </message>
     <message>
         <source>Testing the connection...</source>
-        <translation>Проверка подключения…</translation>
+        <translation>Проверка подключения...</translation>
     </message>
     <message>
         <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
-        <translation type="unfinished">SSL-сертификат сервера не является доверенным, поэтому отправляемые данные могут прочитать посторонние. Продолжить?</translation>
+        <translation>Сертификат сервера не является доверенным: возможно, он просрочен, принадлежит другому серверу или выдан неизвестным издателем. Отправляемые данные могут прочитать посторонние. Продолжить?</translation>
     </message>
     <message>
         <source>New shared folder</source>
@@ -105,11 +105,11 @@
     </message>
     <message>
         <source>About Quillmere</source>
-        <translation type="unfinished">О программе</translation>
+        <translation>О программе Quillmere</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
-        <translation>Проверьте параметры ниже и нажмите кнопку «Готово».</translation>
+        <translation>Проверьте настройки ниже и нажмите кнопку «Готово».</translation>
     </message>
     <message>
         <source>&amp;Print</source>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
-        <translation type="unfinished">Этот компьютер уже связан с этим сервером. Измените существующее подключение или укажите другой сервер.</translation>
+        <translation>Этот компьютер уже подключён к этому серверу. Измените существующее подключение или укажите другой сервер.</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -133,11 +133,11 @@
     </message>
     <message>
         <source>The certificate of the server could not be verified.</source>
-        <translation type="unfinished">Не удалось проверить SSL-сертификат сервера.</translation>
+        <translation>Не удалось проверить сертификат сервера.</translation>
     </message>
     <message>
         <source>Use a black-and-white tray icon</source>
-        <translation type="unfinished">Использовать чёрно-белый значок в области уведомлений</translation>
+        <translation>Использовать чёрно-белый значок в области уведомлений</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -153,7 +153,7 @@
     </message>
     <message>
         <source>Excluded files</source>
-        <translation type="unfinished">Исключённые файлы</translation>
+        <translation>Исключённые файлы</translation>
     </message>
     <message>
         <source>No permission</source>
@@ -161,11 +161,11 @@
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
-        <translation type="unfinished">Версия сервера слишком старая для этого клиента. Попросите администратора обновить сервер.</translation>
+        <translation>Версия Quillmere на сервере слишком старая для работы с этим компьютером. Попросите администратора сервера обновить Quillmere.</translation>
     </message>
     <message>
         <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
-        <translation type="unfinished">Чтобы повторить попытку, запустите установку позже. Нажмите кнопку «Завершить», чтобы выйти из мастера установки.</translation>
+        <translation>Программу установки можно запустить снова в любое время. Нажмите кнопку «Завершить», чтобы выйти из мастера установки.</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -173,15 +173,15 @@
     </message>
     <message>
         <source>A newer version of Quillmere is already installed. To install this version, remove the newer one first.</source>
-        <translation>Более новая версия Quillmere уже установлена. Чтобы установить эту версию, сначала удалите более новую.</translation>
+        <translation>Уже установлена более новая версия Quillmere. Чтобы установить эту версию, сначала удалите более новую.</translation>
     </message>
     <message>
         <source>Click Repair to repair the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
-        <translation>Нажмите кнопку «Восстановить», чтобы исправить установку [ProductName]. Нажмите кнопку «Назад», чтобы проверить выбранные параметры, или кнопку «Отмена», чтобы выйти из мастера установки.</translation>
+        <translation>Нажмите кнопку «Восстановить», чтобы восстановить [ProductName]. Нажмите кнопку «Назад», чтобы проверить выбранные параметры, или кнопку «Отмена», чтобы выйти из мастера установки.</translation>
     </message>
     <message>
         <source>Some settings have not been saved. Save them?</source>
-        <translation type="unfinished">Некоторые параметры не сохранены. Сохранить их?</translation>
+        <translation>Некоторые настройки не сохранены. Сохранить их?</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -193,7 +193,7 @@
     </message>
     <message>
         <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
-        <translation type="unfinished">Эта папка уже используется другой программой синхронизации. Чтобы избежать конфликтов, выберите другую папку.</translation>
+        <translation>Эта папка уже используется другой программой синхронизации. Чтобы избежать конфликтов, выберите другую папку.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -205,15 +205,15 @@
     </message>
     <message>
         <source>Change sync folder</source>
-        <translation type="unfinished">Смена папки синхронизации</translation>
+        <translation>Смена папки синхронизации</translation>
     </message>
     <message>
         <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
-        <translation type="unfinished">Введите имя файла целиком, без пути к папке.</translation>
+        <translation>Введите имя файла целиком, без пути к папке, например thumbs.db.</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
-        <translation type="unfinished">[DlgTitleFont]Установка прервана из-за ошибки, внесённые изменения отменены.</translation>
+        <translation>[DlgTitleFont]Работа программы установки прервана из-за ошибки. Внесённые изменения отменены.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -241,7 +241,7 @@
     </message>
     <message>
         <source>Use an encrypted connection (TLS)</source>
-        <translation type="unfinished">Шифровать передаваемые данные с помощью SSL</translation>
+        <translation>Использовать шифрованное соединение (TLS)</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -249,7 +249,7 @@
     </message>
     <message>
         <source>Read-only</source>
-        <translation>Только чтение</translation>
+        <translation>Только для чтения</translation>
     </message>
     <message>
         <source>Help</source>
@@ -277,7 +277,7 @@
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished">Разорвать связь</translation>
+        <translation>Отключиться</translation>
     </message>
     <message>
         <source>Back</source>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Quillmere is initializing...</source>
-        <translation>Инициализация Quillmere…</translation>
+        <translation>Инициализация Quillmere...</translation>
     </message>
     <message>
         <source>Start now</source>
@@ -313,11 +313,11 @@
     </message>
     <message>
         <source>Applying the settings...</source>
-        <translation>Применение параметров…</translation>
+        <translation>Применение настроек...</translation>
     </message>
     <message>
         <source>Files excluded from syncing</source>
-        <translation type="unfinished">Файлы, которые не синхронизируются</translation>
+        <translation>Файлы, исключённые из синхронизации</translation>
     </message>
     <message>
         <source>Created</source>
@@ -325,7 +325,7 @@
     </message>
     <message>
         <source>The Quillmere service is turned off on the server. Ask the server administrator to turn it on.</source>
-        <translation>Служба Quillmere отключена на сервере. Попросите администратора сервера включить её.</translation>
+        <translation>Служба Quillmere выключена на сервере. Попросите администратора сервера включить её.</translation>
     </message>
     <message>
         <source>Internet</source>
@@ -333,7 +333,7 @@
     </message>
     <message>
         <source>Choose shared folders to sync</source>
-        <translation type="unfinished">Выберите общие папки для синхронизации</translation>
+        <translation>Выберите общие папки для синхронизации</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -341,7 +341,7 @@
     </message>
     <message>
         <source>Uploading...</source>
-        <translation>Отправка…</translation>
+        <translation>Отправка...</translation>
     </message>
     <message>
         <source>To use selective sync, ask the server administrator to upgrade Quillmere on the server.</source>
@@ -349,7 +349,7 @@
     </message>
     <message>
         <source>No settings have been changed.</source>
-        <translation>Параметры не были изменены.</translation>
+        <translation>Настройки не были изменены.</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Files in use</source>
@@ -361,7 +361,7 @@
     </message>
     <message>
         <source>Excluded file extensions</source>
-        <translation type="unfinished">Исключённые расширения файлов</translation>
+        <translation>Исключённые расширения файлов</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -377,7 +377,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
-        <translation type="unfinished">Том, на котором находится папка синхронизации, не смонтирован. Смонтируйте том и возобновите синхронизацию.</translation>
+        <translation>Диск с папкой синхронизации не смонтирован. Смонтируйте диск и возобновите синхронизацию. Папка указана на странице «Задания синхронизации».</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is full.</source>
-        <translation type="unfinished">На этом компьютере нет свободного места на диске.</translation>
+        <translation>Диск с папкой синхронизации заполнен.</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -401,7 +401,7 @@
     </message>
     <message>
         <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
-        <translation type="unfinished">Папка с таким именем уже существует. Объединить её файлы с файлами на сервере?</translation>
+        <translation>На этом компьютере уже есть папка с таким именем. Объединить её файлы с файлами на сервере?</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
@@ -421,7 +421,7 @@
     </message>
     <message>
         <source>Upgrading Quillmere...</source>
-        <translation>Обновление Quillmere…</translation>
+        <translation>Обновление Quillmere...</translation>
     </message>
     <message>
         <source>Sync mode</source>
@@ -449,11 +449,11 @@
     </message>
     <message>
         <source>Files being synced: %1</source>
-        <translation type="unfinished">Синхронизация файлов (%1)…</translation>
+        <translation>Синхронизируется файлов: %1</translation>
     </message>
     <message>
         <source>Reconnect</source>
-        <translation type="unfinished">Установить связь заново</translation>
+        <translation>Подключиться снова</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -461,7 +461,7 @@
     </message>
     <message>
         <source>Destination</source>
-        <translation>Назначение</translation>
+        <translation>Место назначения</translation>
     </message>
     <message>
         <source>The Setup Wizard is making the changes you chose.</source>
@@ -473,7 +473,7 @@
     </message>
     <message>
         <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
-        <translation type="unfinished">Папки и файлы, с которых снят флажок, будут удалены с этого компьютера. На сервере они сохранятся.</translation>
+        <translation>Папки и файлы, с которых сняты флажки, будут удалены с этого компьютера. На сервере они сохранятся.</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
@@ -489,19 +489,19 @@
     </message>
     <message>
         <source>Disconnected</source>
-        <translation type="unfinished">Неактивно</translation>
+        <translation>Отключено</translation>
     </message>
     <message>
         <source>You have used all of your space on the server.</source>
-        <translation type="unfinished">Ваша квота на сервере исчерпана.</translation>
+        <translation>Вы заняли всё выделенное вам место на сервере.</translation>
     </message>
     <message>
         <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">Разорвать связь для этого подключения?\nФайлы останутся на этом компьютере и на сервере, но больше не будут синхронизироваться.</translation>
+        <translation>Отключиться от сервера?\nФайлы останутся на этом компьютере и на сервере, но больше не будут синхронизироваться.</translation>
     </message>
     <message>
         <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
-        <translation type="unfinished">В работе службы ретрансляции возникла проблема. Повторите попытку позже или подключитесь по IP-адресу сервера.</translation>
+        <translation>В работе службы ретрансляции возникла проблема. Повторите попытку позже или подключитесь к серверу по его IP-адресу.</translation>
     </message>
     <message>
         <source>Server ID</source>
@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>Excluded file names</source>
-        <translation type="unfinished">Исключённые имена файлов</translation>
+        <translation>Исключённые имена файлов</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -521,11 +521,11 @@
     </message>
     <message>
         <source>Turned on</source>
-        <translation type="unfinished">Включено</translation>
+        <translation>Включено</translation>
     </message>
     <message>
         <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
-        <translation type="unfinished">На этом компьютере нет свободного места на диске. Чтобы продолжить синхронизацию, освободите место.</translation>
+        <translation>Диск с папкой синхронизации заполнен. Чтобы продолжить синхронизацию, освободите на нём место.</translation>
     </message>
     <message>
         <source>Folders to sync</source>
@@ -533,11 +533,11 @@
     </message>
     <message>
         <source>Choose sync folder</source>
-        <translation type="unfinished">Выберите папку синхронизации</translation>
+        <translation>Выберите папку синхронизации</translation>
     </message>
     <message>
         <source>Connection settings</source>
-        <translation>Параметры подключения</translation>
+        <translation>Настройки подключения</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -549,7 +549,7 @@
     </message>
     <message>
         <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
-        <translation type="unfinished">Ваша квота на сервере исчерпана. Удалите ненужные файлы или попросите администратора сервера увеличить квоту.</translation>
+        <translation>Вы заняли всё выделенное вам место на сервере. Удалите ненужные файлы или попросите администратора сервера выделить больше места.</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
@@ -565,11 +565,11 @@
     </message>
     <message>
         <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
-        <translation type="unfinished">Этот файл был изменён в двух местах. Сравните обе копии и оставьте нужную.</translation>
+        <translation>Этот файл был изменён на этом компьютере и на сервере. Обе копии находятся в одной папке под разными именами. Сравните их и оставьте нужную.</translation>
     </message>
     <message>
         <source>All your files on every computer, kept on your own server</source>
-        <translation type="unfinished">Единое место для файлов на всех ваших компьютерах&#xa0;— через собственный сервер</translation>
+        <translation>Все ваши файлы на каждом компьютере и на вашем собственном сервере</translation>
     </message>
     <message>
         <source>OK</source>
@@ -581,7 +581,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
-        <translation type="unfinished">Следующие приложения используют файлы, которые требуется обновить. Закройте их и нажмите кнопку «Повторить». Чтобы продолжить, не закрывая приложения, нажмите кнопку «Пропустить», а чтобы прервать установку&#xa0;— кнопку «Выход».</translation>
+        <translation>Следующие приложения используют файлы, которые должна обновить программа установки. Закройте эти приложения и нажмите кнопку «Повторить». Чтобы продолжить, не закрывая их, нажмите кнопку «Пропустить». Чтобы выйти из программы установки, нажмите кнопку «Выход».</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -597,7 +597,7 @@
     </message>
     <message>
         <source>Edit connection...</source>
-        <translation type="unfinished">Изменить подключение</translation>
+        <translation>Изменить подключение...</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
-        <translation>Следующие приложения используют файлы, которые требуется обновить. Выберите, нужно ли закрыть их автоматически. Если оставить их открытыми, для завершения установки потребуется перезагрузить компьютер.</translation>
+        <translation>Следующие приложения используют файлы, которые должна обновить программа установки. Выберите, следует ли ей закрыть эти приложения. Если оставить их открытыми, для завершения работы программы установки потребуется перезагрузить компьютер.</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the repair.</source>
@@ -625,31 +625,31 @@
     </message>
     <message>
         <source>Show icon overlays on excluded files</source>
-        <translation type="unfinished">Показывать значки состояния на отфильтрованных файлах</translation>
+        <translation>Показывать значки состояния на исключённых файлах</translation>
     </message>
     <message>
         <source>Loading...</source>
-        <translation>Загрузка…</translation>
+        <translation>Загрузка...</translation>
     </message>
     <message>
         <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
-        <translation type="unfinished">Количество синхронизируемых общих папок не может превышать %1. Прежде чем добавить новую, отключите синхронизацию одной из них.</translation>
+        <translation>Достигнуто предельное число синхронизируемых общих папок: %1. Чтобы добавить другую, сначала прекратите синхронизацию какой-либо общей папки.</translation>
     </message>
     <message>
         <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">Разорвать связь для этого задания синхронизации?\nЕго файлы останутся на этом компьютере и на сервере, но больше не будут синхронизироваться.</translation>
+        <translation>Удалить это задание синхронизации?\nЕго файлы останутся на этом компьютере и на сервере, но больше не будут синхронизироваться.</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
-        <translation>Запуск Quillmere…</translation>
+        <translation>Запуск Quillmere...</translation>
     </message>
     <message>
         <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Не удалось обновить Quillmere. Перезагрузите компьютер и повторите попытку.</translation>
+        <translation>Не удалось обновить Quillmere. Прежняя версия сохранена. Перезагрузите компьютер и повторите попытку. Подробности см. в ~/.Quillmere/log.</translation>
     </message>
     <message>
         <source>Exclude names that begin with a dot</source>
-        <translation type="unfinished">Исключать имена, начинающиеся с точки</translation>
+        <translation>Исключать имена, начинающиеся с точки</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -669,11 +669,11 @@
     </message>
     <message>
         <source>Connected to the server.</source>
-        <translation>Соединение с сервером установлено.</translation>
+        <translation>Подключение к серверу установлено.</translation>
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup is complete</source>
-        <translation type="unfinished">{\VerdanaBold13}Мастер установки [ProductName] завершил работу</translation>
+        <translation>{\VerdanaBold13}Работа программы установки [ProductName] завершена</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -701,7 +701,7 @@
     </message>
     <message>
         <source>Watching for file changes...</source>
-        <translation>Отслеживание изменений файлов…</translation>
+        <translation>Отслеживание изменений файлов...</translation>
     </message>
     <message>
         <source>Shared folder</source>
@@ -709,7 +709,7 @@
     </message>
     <message>
         <source>Quillmere settings</source>
-        <translation type="unfinished">Параметры клиента</translation>
+        <translation>Настройки Quillmere</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
@@ -717,11 +717,11 @@
     </message>
     <message>
         <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
-        <translation type="unfinished">Не удалось проверить SSL-сертификат сервера. Попросите администратора сервера проверить сертификат.</translation>
+        <translation>Не удалось проверить сертификат сервера: возможно, он просрочен, принадлежит другому серверу или выдан неизвестным издателем. Попросите администратора сервера проверить сертификат.</translation>
     </message>
     <message>
         <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
-        <translation type="unfinished">Это не тот сервер, с которым связано подключение. Проверьте адрес сервера или установите связь заново.</translation>
+        <translation>Это не тот сервер, к которому был подключён этот компьютер. Проверьте адрес сервера или подключитесь снова.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>Connect to another server...</source>
-        <translation type="unfinished">Связать с другим сервером</translation>
+        <translation>Подключиться к другому серверу...</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
@@ -769,11 +769,11 @@
     </message>
     <message>
         <source>[DlgTitleFont]Making changes to [ProductName]</source>
-        <translation type="unfinished">[DlgTitleFont]Настройка [ProductName]</translation>
+        <translation>[DlgTitleFont]Внесение изменений в [ProductName]</translation>
     </message>
     <message>
         <source>Service turned off</source>
-        <translation>Служба отключена</translation>
+        <translation>Служба выключена</translation>
     </message>
     <message>
         <source>Sync</source>
@@ -781,7 +781,7 @@
     </message>
     <message>
         <source>Stop syncing this shared folder?\nThe files already on this computer will be kept.</source>
-        <translation>Отключить синхронизацию этой общей папки?\nФайлы, которые уже есть на этом компьютере, сохранятся.</translation>
+        <translation>Прекратить синхронизацию этой общей папки?\nФайлы, которые уже есть на этом компьютере, сохранятся.</translation>
     </message>
     <message>
         <source>&amp;Install</source>
@@ -789,7 +789,7 @@
     </message>
     <message>
         <source>Files to exclude</source>
-        <translation type="unfinished">Фильтр файлов</translation>
+        <translation>Исключаемые файлы</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -801,7 +801,7 @@
     </message>
     <message>
         <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Произошла ошибка. Повторите попытку, а если проблема не исчезнет, обратитесь к администратору сервера.</translation>
+        <translation>Произошла ошибка. Повторите попытку, а если проблема не исчезнет, обратитесь к администратору сервера. Подробности см. в ~/.Quillmere/log.</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -821,11 +821,11 @@
     </message>
     <message>
         <source>Proxy settings</source>
-        <translation>Параметры прокси-сервера</translation>
+        <translation>Настройки прокси-сервера</translation>
     </message>
     <message>
         <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
-        <translation type="unfinished">Вы вошли в систему без прав администратора, поэтому программа Quillmere может установиться не полностью. Продолжить?</translation>
+        <translation>Вы вошли в систему не как администратор, поэтому программа Quillmere может установиться не полностью. Продолжить?</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
@@ -873,7 +873,7 @@
     </message>
     <message>
         <source>Choose another folder...</source>
-        <translation type="unfinished">Выбрать другую папку</translation>
+        <translation>Выбрать другую папку...</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -897,27 +897,27 @@
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">Разорвать связь</translation>
+        <translation>Удалить</translation>
     </message>
     <message>
         <source>Another server was found at the server address.</source>
-        <translation type="unfinished">По адресу сервера обнаружен другой сервер.</translation>
+        <translation>По адресу сервера обнаружен другой сервер.</translation>
     </message>
     <message>
         <source>Connecting to the server...</source>
-        <translation type="unfinished">Установка связи с сервером…</translation>
+        <translation>Подключение к серверу...</translation>
     </message>
     <message>
         <source>Port</source>
         <translation>Порт</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Create share link</source>
         <translation>Создать ссылку общего доступа</translation>
     </message>
     <message>
         <source>The user name or password was not accepted by the server. Edit the connection and enter them again.</source>
-        <translation>Сервер не принял имя пользователя или пароль. Измените подключение и введите их ещё раз.</translation>
+        <translation>Сервер не принял имя пользователя или пароль. Измените подключение: введите имя и пароль ещё раз.</translation>
     </message>
     <message>
         <source>Recently updated files</source>
@@ -925,11 +925,11 @@
     </message>
     <message>
         <source>Use the system proxy settings</source>
-        <translation>Использовать системные параметры прокси-сервера</translation>
+        <translation>Использовать системные настройки прокси-сервера</translation>
     </message>
     <message>
         <source>Change folder...</source>
-        <translation type="unfinished">Сменить папку</translation>
+        <translation>Сменить папку...</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -941,11 +941,11 @@
     </message>
     <message>
         <source>Downloading...</source>
-        <translation>Скачивание…</translation>
+        <translation>Скачивание...</translation>
     </message>
     <message>
         <source>File locked</source>
-        <translation type="unfinished">Файл заблокирован</translation>
+        <translation>Файл заблокирован</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -953,11 +953,11 @@
     </message>
     <message>
         <source>Preparing...</source>
-        <translation>Подготовка…</translation>
+        <translation>Подготовка...</translation>
     </message>
     <message>
         <source>Syncing files...</source>
-        <translation type="unfinished">Обновление файлов…</translation>
+        <translation>Синхронизация файлов...</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -965,11 +965,11 @@
     </message>
     <message>
         <source>Checking the user name and password...</source>
-        <translation>Проверка имени пользователя и пароля…</translation>
+        <translation>Проверка имени пользователя и пароля...</translation>
     </message>
     <message>
         <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
-        <translation type="unfinished">Подождите, пока мастер установки настроит [ProductName]. Это может занять несколько минут.</translation>
+        <translation>Подождите, пока мастер установки внесёт изменения в [ProductName]. Это может занять несколько минут.</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -997,7 +997,7 @@
     </message>
     <message>
         <source>File sharing over the relay is turned off on the server. Ask the server administrator to turn it on.</source>
-        <translation>Общий доступ к файлам через службу ретрансляции отключён на сервере. Попросите администратора сервера включить его.</translation>
+        <translation>Общий доступ к файлам через службу ретрансляции выключен на сервере. Попросите администратора сервера включить его.</translation>
     </message>
     <message>
         <source>Add</source>
@@ -1021,7 +1021,7 @@
     </message>
     <message>
         <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
-        <translation type="unfinished">Локальная папка синхронизации не найдена. Восстановите папку или выберите другую.</translation>
+        <translation>Локальная папка синхронизации не найдена. Восстановите папку или выберите другую. Путь к папке указан на странице «Задания синхронизации».</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
@@ -1029,15 +1029,15 @@
     </message>
     <message>
         <source>Add sync task...</source>
-        <translation type="unfinished">Добавить задание синхронизации</translation>
+        <translation>Добавить задание...</translation>
     </message>
     <message>
         <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
-        <translation type="unfinished">Общая папка не смонтирована на сервере. Попросите администратора сервера смонтировать её.</translation>
+        <translation>Общая папка не смонтирована на сервере. Попросите администратора сервера смонтировать её. Имя папки указано на странице «Общие папки».</translation>
     </message>
     <message>
         <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Получен неожиданный ответ сервера. Обновите клиент и сервер, затем повторите попытку.</translation>
+        <translation>Получен неожиданный ответ сервера. Обновите Quillmere на этом компьютере и попросите администратора сервера обновить Quillmere на сервере. Подробности см. в ~/.Quillmere/log.</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1053,11 +1053,11 @@
     </message>
     <message>
         <source>Checking files...</source>
-        <translation type="unfinished">Проверка данных…</translation>
+        <translation>Проверка файлов...</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
-        <translation>Попытка синхронизации…</translation>
+        <translation>Попытка синхронизации...</translation>
     </message>
     <message>
         <source>Click Install to begin the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
@@ -1065,7 +1065,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
-        <translation type="unfinished">{\VerdanaBold13}Установка [ProductName] прервана</translation>
+        <translation>{\VerdanaBold13}Работа программы установки [ProductName] прервана</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1089,11 +1089,11 @@
     </message>
     <message>
         <source>Network settings</source>
-        <translation>Параметры сети</translation>
+        <translation>Настройки сети</translation>
     </message>
     <message>
         <source>This folder is already synced with another shared folder. Choose another folder.</source>
-        <translation type="unfinished">Эта папка уже синхронизируется с другой общей папкой. Выберите другую папку.</translation>
+        <translation>Эта папка уже синхронизируется с другой общей папкой. Выберите другую папку.</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1117,7 +1117,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup did not finish</source>
-        <translation>{\VerdanaBold13}Установка [ProductName] не завершена</translation>
+        <translation>{\VerdanaBold13}Работа программы установки [ProductName] завершилась с ошибкой</translation>
     </message>
     <message>
         <source>Quillmere is already running.</source>
@@ -1133,7 +1133,7 @@
     </message>
     <message>
         <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
-        <translation type="unfinished">Сохраняются все файлы из обеих папок. Если две версии файла различаются, останутся обе.</translation>
+        <translation>Сохраняются все файлы из обеих папок. Если две версии файла различаются, сохраняются обе под разными именами.</translation>
     </message>
     <message>
         <source>Repair the installation</source>
@@ -1141,15 +1141,15 @@
     </message>
     <message>
         <source>Syncing turned on</source>
-        <translation type="unfinished">Синхронизация включена</translation>
+        <translation>Синхронизация включена</translation>
     </message>
     <message>
         <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Не удалось запустить Quillmere. Перезагрузите компьютер и запустите Quillmere снова.</translation>
+        <translation>Не удалось запустить Quillmere. Перезагрузите компьютер и запустите Quillmere снова. Подробности см. в ~/.Quillmere/log.</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
-        <translation type="unfinished">Отменить установку [ProductName]?</translation>
+        <source>Cancel [ProductName] setup?</source>
+        <translation>Прервать работу программы установки [ProductName]?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1169,11 +1169,11 @@
     </message>
     <message>
         <source>Advanced settings</source>
-        <translation>Дополнительные параметры</translation>
+        <translation>Дополнительные настройки</translation>
     </message>
     <message>
         <source>Browse versions...</source>
-        <translation type="unfinished">Просмотреть версии</translation>
+        <translation>Просмотреть версии...</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
@@ -1181,19 +1181,19 @@
     </message>
     <message>
         <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
-        <translation type="unfinished">Это подключение неактивно. Чтобы продолжить синхронизацию, установите связь заново.</translation>
+        <translation>Этот компьютер отключён от сервера. Чтобы продолжить синхронизацию, подключитесь снова.</translation>
     </message>
     <message>
         <source>Detecting...</source>
-        <translation>Определение…</translation>
+        <translation>Определение...</translation>
     </message>
     <message>
         <source>Certificate warning</source>
-        <translation type="unfinished">Предупреждение SSL</translation>
+        <translation>Предупреждение о сертификате</translation>
     </message>
     <message>
         <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
-        <translation type="unfinished">Служба ретрансляции недоступна. Проверьте подключение к Интернету и повторите попытку.</translation>
+        <translation>Служба ретрансляции недоступна. Проверьте подключение к интернету и повторите попытку.</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
@@ -1201,7 +1201,7 @@
     </message>
     <message>
         <source>Downloading %1...</source>
-        <translation>Скачивание файла «%1»…</translation>
+        <translation>Скачивание файла «%1»...</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
@@ -1213,7 +1213,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]You canceled setup, and your computer was not changed.</source>
-        <translation>[DlgTitleFont]Установка отменена, на компьютере ничего не изменено.</translation>
+        <translation>[DlgTitleFont]Вы прервали работу программы установки. На компьютере ничего не изменено.</translation>
     </message>
     <message>
         <source>The port number is not valid. Enter a number from 1 to 65535.</source>
@@ -1233,23 +1233,23 @@
     </message>
     <message>
         <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
-        <translation type="unfinished">Том сервера, на котором находится эта папка, не смонтирован. Попросите администратора сервера смонтировать его.</translation>
+        <translation>Диск на сервере, содержащий эту папку, не смонтирован. Попросите администратора сервера смонтировать этот диск. Папка указана на странице «Задания синхронизации».</translation>
     </message>
     <message>
         <source>This version of Quillmere is already installed. Install it again?</source>
-        <translation type="unfinished">Эта версия Quillmere уже установлена. Установить её ещё раз?</translation>
+        <translation>Эта версия Quillmere уже установлена. Установить её ещё раз?</translation>
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
-        <translation type="unfinished">Версия этого клиента слишком старая для сервера. Обновите клиент и повторите попытку.</translation>
+        <translation>Версия Quillmere на этом компьютере слишком старая для работы с сервером. Обновите программу и повторите попытку.</translation>
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer.</source>
-        <translation type="unfinished">Версия сервера слишком старая для этого клиента.</translation>
+        <translation>Версия Quillmere на сервере слишком старая для работы с этим компьютером.</translation>
     </message>
     <message>
         <source>Turned off</source>
-        <translation type="unfinished">Отключено</translation>
+        <translation>Выключено</translation>
     </message>
 </context>
 </TS>

@@ -41,11 +41,11 @@
     </message>
     <message>
         <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Den lokala databasen är skadad. Avlänka anslutningen och länka den igen för att återskapa databasen.</translation>
+        <translation>Den lokala databasen är skadad. Koppla från servern och anslut sedan igen för att återskapa databasen. Mer information finns i ~/.Quillmere/log.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
-        <translation>&amp;Stäng programmen och starta dem igen efter installationen</translation>
+        <translation>&amp;Stäng programmen och starta dem igen efteråt</translation>
     </message>
     <message>
         <source>The folder is a mount point. Choose a folder that is not a mount point.</source>
@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>The server has been replaced. Click here to reconnect.</source>
-        <translation type="unfinished">Servern har bytts ut. Klicka här för att länka igen.</translation>
+        <translation>Servern har bytts ut. Klicka här för att ansluta igen.</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -69,7 +69,7 @@
     </message>
     <message>
         <source>Exclusion list</source>
-        <translation type="unfinished">Blockeringslista</translation>
+        <translation>Uteslutningslista</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
@@ -77,11 +77,11 @@
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server.</source>
-        <translation type="unfinished">Klienten är för gammal för servern.</translation>
+        <translation>Quillmere på den här datorn är för gammalt för att fungera med servern.</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
-        <translation>Installation av [ProductName]</translation>
+        <translation>Installationsprogram för [ProductName]</translation>
     </message>
     <message>
         <source>Sign-in failed</source>
@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
-        <translation type="unfinished">Serverns SSL-certifikat är inte betrott, och andra kan därför eventuellt läsa de data du skickar. Vill du fortsätta?</translation>
+        <translation>Serverns certifikat är inte betrott: det kan ha upphört att gälla, tillhöra en annan server eller komma från en okänd utfärdare. Andra kan eventuellt läsa de data som du skickar. Vill du fortsätta?</translation>
     </message>
     <message>
         <source>New shared folder</source>
@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>About Quillmere</source>
-        <translation type="unfinished">Om</translation>
+        <translation>Om Quillmere</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
-        <translation type="unfinished">Den här datorn är redan länkad till servern. Redigera den befintliga anslutningen eller ange en annan server.</translation>
+        <translation>Den här datorn är redan ansluten till den här servern. Redigera den befintliga anslutningen eller ange en annan server.</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -133,11 +133,11 @@
     </message>
     <message>
         <source>The certificate of the server could not be verified.</source>
-        <translation type="unfinished">Serverns SSL-certifikat kunde inte verifieras.</translation>
+        <translation>Serverns certifikat kunde inte verifieras.</translation>
     </message>
     <message>
         <source>Use a black-and-white tray icon</source>
-        <translation type="unfinished">Använd en svartvit ikon i systemfältet</translation>
+        <translation>Använd en svartvit ikon i systemfältet</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -153,7 +153,7 @@
     </message>
     <message>
         <source>Excluded files</source>
-        <translation type="unfinished">Blockerade filer</translation>
+        <translation>Uteslutna filer</translation>
     </message>
     <message>
         <source>No permission</source>
@@ -161,11 +161,11 @@
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
-        <translation type="unfinished">Servern är för gammal för klienten. Be serveradministratören att uppgradera servern.</translation>
+        <translation>Quillmere på servern är för gammalt för att fungera med den här datorn. Be serveradministratören att uppgradera Quillmere.</translation>
     </message>
     <message>
         <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
-        <translation type="unfinished">Kör installationen igen senare om du vill göra ett nytt försök. Klicka på Slutför för att avsluta installationsguiden.</translation>
+        <translation>Du kan köra installationsprogrammet igen när som helst. Klicka på Slutför för att avsluta installationsguiden.</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -177,11 +177,11 @@
     </message>
     <message>
         <source>Click Repair to repair the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
-        <translation>Klicka på Reparera för att reparera installationen av [ProductName]. Klicka på Bakåt för att granska dina val eller på Avbryt för att avsluta installationsguiden.</translation>
+        <translation>Klicka på Reparera för att reparera installationen av [ProductName]. Klicka på Tillbaka för att granska dina val eller på Avbryt för att avsluta installationsguiden.</translation>
     </message>
     <message>
         <source>Some settings have not been saved. Save them?</source>
-        <translation type="unfinished">Vissa inställningar har inte sparats. Vill du spara dem?</translation>
+        <translation>Vissa inställningar har inte sparats. Vill du spara dem?</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -193,7 +193,7 @@
     </message>
     <message>
         <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
-        <translation type="unfinished">Mappen används redan av ett annat synkroniseringsprogram. Välj en annan mapp för att undvika konflikter.</translation>
+        <translation>Mappen används redan av ett annat synkroniseringsprogram. Välj en annan mapp för att undvika konflikter.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -205,15 +205,15 @@
     </message>
     <message>
         <source>Change sync folder</source>
-        <translation type="unfinished">Byt synkroniseringsmapp</translation>
+        <translation>Byt synkroniseringsmapp</translation>
     </message>
     <message>
         <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
-        <translation type="unfinished">Ange ett fullständigt filnamn utan mappsökväg.</translation>
+        <translation>Ange ett fullständigt filnamn utan mappsökväg, till exempel thumbs.db.</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
-        <translation type="unfinished">[DlgTitleFont]Ett fel stoppade installationen, och ändringarna har ångrats.</translation>
+        <translation>[DlgTitleFont]Installationsprogrammet stoppades av ett fel. Ändringarna som det hade gjort har ångrats.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -241,7 +241,7 @@
     </message>
     <message>
         <source>Use an encrypted connection (TLS)</source>
-        <translation type="unfinished">Kryptera dataöverföringen med SSL</translation>
+        <translation>Använd en krypterad anslutning (TLS)</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -273,19 +273,19 @@
     </message>
     <message>
         <source>This file has no earlier versions yet. Change the file and let it sync to create one.</source>
-        <translation>Den här filen har inga tidigare versioner än. Om du ändrar filen och låter den synkroniseras skapas en.</translation>
+        <translation>Det finns ännu inga tidigare versioner av filen. Ändra filen och låt den synkroniseras, så skapas en.</translation>
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished">Avlänka</translation>
+        <translation>Koppla från</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation>Bakåt</translation>
+        <translation>Tillbaka</translation>
     </message>
     <message>
         <source>Quillmere is initializing...</source>
-        <translation>Quillmere initieras...</translation>
+        <translation>Initierar Quillmere...</translation>
     </message>
     <message>
         <source>Start now</source>
@@ -313,11 +313,11 @@
     </message>
     <message>
         <source>Applying the settings...</source>
-        <translation>Tillämpar inställningarna...</translation>
+        <translation>Verkställer inställningarna...</translation>
     </message>
     <message>
         <source>Files excluded from syncing</source>
-        <translation type="unfinished">Filer som inte synkroniseras</translation>
+        <translation>Filer som utesluts från synkronisering</translation>
     </message>
     <message>
         <source>Created</source>
@@ -333,7 +333,7 @@
     </message>
     <message>
         <source>Choose shared folders to sync</source>
-        <translation type="unfinished">Välj vilka delade mappar som ska synkroniseras</translation>
+        <translation>Välj delade mappar att synkronisera</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -361,7 +361,7 @@
     </message>
     <message>
         <source>Excluded file extensions</source>
-        <translation type="unfinished">Blockerade filnamnstillägg</translation>
+        <translation>Uteslutna filnamnstillägg</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -377,7 +377,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
-        <translation type="unfinished">Volymen som innehåller synkroniseringsmappen är inte monterad. Montera volymen och återuppta sedan synkroniseringen.</translation>
+        <translation>Disken som innehåller synkroniseringsmappen är inte monterad. Montera disken och återuppta sedan synkroniseringen. Mappen visas under Synkroniseringsuppgifter.</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is full.</source>
-        <translation type="unfinished">Det finns inget ledigt diskutrymme på den här datorn.</translation>
+        <translation>Disken som innehåller synkroniseringsmappen är full.</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -401,7 +401,7 @@
     </message>
     <message>
         <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
-        <translation type="unfinished">Det finns redan en mapp med det här namnet. Vill du slå samman dess filer med filerna på servern?</translation>
+        <translation>Det finns redan en mapp med det här namnet på den här datorn. Vill du slå samman dess filer med filerna på servern?</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
@@ -449,11 +449,11 @@
     </message>
     <message>
         <source>Files being synced: %1</source>
-        <translation type="unfinished">Synkroniserar filer (%1)...</translation>
+        <translation>Filer som synkroniseras: %1</translation>
     </message>
     <message>
         <source>Reconnect</source>
-        <translation type="unfinished">Länka igen</translation>
+        <translation>Anslut igen</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -473,15 +473,15 @@
     </message>
     <message>
         <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
-        <translation type="unfinished">Mapparna och filerna som du avmarkerade tas bort från den här datorn. De finns kvar på servern.</translation>
+        <translation>Mapparna och filerna som du avmarkerade tas bort från den här datorn. De finns kvar på servern.</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
-        <translation>Alla ändringar som du valde har genomförts. Klicka på Slutför för att avsluta installationsguiden.</translation>
+        <translation>Installationsprogrammet har genomfört alla ändringar som du valde. Klicka på Slutför för att avsluta installationsguiden.</translation>
     </message>
     <message>
         <source>Click Remove to remove [ProductName] from your computer. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
-        <translation>Klicka på Ta bort för att ta bort [ProductName] från datorn. Klicka på Bakåt för att granska dina val eller på Avbryt för att avsluta installationsguiden.</translation>
+        <translation>Klicka på Ta bort för att ta bort [ProductName] från datorn. Klicka på Tillbaka för att granska dina val eller på Avbryt för att avsluta installationsguiden.</translation>
     </message>
     <message>
         <source>No space left</source>
@@ -489,19 +489,19 @@
     </message>
     <message>
         <source>Disconnected</source>
-        <translation type="unfinished">Inaktiv</translation>
+        <translation>Frånkopplad</translation>
     </message>
     <message>
         <source>You have used all of your space on the server.</source>
-        <translation type="unfinished">Din kvot på servern är full.</translation>
+        <translation>Du har använt allt ditt utrymme på servern.</translation>
     </message>
     <message>
         <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">Vill du avlänka anslutningen?\nDina filer finns kvar på den här datorn och på servern, men de synkroniseras inte längre.</translation>
+        <translation>Vill du koppla från servern?\nDina filer finns kvar på den här datorn och på servern, men de synkroniseras inte längre.</translation>
     </message>
     <message>
         <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
-        <translation type="unfinished">Ett problem uppstod i relätjänsten. Försök igen senare eller anslut med serverns IP-adress.</translation>
+        <translation>Ett problem uppstod i relätjänsten. Försök igen senare eller anslut till servern med dess IP-adress.</translation>
     </message>
     <message>
         <source>Server ID</source>
@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>Excluded file names</source>
-        <translation type="unfinished">Blockerade filnamn</translation>
+        <translation>Uteslutna filnamn</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -521,11 +521,11 @@
     </message>
     <message>
         <source>Turned on</source>
-        <translation type="unfinished">Aktiverad</translation>
+        <translation>På</translation>
     </message>
     <message>
         <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
-        <translation type="unfinished">Det finns inget ledigt diskutrymme på den här datorn. Frigör utrymme för att fortsätta synkronisera.</translation>
+        <translation>Disken som innehåller synkroniseringsmappen är full. Frigör utrymme på den för att fortsätta synkronisera.</translation>
     </message>
     <message>
         <source>Folders to sync</source>
@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>Choose sync folder</source>
-        <translation type="unfinished">Välj en synkroniseringsmapp</translation>
+        <translation>Välj synkroniseringsmapp</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -549,7 +549,7 @@
     </message>
     <message>
         <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
-        <translation type="unfinished">Din kvot på servern är full. Ta bort filer som du inte behöver eller be serveradministratören om en större kvot.</translation>
+        <translation>Du har använt allt ditt utrymme på servern. Ta bort filer som du inte behöver eller be serveradministratören om mer utrymme.</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
@@ -565,11 +565,11 @@
     </message>
     <message>
         <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
-        <translation type="unfinished">Den här filen har ändrats på två ställen. Jämför de båda kopiorna och behåll den som du behöver.</translation>
+        <translation>Den här filen har ändrats både på den här datorn och på servern. Båda kopiorna finns i samma mapp under olika namn. Jämför dem och behåll den som du behöver.</translation>
     </message>
     <message>
         <source>All your files on every computer, kept on your own server</source>
-        <translation type="unfinished">En enda plats för dina filer på alla datorer, via din egen server</translation>
+        <translation>Alla dina filer på alla datorer, lagrade på din egen server</translation>
     </message>
     <message>
         <source>OK</source>
@@ -581,7 +581,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
-        <translation type="unfinished">Följande program använder filer som behöver uppdateras under installationen. Stäng programmen och klicka på Försök igen, klicka på Ignorera för att fortsätta utan att stänga dem eller klicka på Avsluta för att lämna installationen.</translation>
+        <translation>Följande program använder filer som installationsprogrammet behöver uppdatera. Stäng dem och klicka sedan på Försök igen. Klicka på Ignorera för att fortsätta utan att stänga dem. Klicka på Avsluta för att avsluta installationsprogrammet.</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -597,7 +597,7 @@
     </message>
     <message>
         <source>Edit connection...</source>
-        <translation type="unfinished">Redigera anslutning</translation>
+        <translation>Redigera anslutning...</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Choose whether setup should close them. If they stay open, you need to restart the computer to finish setup.</source>
-        <translation>Följande program använder filer som behöver uppdateras under installationen. Välj om installationsguiden ska stänga dem. Om de förblir öppna måste du starta om datorn för att slutföra installationen.</translation>
+        <translation>Följande program använder filer som installationsprogrammet behöver uppdatera. Välj om installationsprogrammet ska stänga dem. Om de förblir öppna måste du starta om datorn för att slutföra ändringarna.</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the repair.</source>
@@ -617,7 +617,7 @@
     </message>
     <message>
         <source>Please restart %1 to apply the new language settings.</source>
-        <translation>Starta om %1 för att tillämpa de nya språkinställningarna.</translation>
+        <translation>Starta om %1 för att verkställa de nya språkinställningarna.</translation>
     </message>
     <message>
         <source>Pause</source>
@@ -625,7 +625,7 @@
     </message>
     <message>
         <source>Show icon overlays on excluded files</source>
-        <translation type="unfinished">Visa ikonöverlägg på filtrerade filer</translation>
+        <translation>Visa ikonöverlägg på uteslutna filer</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -633,11 +633,11 @@
     </message>
     <message>
         <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
-        <translation type="unfinished">Det högsta antalet delade mappar som kan synkroniseras är %1. Sluta synkronisera en av dem innan du lägger till en ny.</translation>
+        <translation>Gränsen för antalet synkroniserade delade mappar är nådd: %1. Sluta synkronisera en delad mapp innan du lägger till en annan.</translation>
     </message>
     <message>
         <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">Vill du avlänka synkroniseringsuppgiften?\nDess filer finns kvar på den här datorn och på servern, men de synkroniseras inte längre.</translation>
+        <translation>Vill du ta bort synkroniseringsuppgiften?\nDess filer finns kvar på den här datorn och på servern, men de synkroniseras inte längre.</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
@@ -645,11 +645,11 @@
     </message>
     <message>
         <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Det gick inte att uppgradera Quillmere. Starta om datorn och försök igen.</translation>
+        <translation>Det gick inte att uppgradera Quillmere. Din tidigare version finns kvar. Starta om datorn och försök igen. Mer information finns i ~/.Quillmere/log.</translation>
     </message>
     <message>
         <source>Exclude names that begin with a dot</source>
-        <translation type="unfinished">Blockera namn som börjar med en punkt</translation>
+        <translation>Uteslut namn som börjar med en punkt</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -673,7 +673,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup is complete</source>
-        <translation type="unfinished">{\VerdanaBold13}Installationsguiden för [ProductName] är klar</translation>
+        <translation>{\VerdanaBold13}Installationsprogrammet för [ProductName] är klart</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -709,7 +709,7 @@
     </message>
     <message>
         <source>Quillmere settings</source>
-        <translation type="unfinished">Klientalternativ</translation>
+        <translation>Inställningar för Quillmere</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
@@ -717,11 +717,11 @@
     </message>
     <message>
         <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
-        <translation type="unfinished">Serverns SSL-certifikat kunde inte verifieras. Be serveradministratören att kontrollera certifikatet.</translation>
+        <translation>Serverns certifikat kunde inte verifieras: det kan ha upphört att gälla, tillhöra en annan server eller komma från en okänd utfärdare. Be serveradministratören att kontrollera certifikatet.</translation>
     </message>
     <message>
         <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
-        <translation type="unfinished">Det här är inte servern som anslutningen länkades till. Kontrollera serveradressen eller länka igen.</translation>
+        <translation>Det här är inte servern som den här datorn var ansluten till. Kontrollera serveradressen eller anslut igen.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>Connect to another server...</source>
-        <translation type="unfinished">Länka till en annan server</translation>
+        <translation>Anslut till en annan server...</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]Making changes to [ProductName]</source>
-        <translation type="unfinished">[DlgTitleFont]Konfigurerar [ProductName]</translation>
+        <translation>[DlgTitleFont]Gör ändringar i [ProductName]</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -789,7 +789,7 @@
     </message>
     <message>
         <source>Files to exclude</source>
-        <translation type="unfinished">Filfilter</translation>
+        <translation>Filer att utesluta</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -797,11 +797,11 @@
     </message>
     <message>
         <source>I &amp;do not accept the terms of the license agreement</source>
-        <translation>Jag godkänner &amp;inte villkoren i licensavtalet</translation>
+        <translation>Jag godkänner in&amp;te villkoren i licensavtalet</translation>
     </message>
     <message>
         <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Något gick fel. Försök igen och kontakta serveradministratören om problemet kvarstår.</translation>
+        <translation>Något gick fel. Försök igen och kontakta serveradministratören om problemet kvarstår. Mer information finns i ~/.Quillmere/log.</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -817,7 +817,7 @@
     </message>
     <message>
         <source>&amp;Back</source>
-        <translation>&amp;Bakåt</translation>
+        <translation>Till&amp;baka</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -825,7 +825,7 @@
     </message>
     <message>
         <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
-        <translation type="unfinished">Du är inte inloggad som administratör, så Quillmere kanske inte installeras fullständigt. Vill du fortsätta?</translation>
+        <translation>Du är inte inloggad som administratör, så Quillmere kanske inte installeras fullständigt. Vill du fortsätta?</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
@@ -861,7 +861,7 @@
     </message>
     <message>
         <source>Lets you choose which features are installed.</source>
-        <translation>Låter dig välja vilka funktioner som installeras.</translation>
+        <translation>Här kan du välja vilka funktioner som ska installeras.</translation>
     </message>
     <message>
         <source>Folder name</source>
@@ -873,7 +873,7 @@
     </message>
     <message>
         <source>Choose another folder...</source>
-        <translation type="unfinished">Välj en annan mapp</translation>
+        <translation>Välj en annan mapp...</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -897,22 +897,22 @@
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">Avlänka</translation>
+        <translation>Ta bort</translation>
     </message>
     <message>
         <source>Another server was found at the server address.</source>
-        <translation type="unfinished">En annan server hittades på serveradressen.</translation>
+        <translation>En annan server hittades på serveradressen.</translation>
     </message>
     <message>
         <source>Connecting to the server...</source>
-        <translation type="unfinished">Länkar till servern...</translation>
+        <translation>Ansluter till servern...</translation>
     </message>
     <message>
         <source>Port</source>
         <translation>Port</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Create share link</source>
         <translation>Skapa delningslänk</translation>
     </message>
     <message>
@@ -929,7 +929,7 @@
     </message>
     <message>
         <source>Change folder...</source>
-        <translation type="unfinished">Byt mapp</translation>
+        <translation>Byt mapp...</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -945,7 +945,7 @@
     </message>
     <message>
         <source>File locked</source>
-        <translation type="unfinished">Filen är låst</translation>
+        <translation>Filen är låst</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -957,7 +957,7 @@
     </message>
     <message>
         <source>Syncing files...</source>
-        <translation type="unfinished">Uppdaterar filer...</translation>
+        <translation>Synkroniserar filer...</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -969,7 +969,7 @@
     </message>
     <message>
         <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
-        <translation type="unfinished">Vänta medan installationsguiden konfigurerar [ProductName]. Det kan ta flera minuter.</translation>
+        <translation>Vänta medan installationsguiden gör ändringarna i [ProductName]. Det kan ta flera minuter.</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -993,7 +993,7 @@
     </message>
     <message>
         <source>Syncing could not be turned on for this shared folder. Check your permissions on the server, then try again.</source>
-        <translation>Det gick inte att aktivera synkronisering för den här delade mappen. Kontrollera dina behörigheter på servern och försök igen.</translation>
+        <translation>Det gick inte att slå på synkroniseringen för den här delade mappen. Kontrollera dina behörigheter på servern och försök igen.</translation>
     </message>
     <message>
         <source>File sharing over the relay is turned off on the server. Ask the server administrator to turn it on.</source>
@@ -1021,7 +1021,7 @@
     </message>
     <message>
         <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
-        <translation type="unfinished">Den lokala synkroniseringsmappen hittades inte. Återställ mappen eller välj en annan.</translation>
+        <translation>Den lokala synkroniseringsmappen hittades inte. Återställ mappen eller välj en annan mapp. Sökvägen visas under Synkroniseringsuppgifter.</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
@@ -1029,15 +1029,15 @@
     </message>
     <message>
         <source>Add sync task...</source>
-        <translation type="unfinished">Lägg till synkroniseringsuppgift</translation>
+        <translation>Lägg till uppgift...</translation>
     </message>
     <message>
         <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
-        <translation type="unfinished">Den delade mappen är inte monterad på servern. Be serveradministratören att montera den.</translation>
+        <translation>Den delade mappen är inte monterad på servern. Be serveradministratören att montera den. Namnet visas under Delade mappar.</translation>
     </message>
     <message>
         <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Servern skickade ett oväntat svar. Uppgradera klienten och servern och försök igen.</translation>
+        <translation>Servern skickade ett oväntat svar. Uppgradera Quillmere på den här datorn och be serveradministratören att uppgradera Quillmere på servern. Mer information finns i ~/.Quillmere/log.</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1053,7 +1053,7 @@
     </message>
     <message>
         <source>Checking files...</source>
-        <translation type="unfinished">Kontrollerar data...</translation>
+        <translation>Kontrollerar filer...</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
@@ -1061,11 +1061,11 @@
     </message>
     <message>
         <source>Click Install to begin the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
-        <translation>Klicka på Installera för att påbörja installationen av [ProductName]. Klicka på Bakåt för att granska dina val eller på Avbryt för att avsluta installationsguiden.</translation>
+        <translation>Klicka på Installera för att påbörja installationen av [ProductName]. Klicka på Tillbaka för att granska dina val eller på Avbryt för att avsluta installationsguiden.</translation>
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
-        <translation type="unfinished">{\VerdanaBold13}Installationen av [ProductName] avbröts</translation>
+        <translation>{\VerdanaBold13}Installationsprogrammet för [ProductName] avbröts</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1093,7 +1093,7 @@
     </message>
     <message>
         <source>This folder is already synced with another shared folder. Choose another folder.</source>
-        <translation type="unfinished">Den här mappen synkroniseras redan med en annan delad mapp. Välj en annan mapp.</translation>
+        <translation>Den här mappen synkroniseras redan med en annan delad mapp. Välj en annan mapp.</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1117,7 +1117,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup did not finish</source>
-        <translation>{\VerdanaBold13}Installationen av [ProductName] slutfördes inte</translation>
+        <translation>{\VerdanaBold13}Installationsprogrammet för [ProductName] slutfördes inte</translation>
     </message>
     <message>
         <source>Quillmere is already running.</source>
@@ -1133,7 +1133,7 @@
     </message>
     <message>
         <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
-        <translation type="unfinished">Alla filer från båda mapparna behålls. Om två versioner av en fil skiljer sig åt får du båda.</translation>
+        <translation>Alla filer från båda mapparna behålls. Om två versioner av en fil skiljer sig åt behålls båda under olika namn.</translation>
     </message>
     <message>
         <source>Repair the installation</source>
@@ -1141,15 +1141,15 @@
     </message>
     <message>
         <source>Syncing turned on</source>
-        <translation type="unfinished">Synkronisering aktiverad</translation>
+        <translation>Synkroniseringen är på</translation>
     </message>
     <message>
         <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Quillmere kunde inte startas. Starta om datorn och starta sedan Quillmere igen.</translation>
+        <translation>Quillmere kunde inte startas. Starta om datorn och starta sedan Quillmere igen. Mer information finns i ~/.Quillmere/log.</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
-        <translation type="unfinished">Vill du avbryta installationen av [ProductName]?</translation>
+        <source>Cancel [ProductName] setup?</source>
+        <translation>Vill du avbryta installationsprogrammet för [ProductName]?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1161,7 +1161,7 @@
     </message>
     <message>
         <source>Quillmere is set up</source>
-        <translation>Quillmere är klart att använda</translation>
+        <translation>Quillmere är konfigurerat</translation>
     </message>
     <message>
         <source>Language</source>
@@ -1173,7 +1173,7 @@
     </message>
     <message>
         <source>Browse versions...</source>
-        <translation type="unfinished">Bläddra bland versioner</translation>
+        <translation>Bläddra bland versioner...</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
@@ -1181,7 +1181,7 @@
     </message>
     <message>
         <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
-        <translation type="unfinished">Den här anslutningen är inaktiv. Länka den igen för att fortsätta synkronisera.</translation>
+        <translation>Den här datorn är frånkopplad från servern. Anslut igen för att fortsätta synkronisera.</translation>
     </message>
     <message>
         <source>Detecting...</source>
@@ -1189,11 +1189,11 @@
     </message>
     <message>
         <source>Certificate warning</source>
-        <translation type="unfinished">SSL-varning</translation>
+        <translation>Certifikatvarning</translation>
     </message>
     <message>
         <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
-        <translation type="unfinished">Relätjänsten kan inte nås. Kontrollera internetanslutningen och försök igen.</translation>
+        <translation>Relätjänsten kan inte nås. Kontrollera internetanslutningen och försök igen.</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
@@ -1213,7 +1213,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]You canceled setup, and your computer was not changed.</source>
-        <translation>[DlgTitleFont]Du avbröt installationen, och datorn har inte ändrats.</translation>
+        <translation>[DlgTitleFont]Du avbröt installationsprogrammet, och datorn har inte ändrats.</translation>
     </message>
     <message>
         <source>The port number is not valid. Enter a number from 1 to 65535.</source>
@@ -1221,7 +1221,7 @@
     </message>
     <message>
         <source>Quillmere cannot watch for changes on a network drive. Choose a folder on a local drive.</source>
-        <translation>Quillmere kan inte bevaka ändringar på en nätverksenhet. Välj en mapp på en lokal enhet.</translation>
+        <translation>Quillmere kan inte bevaka ändringar på en nätverksdisk. Välj en mapp på en lokal disk.</translation>
     </message>
     <message>
         <source>Remove the installation</source>
@@ -1233,23 +1233,23 @@
     </message>
     <message>
         <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
-        <translation type="unfinished">Servervolymen som innehåller den här mappen är inte monterad. Be serveradministratören att montera den.</translation>
+        <translation>Disken på servern som innehåller den här mappen är inte monterad. Be serveradministratören att montera den. Mappen visas under Synkroniseringsuppgifter.</translation>
     </message>
     <message>
         <source>This version of Quillmere is already installed. Install it again?</source>
-        <translation type="unfinished">Den här versionen av Quillmere är redan installerad. Vill du installera den igen?</translation>
+        <translation>Den här versionen av Quillmere är redan installerad. Vill du installera den igen?</translation>
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
-        <translation type="unfinished">Klienten är för gammal för servern. Uppgradera klienten och försök igen.</translation>
+        <translation>Quillmere på den här datorn är för gammalt för att fungera med servern. Uppgradera Quillmere och försök igen.</translation>
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer.</source>
-        <translation type="unfinished">Servern är för gammal för klienten.</translation>
+        <translation>Quillmere på servern är för gammalt för att fungera med den här datorn.</translation>
     </message>
     <message>
         <source>Turned off</source>
-        <translation type="unfinished">Inaktiverad</translation>
+        <translation>Av</translation>
     </message>
 </context>
 </TS>

@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>Processing...</source>
-        <translation>İşleniyor…</translation>
+        <translation>İşleniyor...</translation>
     </message>
     <message>
         <source>Exit</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>The local database is damaged. Disconnect from the server, then reconnect to rebuild the database. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Yerel veri tabanı zarar görmüş. Veri tabanını yeniden oluşturmak için bağlantının eşleştirmesini kaldırın, ardından bağlantıyı yeniden eşleştirin.</translation>
+        <translation>Yerel veri tabanı zarar görmüş. Veri tabanını yeniden oluşturmak için sunucu bağlantısını kesin, ardından yeniden bağlanın. Ayrıntılar ~/.Quillmere/log içinde.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them after setup</source>
@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>The server has been replaced. Click here to reconnect.</source>
-        <translation type="unfinished">Sunucu değiştirilmiş. Yeniden eşleştirmek için buraya tıklayın.</translation>
+        <translation>Sunucu değiştirilmiş. Yeniden bağlanmak için buraya tıklayın.</translation>
     </message>
     <message>
         <source>Currently syncing %1 files.</source>
@@ -65,11 +65,11 @@
     </message>
     <message>
         <source>The Setup Wizard lets you change, repair, or remove [ProductName]. Click Next to continue, or click Cancel to exit the Setup Wizard.</source>
-        <translation>Kurulum sihirbazı [ProductName] uygulamasını değiştirmenizi, onarmanızı veya kaldırmanızı sağlar. Devam etmek için “İleri” düğmesine, kurulum sihirbazından çıkmak için “İptal” düğmesine tıklayın.</translation>
+        <translation>Kurulum sihirbazı [ProductName] uygulamasını değiştirmenizi, onarmanızı veya kaldırmanızı sağlar. Devam etmek için “Sonraki” düğmesine, kurulum sihirbazından çıkmak için “İptal” düğmesine tıklayın.</translation>
     </message>
     <message>
         <source>Exclusion list</source>
-        <translation type="unfinished">Hariç tutma listesi</translation>
+        <translation>Hariç tutma listesi</translation>
     </message>
     <message>
         <source>Delete this share link?\nPeople who have the link will no longer be able to open the file.</source>
@@ -77,11 +77,11 @@
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server.</source>
-        <translation type="unfinished">Bu istemci, sunucu için çok eski.</translation>
+        <translation>Bu bilgisayardaki Quillmere, sunucuyla çalışmak için çok eski.</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
-        <translation>[ProductName] Kurulumu</translation>
+        <translation>[ProductName] kurulumu</translation>
     </message>
     <message>
         <source>Sign-in failed</source>
@@ -93,11 +93,11 @@
     </message>
     <message>
         <source>Testing the connection...</source>
-        <translation>Bağlantı sınanıyor…</translation>
+        <translation>Bağlantı sınanıyor...</translation>
     </message>
     <message>
         <source>The certificate of the server is not trusted: it may have expired, belong to another server, or come from an unknown issuer. Others may be able to read the data you send. Continue?</source>
-        <translation type="unfinished">Sunucunun SSL sertifikası güvenilir değil, bu nedenle gönderdiğiniz verileri başkaları okuyabilir. Devam etmek istiyor musunuz?</translation>
+        <translation>Sunucunun sertifikası güvenilir değil: süresi dolmuş, başka bir sunucuya ait veya bilinmeyen bir yayımcıdan gelmiş olabilir. Gönderdiğiniz verileri başkaları okuyabilir. Devam edilsin mi?</translation>
     </message>
     <message>
         <source>New shared folder</source>
@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>About Quillmere</source>
-        <translation type="unfinished">Hakkında</translation>
+        <translation>Quillmere Hakkında</translation>
     </message>
     <message>
         <source>Check the settings below, then click Done.</source>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>This computer is already connected to this server. Edit the existing connection, or enter another server.</source>
-        <translation type="unfinished">Bu bilgisayar bu sunucuyla zaten eşleştirilmiş. Var olan bağlantıyı düzenleyin veya farklı bir sunucu girin.</translation>
+        <translation>Bu bilgisayar bu sunucuya zaten bağlı. Var olan bağlantıyı düzenleyin veya başka bir sunucu girin.</translation>
     </message>
     <message>
         <source>Download history</source>
@@ -129,15 +129,15 @@
     </message>
     <message>
         <source>The connection to the server was lost. Check the network connection, then try again.</source>
-        <translation>Sunucu bağlantısı kesildi. Ağ bağlantısını denetleyip yeniden deneyin.</translation>
+        <translation>Sunucu bağlantısı koptu. Ağ bağlantısını denetleyip yeniden deneyin.</translation>
     </message>
     <message>
         <source>The certificate of the server could not be verified.</source>
-        <translation type="unfinished">Sunucunun SSL sertifikası doğrulanamadı.</translation>
+        <translation>Sunucunun sertifikası doğrulanamadı.</translation>
     </message>
     <message>
         <source>Use a black-and-white tray icon</source>
-        <translation type="unfinished">Siyah beyaz sistem tepsisi simgesi kullan</translation>
+        <translation>Siyah beyaz sistem tepsisi simgesi kullan</translation>
     </message>
     <message>
         <source>The files in this folder will be synced with the server.</source>
@@ -153,7 +153,7 @@
     </message>
     <message>
         <source>Excluded files</source>
-        <translation type="unfinished">Hariç tutulan dosyalar</translation>
+        <translation>Hariç tutulan dosyalar</translation>
     </message>
     <message>
         <source>No permission</source>
@@ -161,11 +161,11 @@
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer. Ask the server administrator to upgrade it.</source>
-        <translation type="unfinished">Sunucu bu istemci için çok eski. Sunucu yöneticisinden sunucuyu yükseltmesini isteyin.</translation>
+        <translation>Sunucudaki Quillmere, bu bilgisayarla çalışmak için çok eski. Sunucu yöneticisinden Quillmere uygulamasını yükseltmesini isteyin.</translation>
     </message>
     <message>
         <source>You can run setup again at any time. Click Finish to exit the Setup Wizard.</source>
-        <translation type="unfinished">Yeniden denemek için kurulumu daha sonra tekrar çalıştırın. Kurulum sihirbazından çıkmak için “Bitir” düğmesine tıklayın.</translation>
+        <translation>Kurulumu istediğiniz zaman yeniden çalıştırabilirsiniz. Kurulum sihirbazından çıkmak için “Bitir” düğmesine tıklayın.</translation>
     </message>
     <message>
         <source>The connection to the server is unstable.</source>
@@ -181,7 +181,7 @@
     </message>
     <message>
         <source>Some settings have not been saved. Save them?</source>
-        <translation type="unfinished">Bazı ayarlar kaydedilmedi. Bunları kaydetmek istiyor musunuz?</translation>
+        <translation>Bazı ayarlar kaydedilmedi. Kaydedilsin mi?</translation>
     </message>
     <message>
         <source>Icon overlays on files</source>
@@ -193,7 +193,7 @@
     </message>
     <message>
         <source>This folder is already used by another sync program. Choose another folder to avoid conflicts.</source>
-        <translation type="unfinished">Bu klasör başka bir eşitleme programı tarafından zaten kullanılıyor. Çakışmaları önlemek için farklı bir klasör seçin.</translation>
+        <translation>Bu klasör başka bir eşitleme programı tarafından zaten kullanılıyor. Çakışmaları önlemek için başka bir klasör seçin.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -205,15 +205,15 @@
     </message>
     <message>
         <source>Change sync folder</source>
-        <translation type="unfinished">Eşitleme klasörünü değiştir</translation>
+        <translation>Eşitleme klasörünü değiştir</translation>
     </message>
     <message>
         <source>Enter a complete file name without a folder path, for example thumbs.db.</source>
-        <translation type="unfinished">Klasör yolu olmadan dosya adının tamamını girin.</translation>
+        <translation>Klasör yolu olmadan dosya adının tamamını girin, örneğin thumbs.db.</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Setup stopped because of an error. The changes it had made were undone.</source>
-        <translation type="unfinished">[DlgTitleFont]Bir hata kurulumu durdurdu ve yapılan değişiklikler geri alındı.</translation>
+        <translation>[DlgTitleFont]Kurulum bir hata nedeniyle durdu. Yaptığı değişiklikler geri alındı.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -221,7 +221,7 @@
     </message>
     <message>
         <source>The Setup Wizard will install [ProductName] on your computer. Click Next to continue, or click Cancel to exit the Setup Wizard.</source>
-        <translation>Kurulum sihirbazı [ProductName] uygulamasını bilgisayarınıza kuracak. Devam etmek için “İleri” düğmesine, kurulum sihirbazından çıkmak için “İptal” düğmesine tıklayın.</translation>
+        <translation>Kurulum sihirbazı [ProductName] uygulamasını bilgisayarınıza kuracak. Devam etmek için “Sonraki” düğmesine, kurulum sihirbazından çıkmak için “İptal” düğmesine tıklayın.</translation>
     </message>
     <message>
         <source>Sync problem</source>
@@ -241,7 +241,7 @@
     </message>
     <message>
         <source>Use an encrypted connection (TLS)</source>
-        <translation type="unfinished">Veri aktarımını SSL ile şifrele</translation>
+        <translation>Şifreli bağlantı (TLS) kullan</translation>
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
@@ -277,7 +277,7 @@
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished">Eşleştirmeyi kaldır</translation>
+        <translation>Bağlantıyı kes</translation>
     </message>
     <message>
         <source>Back</source>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Quillmere is initializing...</source>
-        <translation>Quillmere hazırlanıyor…</translation>
+        <translation>Quillmere hazırlanıyor...</translation>
     </message>
     <message>
         <source>Start now</source>
@@ -313,11 +313,11 @@
     </message>
     <message>
         <source>Applying the settings...</source>
-        <translation>Ayarlar uygulanıyor…</translation>
+        <translation>Ayarlar uygulanıyor...</translation>
     </message>
     <message>
         <source>Files excluded from syncing</source>
-        <translation type="unfinished">Eşitlenmeyen dosyalar</translation>
+        <translation>Eşitlemeden hariç tutulan dosyalar</translation>
     </message>
     <message>
         <source>Created</source>
@@ -333,7 +333,7 @@
     </message>
     <message>
         <source>Choose shared folders to sync</source>
-        <translation type="unfinished">Eşitlenecek paylaşılan klasörleri seçin</translation>
+        <translation>Eşitlenecek paylaşılan klasörleri seçin</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;move</source>
@@ -341,11 +341,11 @@
     </message>
     <message>
         <source>Uploading...</source>
-        <translation>Karşıya yükleniyor…</translation>
+        <translation>Karşıya yükleniyor...</translation>
     </message>
     <message>
         <source>To use selective sync, ask the server administrator to upgrade Quillmere on the server.</source>
-        <translation>Seçmeli eşitlemeyi kullanmak için sunucu yöneticisinden sunucudaki Quillmere yazılımını yükseltmesini isteyin.</translation>
+        <translation>Seçmeli eşitlemeyi kullanmak için sunucu yöneticisinden sunucudaki Quillmere uygulamasını yükseltmesini isteyin.</translation>
     </message>
     <message>
         <source>No settings have been changed.</source>
@@ -361,7 +361,7 @@
     </message>
     <message>
         <source>Excluded file extensions</source>
-        <translation type="unfinished">Hariç tutulan dosya uzantıları</translation>
+        <translation>Hariç tutulan dosya uzantıları</translation>
     </message>
     <message>
         <source>Syncing is paused.</source>
@@ -377,7 +377,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is not mounted. Mount the drive, then resume syncing. See Sync tasks for the folder.</source>
-        <translation type="unfinished">Eşitleme klasörünün bulunduğu birim bağlı değil. Birimi bağlayın, ardından eşitlemeyi sürdürün.</translation>
+        <translation>Eşitleme klasörünün bulunduğu sürücü bağlı değil. Sürücüyü bağlayın, ardından eşitlemeyi sürdürün. Klasör için “Eşitleme görevleri” sayfasına bakın.</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>The drive that holds the sync folder is full.</source>
-        <translation type="unfinished">Bu bilgisayarda boş disk alanı yok.</translation>
+        <translation>Eşitleme klasörünün bulunduğu sürücü dolu.</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -393,19 +393,19 @@
     </message>
     <message>
         <source>&amp;Retry</source>
-        <translation>&amp;Yeniden dene</translation>
+        <translation>&amp;Yeniden Dene</translation>
     </message>
     <message>
         <source>&amp;Ignore</source>
-        <translation>Y&amp;ok say</translation>
+        <translation>Y&amp;oksay</translation>
     </message>
     <message>
         <source>A folder with this name already exists on this computer. Merge its files with those on the server?</source>
-        <translation type="unfinished">Bu adda bir klasör zaten var. Bu klasördeki dosyaları sunucudakilerle birleştirmek istiyor musunuz?</translation>
+        <translation>Bu bilgisayarda bu adda bir klasör zaten var. Klasördeki dosyalar sunucudakilerle birleştirilsin mi?</translation>
     </message>
     <message>
         <source>Quillmere keeps your files in sync between your computers and your server.</source>
-        <translation>Quillmere, dosyalarınızı bilgisayarlarınız ile sunucunuz arasında eşitlenmiş durumda tutar.</translation>
+        <translation>Quillmere, dosyalarınızı bilgisayarlarınız ile sunucunuz arasında eşitler.</translation>
     </message>
     <message>
         <source>Change the installed features</source>
@@ -421,7 +421,7 @@
     </message>
     <message>
         <source>Upgrading Quillmere...</source>
-        <translation>Quillmere yükseltiliyor…</translation>
+        <translation>Quillmere yükseltiliyor...</translation>
     </message>
     <message>
         <source>Sync mode</source>
@@ -449,11 +449,11 @@
     </message>
     <message>
         <source>Files being synced: %1</source>
-        <translation type="unfinished">%1 dosya eşitleniyor…</translation>
+        <translation>Eşitlenmekte olan dosyalar: %1</translation>
     </message>
     <message>
         <source>Reconnect</source>
-        <translation type="unfinished">Yeniden eşleştir</translation>
+        <translation>Yeniden bağlan</translation>
     </message>
     <message>
         <source>Your files, in sync everywhere</source>
@@ -473,7 +473,7 @@
     </message>
     <message>
         <source>The folders and files you deselected will be removed from this computer. They will be kept on the server.</source>
-        <translation type="unfinished">İşaretini kaldırdığınız klasörler ve dosyalar bu bilgisayardan silinecek. Sunucudaki kopyaları korunacak.</translation>
+        <translation>İşaretini kaldırdığınız klasörler ve dosyalar bu bilgisayardan kaldırılacak. Sunucuda ise korunacaklar.</translation>
     </message>
     <message>
         <source>Setup made all the changes you chose. Click Finish to exit the Setup Wizard.</source>
@@ -489,19 +489,19 @@
     </message>
     <message>
         <source>Disconnected</source>
-        <translation type="unfinished">Etkin değil</translation>
+        <translation>Bağlantı kesildi</translation>
     </message>
     <message>
         <source>You have used all of your space on the server.</source>
-        <translation type="unfinished">Sunucudaki kotanız dolu.</translation>
+        <translation>Sunucudaki alanınızın tamamını kullandınız.</translation>
     </message>
     <message>
         <source>Disconnect from the server?\nYour files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">Bu bağlantının eşleştirmesi kaldırılsın mı?\nDosyalarınız bu bilgisayarda ve sunucuda saklanacak, ancak artık eşitlenmeyecek.</translation>
+        <translation>Sunucu bağlantısı kesilsin mi?\nDosyalarınız bu bilgisayarda ve sunucuda saklanacak, ancak artık eşitlenmeyecek.</translation>
     </message>
     <message>
         <source>The relay service has a problem. Try again later, or connect to the server by its IP address.</source>
-        <translation type="unfinished">Aktarma hizmetinde bir sorun var. Daha sonra yeniden deneyin veya sunucunun IP adresiyle bağlanın.</translation>
+        <translation>Aktarma hizmetinde bir sorun var. Daha sonra yeniden deneyin veya sunucuya IP adresiyle bağlanın.</translation>
     </message>
     <message>
         <source>Server ID</source>
@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>Excluded file names</source>
-        <translation type="unfinished">Hariç tutulan dosya adları</translation>
+        <translation>Hariç tutulan dosya adları</translation>
     </message>
     <message>
         <source>Server address</source>
@@ -521,11 +521,11 @@
     </message>
     <message>
         <source>Turned on</source>
-        <translation type="unfinished">Etkin</translation>
+        <translation>Açık</translation>
     </message>
     <message>
         <source>The drive that holds the sync folder is full. Free some space on it to continue syncing.</source>
-        <translation type="unfinished">Bu bilgisayarda boş disk alanı yok. Eşitlemeye devam etmek için yer açın.</translation>
+        <translation>Eşitleme klasörünün bulunduğu sürücü dolu. Eşitlemeye devam etmek için sürücüde yer açın.</translation>
     </message>
     <message>
         <source>Folders to sync</source>
@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>Choose sync folder</source>
-        <translation type="unfinished">Eşitleme klasörünü seçin</translation>
+        <translation>Eşitleme klasörünü seçin</translation>
     </message>
     <message>
         <source>Connection settings</source>
@@ -549,7 +549,7 @@
     </message>
     <message>
         <source>You have used all of your space on the server. Delete files you do not need, or ask the server administrator for more space.</source>
-        <translation type="unfinished">Sunucudaki kotanız dolu. Gereksiz dosyaları silin veya sunucu yöneticisinden daha büyük bir kota isteyin.</translation>
+        <translation>Sunucudaki alanınızın tamamını kullandınız. Gereksiz dosyaları silin veya sunucu yöneticisinden daha fazla alan isteyin.</translation>
     </message>
     <message>
         <source>After you start [ProductName], you can find it in the system tray.</source>
@@ -565,11 +565,11 @@
     </message>
     <message>
         <source>This file was changed on this computer and on the server. Both copies are in the same folder under different names. Compare them, then keep the one you need.</source>
-        <translation type="unfinished">Bu dosya iki ayrı yerde değiştirilmiş. İki kopyayı karşılaştırın, ardından gereken kopyayı saklayın.</translation>
+        <translation>Bu dosya hem bu bilgisayarda hem de sunucuda değiştirilmiş. İki kopya da aynı klasörde, farklı adlarla duruyor. Kopyaları karşılaştırın, ardından gereken kopyayı saklayın.</translation>
     </message>
     <message>
         <source>All your files on every computer, kept on your own server</source>
-        <translation type="unfinished">Kendi sunucunuz aracılığıyla, tüm bilgisayarlardaki dosyalarınız için tek bir yer</translation>
+        <translation>Tüm dosyalarınız her bilgisayarınızda ve kendi sunucunuzda</translation>
     </message>
     <message>
         <source>OK</source>
@@ -581,7 +581,7 @@
     </message>
     <message>
         <source>The following applications use files that setup needs to update. Close them, then click Retry. To continue without closing them, click Ignore. To leave setup, click Exit.</source>
-        <translation type="unfinished">Aşağıdaki uygulamalar, kurulumun güncellemesi gereken dosyaları kullanıyor. Uygulamaları kapatıp “Yeniden dene” düğmesine, kapatmadan devam etmek için “Yok say” düğmesine, kurulumdan ayrılmak için “Çıkış” düğmesine tıklayın.</translation>
+        <translation>Aşağıdaki uygulamalar, kurulumun güncellemesi gereken dosyaları kullanıyor. Uygulamaları kapatın, ardından “Yeniden Dene” düğmesine tıklayın. Kapatmadan devam etmek için “Yoksay” düğmesine tıklayın. Kurulumdan çıkmak için “Çıkış” düğmesine tıklayın.</translation>
     </message>
     <message>
         <source>The server cannot be reached. Check the network connection and the server address, then try again.</source>
@@ -597,7 +597,7 @@
     </message>
     <message>
         <source>Edit connection...</source>
-        <translation type="unfinished">Bağlantıyı düzenle</translation>
+        <translation>Bağlantıyı düzenle...</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -613,7 +613,7 @@
     </message>
     <message>
         <source>Open Quillmere</source>
-        <translation>Quillmere penceresini aç</translation>
+        <translation>Quillmere uygulamasını aç</translation>
     </message>
     <message>
         <source>Please restart %1 to apply the new language settings.</source>
@@ -625,31 +625,31 @@
     </message>
     <message>
         <source>Show icon overlays on excluded files</source>
-        <translation type="unfinished">Süzgecin dışarıda bıraktığı dosyalarda simge kaplamalarını göster</translation>
+        <translation>Hariç tutulan dosyalarda simge kaplamalarını göster</translation>
     </message>
     <message>
         <source>Loading...</source>
-        <translation>Yükleniyor…</translation>
+        <translation>Yükleniyor...</translation>
     </message>
     <message>
         <source>The limit of synced shared folders is reached: %1. Stop syncing a shared folder before you add another.</source>
-        <translation type="unfinished">En fazla %1 paylaşılan klasör eşitleyebilirsiniz. Başka bir klasör eklemeden önce bunlardan birinin eşitlemesini durdurun.</translation>
+        <translation>Eşitlenen paylaşılan klasör sınırına ulaşıldı: %1. Başka bir klasör eklemeden önce bir paylaşılan klasörün eşitlemesini durdurun.</translation>
     </message>
     <message>
         <source>Remove this sync task?\nIts files will be kept on this computer and on the server, but they will no longer be synced.</source>
-        <translation type="unfinished">Bu eşitleme görevinin eşleştirmesi kaldırılsın mı?\nGörevin dosyaları bu bilgisayarda ve sunucuda saklanacak, ancak artık eşitlenmeyecek.</translation>
+        <translation>Bu eşitleme görevi kaldırılsın mı?\nGörevin dosyaları bu bilgisayarda ve sunucuda saklanacak, ancak artık eşitlenmeyecek.</translation>
     </message>
     <message>
         <source>Starting Quillmere...</source>
-        <translation>Quillmere başlatılıyor…</translation>
+        <translation>Quillmere başlatılıyor...</translation>
     </message>
     <message>
         <source>Quillmere could not be upgraded. Your earlier version was kept. Restart the computer, then try again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Quillmere yükseltilemedi. Bilgisayarı yeniden başlatıp tekrar deneyin.</translation>
+        <translation>Quillmere yükseltilemedi. Önceki sürümünüz korundu. Bilgisayarı yeniden başlatıp tekrar deneyin. Ayrıntılar ~/.Quillmere/log içinde.</translation>
     </message>
     <message>
         <source>Exclude names that begin with a dot</source>
-        <translation type="unfinished">Nokta ile başlayan adları hariç tut</translation>
+        <translation>Nokta ile başlayan adları hariç tut</translation>
     </message>
     <message>
         <source>The server has no free disk space. Ask the server administrator to free some space.</source>
@@ -673,7 +673,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup is complete</source>
-        <translation type="unfinished">{\VerdanaBold13}[ProductName] kurulum sihirbazı tamamlandı</translation>
+        <translation>{\VerdanaBold13}[ProductName] kurulum sihirbazı tamamlandı</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -689,7 +689,7 @@
     </message>
     <message>
         <source>&amp;Next</source>
-        <translation>İ&amp;leri</translation>
+        <translation>So&amp;nraki</translation>
     </message>
     <message>
         <source>Parvenor Quillmere</source>
@@ -701,7 +701,7 @@
     </message>
     <message>
         <source>Watching for file changes...</source>
-        <translation>Dosya değişiklikleri izleniyor…</translation>
+        <translation>Dosya değişiklikleri izleniyor...</translation>
     </message>
     <message>
         <source>Shared folder</source>
@@ -709,7 +709,7 @@
     </message>
     <message>
         <source>Quillmere settings</source>
-        <translation type="unfinished">İstemci seçenekleri</translation>
+        <translation>Quillmere ayarları</translation>
     </message>
     <message>
         <source>The share link could not be deleted. Check the connection to the server, then try again.</source>
@@ -717,11 +717,11 @@
     </message>
     <message>
         <source>The certificate of the server could not be verified: it may have expired, belong to another server, or come from an unknown issuer. Ask the server administrator to check the certificate.</source>
-        <translation type="unfinished">Sunucunun SSL sertifikası doğrulanamadı. Sunucu yöneticisinden sertifikayı denetlemesini isteyin.</translation>
+        <translation>Sunucunun sertifikası doğrulanamadı: süresi dolmuş, başka bir sunucuya ait veya bilinmeyen bir yayımcıdan gelmiş olabilir. Sunucu yöneticisinden sertifikayı denetlemesini isteyin.</translation>
     </message>
     <message>
         <source>This is not the server that this computer was connected to. Check the server address, or reconnect.</source>
-        <translation type="unfinished">Bu, bağlantının eşleştirildiği sunucu değil. Sunucu adresini denetleyin veya yeniden eşleştirin.</translation>
+        <translation>Bu sunucu, bu bilgisayarın daha önce bağlandığı sunucu değil. Sunucu adresini denetleyin veya yeniden bağlanın.</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be changed separately.</source>
@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>Connect to another server...</source>
-        <translation type="unfinished">Başka bir sunucuyla eşleştir</translation>
+        <translation>Başka bir sunucuya bağlan...</translation>
     </message>
     <message>
         <source>Show icon overlays</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]Making changes to [ProductName]</source>
-        <translation type="unfinished">[DlgTitleFont][ProductName] yapılandırılıyor</translation>
+        <translation>[DlgTitleFont][ProductName] uygulamasında değişiklikler yapılıyor</translation>
     </message>
     <message>
         <source>Service turned off</source>
@@ -789,7 +789,7 @@
     </message>
     <message>
         <source>Files to exclude</source>
-        <translation type="unfinished">Dosya süzgeci</translation>
+        <translation>Hariç tutulacak dosyalar</translation>
     </message>
     <message>
         <source>Status details</source>
@@ -801,7 +801,7 @@
     </message>
     <message>
         <source>Something went wrong. Try again, and contact the server administrator if the problem continues. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Bir sorun oluştu. Yeniden deneyin; sorun sürerse sunucu yöneticisine başvurun.</translation>
+        <translation>Bir sorun oluştu. Yeniden deneyin; sorun sürerse sunucu yöneticisine başvurun. Ayrıntılar ~/.Quillmere/log içinde.</translation>
     </message>
     <message>
         <source>Tray icons</source>
@@ -813,7 +813,7 @@
     </message>
     <message>
         <source>Next</source>
-        <translation>İleri</translation>
+        <translation>Sonraki</translation>
     </message>
     <message>
         <source>&amp;Back</source>
@@ -825,7 +825,7 @@
     </message>
     <message>
         <source>You are not signed in as an administrator, so Quillmere might not install completely. Continue?</source>
-        <translation type="unfinished">Yönetici olarak oturum açmadınız, bu nedenle Quillmere tam olarak kurulamayabilir. Devam etmek istiyor musunuz?</translation>
+        <translation>Yönetici olarak oturum açmadınız, bu nedenle Quillmere tam olarak kurulamayabilir. Devam edilsin mi?</translation>
     </message>
     <message>
         <source>Use the tray icon at any time to see the sync status or change the settings.</source>
@@ -873,7 +873,7 @@
     </message>
     <message>
         <source>Choose another folder...</source>
-        <translation type="unfinished">Başka bir klasör seç</translation>
+        <translation>Başka bir klasör seç...</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -897,22 +897,22 @@
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">Eşleştirmeyi kaldır</translation>
+        <translation>Kaldır</translation>
     </message>
     <message>
         <source>Another server was found at the server address.</source>
-        <translation type="unfinished">Sunucu adresinde farklı bir sunucu bulundu.</translation>
+        <translation>Sunucu adresinde başka bir sunucu bulundu.</translation>
     </message>
     <message>
         <source>Connecting to the server...</source>
-        <translation type="unfinished">Sunucuyla eşleştiriliyor…</translation>
+        <translation>Sunucuya bağlanılıyor...</translation>
     </message>
     <message>
         <source>Port</source>
         <translation>Bağlantı noktası</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Create share link</source>
         <translation>Paylaşım bağlantısı oluştur</translation>
     </message>
     <message>
@@ -929,7 +929,7 @@
     </message>
     <message>
         <source>Change folder...</source>
-        <translation type="unfinished">Klasörü değiştir</translation>
+        <translation>Klasörü değiştir...</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -941,11 +941,11 @@
     </message>
     <message>
         <source>Downloading...</source>
-        <translation>İndiriliyor…</translation>
+        <translation>İndiriliyor...</translation>
     </message>
     <message>
         <source>File locked</source>
-        <translation type="unfinished">Dosya kilitli</translation>
+        <translation>Dosya kilitli</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -953,11 +953,11 @@
     </message>
     <message>
         <source>Preparing...</source>
-        <translation>Hazırlanıyor…</translation>
+        <translation>Hazırlanıyor...</translation>
     </message>
     <message>
         <source>Syncing files...</source>
-        <translation type="unfinished">Dosyalar güncelleniyor…</translation>
+        <translation>Dosyalar eşitleniyor...</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -965,11 +965,11 @@
     </message>
     <message>
         <source>Checking the user name and password...</source>
-        <translation>Kullanıcı adı ve parola denetleniyor…</translation>
+        <translation>Kullanıcı adı ve parola denetleniyor...</translation>
     </message>
     <message>
         <source>Wait while the Setup Wizard makes the changes to [ProductName]. This can take several minutes.</source>
-        <translation type="unfinished">Kurulum sihirbazı [ProductName] uygulamasını yapılandırırken bekleyin. Bu işlem birkaç dakika sürebilir.</translation>
+        <translation>Kurulum sihirbazı [ProductName] uygulamasında değişiklikleri yaparken bekleyin. Bu işlem birkaç dakika sürebilir.</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1021,7 +1021,7 @@
     </message>
     <message>
         <source>The local sync folder was not found. Restore the folder, or choose another folder. See Sync tasks for its path.</source>
-        <translation type="unfinished">Yerel eşitleme klasörü bulunamadı. Klasörü geri yükleyin veya farklı bir klasör seçin.</translation>
+        <translation>Yerel eşitleme klasörü bulunamadı. Klasörü geri yükleyin veya başka bir klasör seçin. Klasörün yolu için “Eşitleme görevleri” sayfasına bakın.</translation>
     </message>
     <message>
         <source>Upgrade Quillmere</source>
@@ -1029,15 +1029,15 @@
     </message>
     <message>
         <source>Add sync task...</source>
-        <translation type="unfinished">Eşitleme görevi ekle</translation>
+        <translation>Eşitleme görevi ekle...</translation>
     </message>
     <message>
         <source>The shared folder is not mounted on the server. Ask the server administrator to mount it. See Shared folders for its name.</source>
-        <translation type="unfinished">Paylaşılan klasör sunucuda bağlı değil. Sunucu yöneticisinden klasörü bağlamasını isteyin.</translation>
+        <translation>Paylaşılan klasör sunucuda bağlı değil. Sunucu yöneticisinden klasörü bağlamasını isteyin. Klasörün adı için “Paylaşılan klasörler” sayfasına bakın.</translation>
     </message>
     <message>
         <source>The server sent an unexpected response. Upgrade Quillmere on this computer, and ask the server administrator to upgrade it on the server. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Sunucu beklenmeyen bir yanıt gönderdi. İstemciyi ve sunucuyu yükseltip yeniden deneyin.</translation>
+        <translation>Sunucu beklenmeyen bir yanıt gönderdi. Bu bilgisayardaki Quillmere uygulamasını yükseltin ve sunucu yöneticisinden sunucudaki uygulamayı yükseltmesini isteyin. Ayrıntılar ~/.Quillmere/log içinde.</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1053,11 +1053,11 @@
     </message>
     <message>
         <source>Checking files...</source>
-        <translation type="unfinished">Veriler denetleniyor…</translation>
+        <translation>Dosyalar denetleniyor...</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
-        <translation>Eşitleme deneniyor…</translation>
+        <translation>Eşitleme deneniyor...</translation>
     </message>
     <message>
         <source>Click Install to begin the installation of [ProductName]. Click Back to review your choices, or click Cancel to exit the Setup Wizard.</source>
@@ -1065,7 +1065,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup was canceled</source>
-        <translation type="unfinished">{\VerdanaBold13}[ProductName] kurulumu yarıda kesildi</translation>
+        <translation>{\VerdanaBold13}[ProductName] kurulum sihirbazı iptal edildi</translation>
     </message>
     <message>
         <source>The folder is not empty. Merge its files with those on the server, or choose another folder.</source>
@@ -1093,7 +1093,7 @@
     </message>
     <message>
         <source>This folder is already synced with another shared folder. Choose another folder.</source>
-        <translation type="unfinished">Bu klasör zaten başka bir paylaşılan klasörle eşitleniyor. Farklı bir klasör seçin.</translation>
+        <translation>Bu klasör zaten başka bir paylaşılan klasörle eşitleniyor. Başka bir klasör seçin.</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1117,7 +1117,7 @@
     </message>
     <message>
         <source>{\VerdanaBold13}[ProductName] setup did not finish</source>
-        <translation>{\VerdanaBold13}[ProductName] kurulumu tamamlanmadı</translation>
+        <translation>{\VerdanaBold13}[ProductName] kurulum sihirbazı tamamlanamadı</translation>
     </message>
     <message>
         <source>Quillmere is already running.</source>
@@ -1133,7 +1133,7 @@
     </message>
     <message>
         <source>All files from both folders are kept. If two versions of a file differ, both are kept under different names.</source>
-        <translation type="unfinished">İki klasördeki tüm dosyalar saklanır. Bir dosyanın iki sürümü farklıysa her ikisi de elinizde olur.</translation>
+        <translation>İki klasördeki tüm dosyalar saklanır. Bir dosyanın iki sürümü farklıysa ikisi de farklı adlarla saklanır.</translation>
     </message>
     <message>
         <source>Repair the installation</source>
@@ -1141,15 +1141,15 @@
     </message>
     <message>
         <source>Syncing turned on</source>
-        <translation type="unfinished">Eşitleme açık</translation>
+        <translation>Eşitleme açık</translation>
     </message>
     <message>
         <source>Quillmere could not start. Restart the computer, then start Quillmere again. Details are in ~/.Quillmere/log.</source>
-        <translation type="unfinished">Quillmere başlatılamadı. Bilgisayarı yeniden başlatın, ardından Quillmere uygulamasını tekrar başlatın.</translation>
+        <translation>Quillmere başlatılamadı. Bilgisayarı yeniden başlatın, ardından Quillmere uygulamasını tekrar başlatın. Ayrıntılar ~/.Quillmere/log içinde.</translation>
     </message>
     <message>
-        <source>Cancel the setup of [ProductName]?</source>
-        <translation type="unfinished">[ProductName] kurulumunu iptal etmek istiyor musunuz?</translation>
+        <source>Cancel [ProductName] setup?</source>
+        <translation>[ProductName] kurulum sihirbazı iptal edilsin mi?</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -1173,7 +1173,7 @@
     </message>
     <message>
         <source>Browse versions...</source>
-        <translation type="unfinished">Sürümlere göz at</translation>
+        <translation>Sürümlere göz at...</translation>
     </message>
     <message>
         <source>[DlgTitleFont]&amp;Change</source>
@@ -1181,19 +1181,19 @@
     </message>
     <message>
         <source>This computer is disconnected from the server. Reconnect to continue syncing.</source>
-        <translation type="unfinished">Bu bağlantı etkin değil. Eşitlemeye devam etmek için bağlantıyı yeniden eşleştirin.</translation>
+        <translation>Bu bilgisayarın sunucu bağlantısı kesildi. Eşitlemeye devam etmek için yeniden bağlanın.</translation>
     </message>
     <message>
         <source>Detecting...</source>
-        <translation>Algılanıyor…</translation>
+        <translation>Algılanıyor...</translation>
     </message>
     <message>
         <source>Certificate warning</source>
-        <translation type="unfinished">SSL uyarısı</translation>
+        <translation>Sertifika uyarısı</translation>
     </message>
     <message>
         <source>The relay service cannot be reached. Check the internet connection, then try again.</source>
-        <translation type="unfinished">Aktarma hizmetine ulaşılamıyor. İnternet bağlantınızı denetleyip yeniden deneyin.</translation>
+        <translation>Aktarma hizmetine ulaşılamıyor. İnternet bağlantısını denetleyip yeniden deneyin.</translation>
     </message>
     <message>
         <source>Removes [ProductName] from your computer.</source>
@@ -1201,7 +1201,7 @@
     </message>
     <message>
         <source>Downloading %1...</source>
-        <translation>“%1” dosyası indiriliyor…</translation>
+        <translation>“%1” dosyası indiriliyor...</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
@@ -1213,7 +1213,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]You canceled setup, and your computer was not changed.</source>
-        <translation>[DlgTitleFont]Kurulumu iptal ettiniz ve bilgisayarınızda değişiklik yapılmadı.</translation>
+        <translation>[DlgTitleFont]Kurulum sihirbazını iptal ettiniz ve bilgisayarınızda değişiklik yapılmadı.</translation>
     </message>
     <message>
         <source>The port number is not valid. Enter a number from 1 to 65535.</source>
@@ -1225,7 +1225,7 @@
     </message>
     <message>
         <source>Remove the installation</source>
-        <translation>Kurulumu kaldır</translation>
+        <translation>Uygulamayı kaldır</translation>
     </message>
     <message>
         <source>Direct connection</source>
@@ -1233,23 +1233,23 @@
     </message>
     <message>
         <source>The drive on the server that holds this folder is not mounted. Ask the server administrator to mount it. See Sync tasks for the folder.</source>
-        <translation type="unfinished">Bu klasörün bulunduğu sunucu birimi bağlı değil. Sunucu yöneticisinden birimi bağlamasını isteyin.</translation>
+        <translation>Sunucuda bu klasörün bulunduğu sürücü bağlı değil. Sunucu yöneticisinden sürücüyü bağlamasını isteyin. Klasör için “Eşitleme görevleri” sayfasına bakın.</translation>
     </message>
     <message>
         <source>This version of Quillmere is already installed. Install it again?</source>
-        <translation type="unfinished">Bu Quillmere sürümü zaten kurulu. Yeniden kurmak istiyor musunuz?</translation>
+        <translation>Bu Quillmere sürümü zaten kurulu. Yeniden kurulsun mu?</translation>
     </message>
     <message>
         <source>Quillmere on this computer is too old to work with the server. Upgrade it, then try again.</source>
-        <translation type="unfinished">Bu istemci, sunucu için çok eski. İstemciyi yükseltip yeniden deneyin.</translation>
+        <translation>Bu bilgisayardaki Quillmere, sunucuyla çalışmak için çok eski. Quillmere uygulamasını yükseltip yeniden deneyin.</translation>
     </message>
     <message>
         <source>Quillmere on the server is too old to work with this computer.</source>
-        <translation type="unfinished">Sunucu bu istemci için çok eski.</translation>
+        <translation>Sunucudaki Quillmere, bu bilgisayarla çalışmak için çok eski.</translation>
     </message>
     <message>
         <source>Turned off</source>
-        <translation type="unfinished">Devre dışı</translation>
+        <translation>Kapalı</translation>
     </message>
 </context>
 </TS>
