@@ -1,3 +1,6 @@
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QRegularExpression>
 #include <QResource>
 #include <QTranslator>
@@ -63,6 +66,22 @@ const char* const kDialogs[] = {
 QString accelerator(const QString& text) {
   static const QRegularExpression mark("&([\\p{L}\\p{N}])");
   return mark.match(text).captured(1).toUpper();
+}
+
+// What stands on a button or in a menu.
+const QRegularExpression kButton(
+    "(^|_)(btn|button)(_|$)|^context_menu_|^tray_(exit|about|relink)$|^manage_share_change_folder$|"
+    "^(add|edit|del|finish|link_new_nas|action_unlink|(unlink|pause|resume)_connection)$");
+
+QString translated(const QTranslator& translator, const char* text) {
+  return translator.translate("global", text);
+}
+
+// The words that are settled for each language: patterns by English term, texts by button key.
+QJsonObject settled() {
+  QFile file(TERMS_FILE);
+  if (!file.open(QIODevice::ReadOnly)) qFatal("no " TERMS_FILE);
+  return QJsonDocument::fromJson(file.readAll()).object();
 }
 
 }  // namespace
@@ -139,6 +158,39 @@ class TestTexts : public QObject {
         used += own;
       }
     }
+  }
+
+  void terms_data() {
+    QTest::addColumn<QJsonObject>("words");
+    const QJsonObject languages = settled();
+    QCOMPARE(languages.size(), int(std::size(kLanguages)) - 1);  // all but English
+    for (const QString& code : languages.keys())
+      QTest::newRow(qPrintable(code)) << languages[code].toObject();
+  }
+  // A text with a settled term has its word, each standard button the toolkit's, and no button is
+  // so long that it breaks the dialog.
+  void terms() {
+    QFETCH(QJsonObject, words);
+    QTranslator translator;
+    QVERIFY(translator.load(QString(":/%1.qm").arg(QTest::currentDataTag())));
+    const QJsonObject terms = words["terms"].toObject();
+    const QJsonObject buttons = words["buttons"].toObject();
+    QVERIFY(terms.size() >= 10 && buttons.size() >= 20);
+    for (int id = 0; id < 350; ++id) {
+      const QString english = QString(stab[id]).remove('&');
+      const QString own = translated(translator, stab[id]).remove('&');
+      const QString both = QString("%1: %2 -> %3").arg(ktab[id], english, own);
+      for (const QString& term : terms.keys()) {
+        if (!english.contains(term, Qt::CaseInsensitive)) continue;
+        const QRegularExpression word(terms[term].toString(),
+                                      QRegularExpression::CaseInsensitiveOption);
+        QVERIFY2(own.contains(word), qPrintable(term + " in " + both));
+      }
+      if (QString(ktab[id]).contains(kButton))
+        QVERIFY2(own.size() <= 2 * english.size() + 10, qPrintable(both));
+    }
+    for (const QString& key : buttons.keys())
+      QCOMPARE(translated(translator, stab[LookupStrID(key)]), buttons[key].toString());
   }
 };
 
