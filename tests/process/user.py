@@ -178,7 +178,9 @@ class User:
 
     def give_away(self) -> None:
         """Makes the home an ordinary user's, as whom the launcher runs from now on."""
-        subprocess.run(["chown", "-R", f"{cell.NOBODY}:{cell.NOBODY}", self.dir], check=True)
+        owner = f"{cell.NOBODY}:{cell.NOBODY}"
+        subprocess.run(["chown", "-R", owner, self.home, self.dir / "run"], check=True)
+        os.chown(self.dir, cell.NOBODY, cell.NOBODY)
         self.as_nobody = True
 
     def hold(self) -> None:
