@@ -30,7 +30,9 @@ def pytest_addoption(parser):
 @pytest.hookimpl(tryfirst=True)
 def pytest_cmdline_main(config):
     if cell.INSIDE not in os.environ and not config.option.collectonly:
-        return cell.enter([sys.executable, "-B", "-m", "pytest", *config.invocation_params.args])
+        patience = ["--timeout=0"] if config.option.full else []
+        return cell.enter([sys.executable, "-B", "-m", "pytest", *config.invocation_params.args,
+                           *patience])
     return None
 
 
@@ -60,6 +62,12 @@ def pytest_runtest_setup(item):
         pytest.skip("needs a second user id, which root has")
 
 
+@pytest.fixture
+def full(request) -> bool:
+    """Whether campaigns are wanted whole."""
+    return request.config.option.full
+
+
 @pytest.fixture(scope="session")
 def stage(request) -> Path:
     """A staged tree of the launcher. Nobody writes to it."""
@@ -76,6 +84,12 @@ def stage(request) -> Path:
 def builds(stage) -> dict[int, Build]:
     """Two package roots, builds 1 and 2 of a client that notes what happens to it."""
     return make_builds(stage, Path(cell.WORK, f"builds.{os.getpid()}"))
+
+
+@pytest.fixture(scope="session")
+def large_builds(stage) -> dict[int, Build]:
+    """The same with clients of 5 MB, of which a part is sent to the disk early."""
+    return make_builds(stage, Path(cell.WORK, f"large.{os.getpid()}"), 100)
 
 
 @pytest.fixture

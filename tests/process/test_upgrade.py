@@ -28,6 +28,14 @@ def test_new_user(user, name, locale):
     user.started("start", "start")
 
 
+def test_large_client(user, large_builds):
+    """A part of its files is sent to the disk by a thread of its own."""
+    user.builds, user.root = large_builds, large_builds[2].root
+    user.install_copy(1)
+    user.launch()
+    user.copy_is(2)
+
+
 def test_lower_build(user, builds):
     user.install_copy(2)
     user.root = builds[1].root
@@ -217,7 +225,7 @@ def test_file_for_the_product_directory(user):
 
 @failure("full-disk")
 def test_full_disk(user):
-    subprocess.run(["mount", "-t", "tmpfs", "-o", "size=1600k", "tmpfs", user.home], check=True)
+    subprocess.run(["mount", "-t", "tmpfs", "-o", "size=130k", "tmpfs", user.home], check=True)
     user.top.mkdir()
     user.install_copy(1)
     user.launch()

@@ -66,10 +66,12 @@ def write(path: Path, content, mode: int = 0o644) -> Path:
     return path
 
 
-def make_client(top: Path, build: int) -> Path:
+def make_client(top: Path, build: int, size: int = 1) -> Path:
+    """A client of about 50 KB, or `size` times as much, with names, modes and links of all sorts."""
     write(top / "package/start-stop", START_STOP, 0o755)
     write(top / "bin/cloud-ui", CLOUD_UI, 0o755)
-    write(top / "lib/data", "".join(f"{n}\n" for n in range(build, build + 150000)))
+    for n in range(3):
+        write(top / f"lib/data/{n}", f"{build} {n}\n" * 4000 * size)
     write(top / "lib/Grüße aus 東京/100 %s.txt", f"build {build}\n")
     write(top / f"lib/only{build}", "")
     (top / "lib/link").symlink_to("Grüße aus 東京")
@@ -92,6 +94,7 @@ class Build:
 
 
 def make_build(stage: Path, root: Path, client: Path, number: int) -> Build:
+    """Packs `client` into a new package root with the launcher of `stage`."""
     shutil.copytree(stage, root, symlinks=True)
     write(root / "log/launcher.debug", "".join(f"{c}=7\n" for c in COMPONENTS[:3]))
     make_package(client, number, root, "--major", "3", "--minor", "4", "--icon-overlay", "7")
@@ -101,10 +104,10 @@ def make_build(stage: Path, root: Path, client: Path, number: int) -> Build:
     return Build(number, root, client, copy, listing(copy))
 
 
-def make_builds(stage: Path, top: Path) -> dict[int, Build]:
+def make_builds(stage: Path, top: Path, size: int = 1) -> dict[int, Build]:
     """Build 1, and build 2 in a directory whose name is hard to handle."""
     roots = {1: top / "first", 2: top / "Zweites Päckchen '2'"}
-    return {n: make_build(stage, root, make_client(top / f"client{n}", n), n)
+    return {n: make_build(stage, root, make_client(top / f"client{n}", n, size), n)
             for n, root in roots.items()}
 
 

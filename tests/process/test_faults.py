@@ -1,0 +1,162 @@
+"""Upgrades that are disturbed in every way we know. A whole copy, old or new, has to be in place
+after each start, and started. Without --full a sample of each campaign."""
+import random
+import shutil
+import time
+
+import pytest
+
+import lines
+from conftest import failure
+from faults import READS, calls, copy_of, errors_of, force_upgrade, inject, new_home
+from faults import resize, strace, used, whole_and_started
+from user import listing, write
+
+PARTS = 4  # of a campaign, so that workers share them
+pytestmark = pytest.mark.faults
+parts = pytest.mark.parametrize("part", range(PARTS))
+
+
+def share(places: list, part: int, full: bool, every: int) -> list:
+    """A part of all places, and of these each `every`th when the campaign is no full one."""
+    return places[part::PARTS][::1 if full else every]
+
+
+def damaged(user):
+    good = user.package.read_bytes()
+    write(user.package, good[:len(good) * 2 // 3])
+
+
+def missing(user):
+    user.package.unlink()
+
+
+def full_disk(user):
+    resize(user.home, f"{used(user.home)}k", "remount")
+
+
+def undisturbed(user):
+    pass
+
+
+WAYS = [undisturbed, damaged, missing, full_disk]
+
+
+@failure("killed-early", "killed-unpacking", "killed-late")
+@parts
+@pytest.mark.parametrize("way", WAYS)
+def test_killed_then(user, full, part, way):
+    """Killed at each call that changes a file, then an attempt that fails, then one that does
+    not: nothing is left in the end."""
+    user.own_root()
+    good = user.package.read_bytes()
+    new_home(user)
+    places = [place for place in calls(user) if place[0] not in READS]
+    assert len(places) > 30
+    resize(user.home, "64m")
+    for call, number in share(places, part, full, 16):
+        resize(user.home, "64m", "remount")
+        new_home(user)
+        write(user.package, good)
+        write(user.root / "INFO", "[Version]\nbuild_version=2\n")
+        killed = user.start(*inject(user, call, number, "signal=SIGKILL"))
+        assert killed.wait() == -9, (call, number)
+        user.notes.unlink(missing_ok=True)
+        force_upgrade(user)
+        way(user)
+        try:
+            user.launch()
+            whole_and_started(user)
+            resize(user.home, "64m", "remount")
+            write(user.package, good)
+            user.launch()
+            assert whole_and_started(user) == 2
+            user.copy_is(2)
+        except AssertionError as wrong:
+            raise AssertionError(f"killed at {call} {number}, then {way.__name__}") from wrong
+    print(f"{len(share(places, part, full, 16))} of {len(places)} places")
+
+
+def test_killed_at_any_time(user, large_builds, full):
+    """With large files most of the time goes by while something changes."""
+    user.builds, user.root = large_builds, large_builds[2].root
+    new_home(user)
+    begin = time.monotonic()
+    user.launch()
+    length = time.monotonic() - begin
+    chance = random.Random(0)
+    for _ in range(200 if full else 10):
+        new_home(user)
+        killed = user.start()
+        time.sleep(length * chance.random())
+        killed.kill()
+        killed.wait()
+        user.notes.unlink(missing_ok=True)  # the killed one's start script may note once more
+        user.launch()
+        assert copy_of(user) == 2 and user.notes.exists()
+
+
+@failure("failed-barrier")
+@parts
+def test_failing_calls(user, full, part):
+    """Each call fails once, with each error that it can give."""
+    new_home(user)
+    places = [(*place, error) for place in calls(user) for error in errors_of(place[0])]
+    kept = 0
+    for call, number, error in share(places, part, full, 24):
+        new_home(user)
+        user.launch(*inject(user, call, number, f"error={error}"))
+        kept += whole_and_started(user) == 1
+        assert "INJECTED" in (user.dir / "trace").read_text(errors="replace"), (call, number)
+    print(f"{len(share(places, part, full, 24))} of {len(places)}, the old copy kept {kept} times")
+
+
+@failure("failed-barrier")
+@pytest.mark.parametrize("number", [1, 2])
+def test_failing_barrier(user, number):
+    new_home(user)
+    user.launch(*inject(user, "syncfs", number, "error=EIO"))
+    user.has(lines.ROLLED_BACK, "[ERROR] file-op(N): FSSync: Failed to sync...")
+    user.copy_is(1)
+
+
+@failure("stuck-rollback")
+def test_what_was_unpacked_cannot_be_removed(user):
+    user.own_root()
+    damaged(user)
+    new_home(user)
+    user.launch(*strace(user, "-e", "inject=unlinkat:error=EIO"))
+    user.has(lines.ROLLED_BACK)
+    assert listing(user.top / "app_tmp") == user.builds[1].listing
+    user.launch()
+    user.copy_is(1)
+
+
+@failure("stuck-backup")
+def test_backup_cannot_be_removed(user):
+    new_home(user)
+    user.launch(*strace(user, "-e", "inject=unlinkat:error=EIO"))
+    user.copy_is(2, backups=1)
+    user.started("start")
+
+
+@parts
+def test_disks(user, large_builds, full, part):
+    """Disks of many sizes, from far too small to large enough."""
+    user.builds, user.root = large_builds, large_builds[2].root
+    resize(user.home, "64m")
+    new_home(user)
+    before = used(user.home)
+    shutil.copytree(user.builds[2].copy, user.home / "more", symlinks=True)
+    need = used(user.home) - before
+    shutil.rmtree(user.home / "more")
+    for percent in share(list(range(1, 121)), part, full, 15):
+        resize(user.home, "64m", "remount")
+        new_home(user)
+        resize(user.home, f"{before + need * percent // 100}k", "remount")
+        user.launch()
+        copy = copy_of(user)
+        user.started("start")
+        user.notes.unlink()
+        assert copy == 2 if percent > 105 else copy == 1 if percent < 95 else copy, percent
+        user.has(lines.READY if copy == 2 else lines.FAILED, lines.DONE)

@@ -1,0 +1,77 @@
+"""A loss of power at any place of an upgrade leaves a whole copy, old or new, to start."""
+import shutil
+
+import pytest
+
+import power
+from faults import copy_of, force_upgrade, new_home, whole_and_started
+from test_faults import damaged, missing
+from user import User, write
+
+PARTS = 4
+pytestmark = pytest.mark.faults
+
+
+def record(user: User) -> power.Recording:
+    """What a start changes in the home as it is."""
+    shutil.rmtree(user.top / "log", ignore_errors=True)
+    before = power.read_tree(user.top)
+    trace = user.dir / "power"
+    user.launch("strace", "-ff", "-qq", "-y", "-b", "execve", "-s", "4096", "-e",
+                f"trace={power.CALLS}", "-o", str(trace))
+    worker, = [text for path in user.dir.glob("power.*")
+               if "syncfs(" in (text := path.read_text(errors="replace"))]
+    for path in user.dir.glob("power.*"):
+        path.unlink()
+    user.notes.unlink(missing_ok=True)
+    return power.Recording(user.top, before, power.read_tree(user.builds[2].copy), worker)
+
+
+def put(user: User, state: power.Node) -> None:
+    shutil.rmtree(user.top)
+    power.write_tree(state, user.top)
+
+
+def upgrade(user):
+    return record(user)
+
+
+def rolled_back(user):
+    damaged(user)
+    return record(user)
+
+
+def recovered(user):
+    """The next start after a kill in the middle puts the old copy back."""
+    recording = record(user)
+    middle = len(recording.changes) // 2
+    put(user, power.replay(recording.tree, recording.changes[:middle], set(), False))
+    return record(user)
+
+
+@pytest.mark.parametrize("part", range(PARTS))
+@pytest.mark.parametrize("history", [upgrade, rolled_back, recovered])
+def test_power_lost(user, full, history, part):
+    user.own_root()
+    good = user.package.read_bytes()
+    new_home(user)
+    recording = history(user)
+    if history is upgrade:
+        shutil.rmtree(user.top / "log")
+        assert recording.end == power.digest(power.read_tree(user.top))
+    force_upgrade(user)
+    states = list(power.states(recording))
+    chosen = states[part::PARTS][::1 if full else 20]
+    for what, state in chosen:
+        put(user, state)
+        if user.package.exists():
+            missing(user)
+        user.launch()
+        try:
+            whole_and_started(user)
+            write(user.package, good)
+            user.launch()
+            assert whole_and_started(user) == 2
+        except AssertionError as wrong:
+            raise AssertionError(what) from wrong
+    print(f"{len(chosen)} of {len(states)} states, {len(recording.changes)} changes")
