@@ -112,20 +112,21 @@ class Recording:
 
     def read(self, line: str) -> None:
         call, _, rest = line.partition("(")
-        at = [text(found) for found in re.findall(r"(?:AT_FDCWD|\b\d+)<([^>]*)>", rest)]
+        at = re.search(r"(?:AT_FDCWD|\b\d+)<([^>]*)>.* = ", rest)
+        directory = text(at[1]) if at else "/"
         names = [text(found) for found in re.findall(r'"((?:[^"\\]|\\.)*)"', rest)]
         if call == "syncfs":  # one of a file alone is taken for nothing
             self.changes.append(Change(barrier=True))
         elif call in ("write", "pwrite64"):
-            self.wrote(self.place("/", at[0]))
-        elif call in ("unlink", "unlinkat", "rmdir") and (place := self.place(at[0], names[0])):
+            self.wrote(self.place("/", directory))
+        elif call in ("unlink", "unlinkat", "rmdir") and (place := self.place(directory, names[0])):
             self.add(Change(place[0], place[1]))
         elif call.startswith("rename") and (place := self.place("/", names[0])):
             target = self.place("/", names[1])
             self.add(Change(place[0], place[1], (*target[:2], place[0].names[place[1]]),
                             target[1] in target[0].names))
         elif call.startswith(("open", "mkdir", "symlink")):
-            place = self.place(at[0] if at else "/", names[-1])
+            place = self.place(directory, names[-1])
             if place and (not call.startswith("open") or "O_CREAT" in rest):
                 self.made(call, *place, names[0])
 
