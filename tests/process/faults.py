@@ -74,9 +74,12 @@ def new_home(user: User, copy: int = 1) -> None:
 
 
 def copy_of(user: User) -> int:
-    """The build of the whole copy that is in place, 0 when there is none."""
+    """The build of the whole copy that is in place, 0 when there is none. The version file is the
+    last that is unpacked: a copy in which it is empty is whole, and replaced by the next start."""
     found = listing(user.app)
-    return next((number for number, build in user.builds.items() if build.listing == found), 0)
+    found.pop("INFO", None)
+    return next((number for number, build in user.builds.items()
+                 if {**found, "INFO": build.listing["INFO"]} == build.listing), 0)
 
 
 def whole_and_started(user: User) -> int:

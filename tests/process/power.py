@@ -14,7 +14,6 @@ from pathlib import Path
 from typing import Iterator, Optional
 
 CALLS = "openat,write,pwrite64,rename,unlink,unlinkat,rmdir,mkdir,symlink,syncfs"
-CHOICES = 12  # of the subsets at one place, where there are more
 
 
 @dataclass(eq=False)
@@ -185,9 +184,9 @@ def replay(before: Node, changes: list[Change], missing: set[int], zeros: bool) 
     return top
 
 
-def states(recording: Recording, barriers: bool = True) -> Iterator[tuple[str, Node]]:
-    """(what is missing, tree) for each state that a loss of power may leave, each tree once;
-    without `barriers` as if there were none."""
+def states(recording: Recording, most: int) -> Iterator[tuple[str, Node]]:
+    """(what is missing, tree) for each state that a loss of power may leave, each tree once, of
+    about `most` at one place."""
     before, changes = recording.tree, recording.changes
     chance = random.Random(0)
     seen = set()
@@ -200,12 +199,12 @@ def states(recording: Recording, barriers: bool = True) -> Iterator[tuple[str, N
         else:
             choices = [set(), set(later), *({n} for n in later[-3:]),
                        *({n for n in later if chance.random() < share}
-                         for share in (i / CHOICES for i in range(1, CHOICES)))]
+                         for share in (i / most for i in range(1, most)))]
         for missing in choices:
             for zeros in False, True:
                 tree = replay(before, changes[:end], missing, zeros)
                 if (key := hash(digest(tree))) not in seen:
                     seen.add(key)
                     yield f"after {end} changes without {sorted(missing)}", tree
-        if end < len(changes) and changes[end].barrier and barriers:
+        if end < len(changes) and changes[end].barrier:
             barrier = end + 1

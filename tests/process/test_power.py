@@ -12,13 +12,13 @@ PARTS = 4
 pytestmark = pytest.mark.faults
 
 
-def record(user: User) -> power.Recording:
-    """What a start changes in the home as it is."""
+def record(user: User, *options: str) -> power.Recording:
+    """What a start changes in the home as it is, when strace has these options, too."""
     shutil.rmtree(user.top / "log", ignore_errors=True)
     before = power.read_tree(user.top)
     trace = user.dir / "power"
     user.launch("strace", "-ff", "-qq", "-y", "-b", "execve", "-s", "4096", "-e",
-                f"trace={power.CALLS}", "-o", str(trace))
+                f"trace={power.CALLS}", "-o", str(trace), *options)
     worker, = [text for path in user.dir.glob("power.*")
                if "syncfs(" in (text := path.read_text(errors="replace"))]
     for path in user.dir.glob("power.*"):
@@ -41,6 +41,11 @@ def rolled_back(user):
     return record(user)
 
 
+def rolled_back_late(user):
+    """The barrier behind the last entry fails: the copy to be removed is a whole one."""
+    return record(user, "-e", "inject=syncfs:error=EIO:when=2")
+
+
 def recovered(user):
     """The next start after a kill in the middle puts the old copy back."""
     recording = record(user)
@@ -50,7 +55,7 @@ def recovered(user):
 
 
 @pytest.mark.parametrize("part", range(PARTS))
-@pytest.mark.parametrize("history", [upgrade, rolled_back, recovered])
+@pytest.mark.parametrize("history", [upgrade, rolled_back, rolled_back_late, recovered])
 def test_power_lost(user, full, history, part):
     user.own_root()
     good = user.package.read_bytes()
@@ -60,7 +65,7 @@ def test_power_lost(user, full, history, part):
         shutil.rmtree(user.top / "log")
         assert recording.end == power.digest(power.read_tree(user.top))
     force_upgrade(user)
-    states = list(power.states(recording))
+    states = list(power.states(recording, 50))
     chosen = states[part::PARTS][::1 if full else 20]
     for what, state in chosen:
         put(user, state)
