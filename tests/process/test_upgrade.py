@@ -1,9 +1,11 @@
 """What starts leave: the user's copy, the log, and the start script run."""
 import io
 import lzma
+import os
 import shutil
 import subprocess
 import tarfile
+from pathlib import Path
 
 import pytest
 
@@ -225,7 +227,7 @@ def test_file_for_the_product_directory(user):
 
 @failure("full-disk")
 def test_full_disk(user):
-    subprocess.run(["mount", "-t", "tmpfs", "-o", "size=130k", "tmpfs", user.home], check=True)
+    subprocess.run(["mount", "-t", "tmpfs", "-o", "size=120k", "tmpfs", user.home], check=True)
     user.top.mkdir()
     user.install_copy(1)
     user.launch()
@@ -280,3 +282,74 @@ def test_language(user, locale, code):
     user.install_copy(2)
     errors = user.launch(LC_ALL=locale)
     assert f"qPrintable(qstrDef)=[{code}\n" in errors
+
+
+# ---- What is missing or odd, and harms nobody
+
+@failure("no-library")
+def test_without_libarchive(user):
+    user.install_copy(1)
+    needed = subprocess.run(["ldconfig", "-p"], capture_output=True, text=True).stdout
+    for path in {line.split()[-1] for line in needed.splitlines() if "libarchive.so" in line}:
+        subprocess.run(["mount", "--bind", "/dev/null", path], check=True)
+    user.launch()
+    user.has(lines.ROLLED_BACK, "[ERROR] extractor(N): Allocate archive failed...")
+    user.copy_is(1)
+    user.started("start")
+
+
+@failure("no-icon")
+def test_without_pictures(user):
+    shutil.rmtree(user.own_root() / "images")
+    user.launch()
+    user.copy_is(2)
+
+
+@failure("no-start-script")
+@pytest.mark.parametrize("fault", ["rm", "chmod 644", "printf '#!/bin/sh\\nexit 9' >"])
+def test_start_script(user, fault):
+    user.install_copy(2)
+    subprocess.run(f"{fault} '{user.app}/package/start-stop'", shell=True, check=True)
+    user.launch()
+    assert user.log() == lines.run(2, 2, lines.NO_NEED)
+    user.started()
+
+
+def unpack(user, content: bytes) -> None:
+    """A start with a package of that content, which is unpacked to its end."""
+    write(user.own_root() / "package/quillmere.qpk", content)
+    user.launch()
+    user.has(lines.READY)
+
+
+@failure("absolute-name")
+def test_absolute_name(user):
+    unpack(user, tar(user.builds[2], ("/outside", REG, "", b"1")))
+    assert (user.app / "outside").exists() and not Path("/outside").exists()
+
+
+@failure("link-out")
+def test_link_out_of_the_copy(user):
+    unpack(user, tar(user.builds[2], ("out", tarfile.SYMTYPE, "../..", b""),
+                     ("out/written", REG, "", b"1")))
+    assert (user.home / "written").exists()
+
+
+@failure("set-id")
+def test_set_user_id(user):
+    program = tarfile.TarInfo("bin/program")
+    program.mode, program.uid = 0o6755, 1234
+    made = io.BytesIO()
+    with tarfile.open(fileobj=made, mode="w") as archive:
+        archive.addfile(program)
+    unpack(user, made.getvalue())
+    found = (user.app / "bin/program").stat()
+    assert found.st_mode & 0o7777 == 0o755 and found.st_uid == os.getuid()
+
+
+@failure("plain-tar-damage")
+def test_damage_in_a_plain_tar(user):
+    good = tar(user.builds[2])
+    at = good.index(b"2 1\n2 1\n")
+    unpack(user, good[:at] + b"3" + good[at + 1:])
+    assert (user.app / "lib/data/1").read_text().startswith("3 1\n2 1\n")
