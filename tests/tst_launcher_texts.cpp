@@ -1,3 +1,4 @@
+#include <QCryptographicHash>
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -97,8 +98,18 @@ class TestTexts : public QObject {
       QCOMPARE(LoadStr(id), QString(stab[id]).replace("\\n", "\n").replace("\\t", "\t"));
     }
     QVERIFY(LookupStrID("msg_progres") == -1 && LookupStrID("") == -1);
-    QCOMPARE(LoadStr(76), QString("Quillmere is initializing..."));
-    QCOMPARE(LoadStr(app_name), QString("Parvenor Quillmere"));
+    // All keys in the order of their numbers, which programs and installers rely on.
+    const QStringList keys(std::begin(ktab), std::end(ktab));
+    QCOMPARE(QCryptographicHash::hash(keys.join('\n').toUtf8(), QCryptographicHash::Sha1).toHex(),
+             QByteArray("4a43243e78f03927eca0e9d3637222e5945520bf"));
+    const std::pair<int, const char*> texts[] = {
+        {0, "{\\VerdanaBold13}Welcome to the [ProductName] Setup Wizard"},
+        {15, "Currently syncing %1 files."},
+        {68, "&Yes"},
+        {76, "Quillmere is initializing..."},
+        {81, "Quillmere is ready."},
+        {app_name, "Parvenor Quillmere"}};
+    for (const auto& [id, text] : texts) QCOMPARE(LoadStr(id), QString(text));
   }
 
   // Two sections, the messages and their index, and the compression that is agreed on.
