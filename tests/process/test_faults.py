@@ -132,6 +132,20 @@ def test_what_was_unpacked_cannot_be_removed(user):
     user.copy_is(1)
 
 
+@failure("stuck-restore")
+def test_unfinished_copy_cannot_be_removed(user):
+    new_home(user)
+    user.app.rename(user.top / "app_tmp")
+    write(user.app / "lib/data/0", "unfinished")
+    user.own_root()
+    missing(user)
+    user.launch(*strace(user, "-e", "inject=unlinkat:error=EIO"))
+    user.has(f"[ERROR] cloud-service(N): failed to move '{user.top}/app_tmp' back to...")
+    assert listing(user.top / "app_tmp") == user.builds[1].listing
+    user.launch()
+    user.copy_is(1)
+
+
 @failure("stuck-backup")
 def test_backup_cannot_be_removed(user):
     new_home(user)

@@ -163,6 +163,16 @@ def test_bad_version_file(user, whose, fault):
     user.started("start")
 
 
+@failure("refused-info")
+def test_refused_version_file(user):
+    user.install_copy(1)
+    write(user.own_root() / "INFO", "[Version]\nbuild_version=@Variant(2)\n")
+    user.launch()
+    user.has(f"[WARNING] cloud-service(N): version file '{user.root / 'INFO'}' is refused...",
+             lines.NO_NEED)
+    user.copy_is(1)
+
+
 @failure("odd-build-number")
 @pytest.mark.parametrize("text, build, after", [("3 or so", 3, 2), ("1x", 1, 1), ("x9", 0, 1)])
 def test_odd_build_number(user, text, build, after):
@@ -295,6 +305,14 @@ def test_without_libarchive(user):
     user.launch()
     user.has(lines.ROLLED_BACK, "[ERROR] extractor(N): Allocate archive failed...")
     user.copy_is(1)
+    user.started("start")
+
+
+@failure("no-display")
+def test_without_a_display(user):
+    user.install_copy(1)
+    user.launch(QT_QPA_PLATFORM=None, DISPLAY=":9999", WAYLAND_DISPLAY="none")
+    user.copy_is(2)
     user.started("start")
 
 
