@@ -125,6 +125,8 @@ def sanitizer(launcher: Path) -> tuple[float, dict[str, str]]:
             rules = Path(cell.WORK, f"{name}.{os.getpid()}")
             shutil.copy(TREE / f"tests/{name}.supp", rules)
             env[option] = f"suppressions={rules}:fast_unwind_on_malloc=0:print_suppressions=0"
+        # The toolkit is not built for the sanitizer.
+        env["TSAN_OPTIONS"] += ":ignore_noninstrumented_modules=1"
         env["UBSAN_OPTIONS"] = "halt_on_error=1:print_stacktrace=1"
         slow = any(f"lib{name}" in needed for name in ("asan", "tsan"))
         _slowness[launcher] = (6, env) if slow else (1, {})
