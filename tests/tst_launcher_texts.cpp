@@ -87,6 +87,15 @@ QJsonObject settled() {
 
 }  // namespace
 
+// Translates everything, in the context "global" alone.
+class Marker : public QTranslator {
+ public:
+  bool isEmpty() const override { return false; }
+  QString translate(const char* context, const char*, const char*, int) const override {
+    return strcmp(context, "global") == 0 ? QString("a\\nb\\tc") : QString();
+  }
+};
+
 class TestTexts : public QObject {
   Q_OBJECT
 
@@ -110,6 +119,9 @@ class TestTexts : public QObject {
         {81, "Quillmere is ready."},
         {app_name, "Parvenor Quillmere"}};
     for (const auto& [id, text] : texts) QCOMPARE(LoadStr(id), QString(text));
+    Marker marker;
+    QVERIFY(QCoreApplication::installTranslator(&marker));
+    QCOMPARE(LoadStr(app_name), QString("a\nb\tc"));
   }
 
   // Two sections, the messages and their index, and the compression that is agreed on.

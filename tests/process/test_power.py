@@ -20,7 +20,7 @@ def record(user: User, *options: str) -> power.Recording:
     user.launch("strace", "-ff", "-qq", "-y", "-b", "execve", "-s", "4096", "-e",
                 f"trace={power.CALLS}", "-o", str(trace), *options)
     worker, = [text for path in user.dir.glob("power.*")
-               if "syncfs(" in (text := path.read_text(errors="replace"))]
+               if "rename(" in (text := path.read_text(errors="replace"))]
     for path in user.dir.glob("power.*"):
         path.unlink()
     user.notes.unlink(missing_ok=True)
