@@ -16,6 +16,7 @@
 
 #include "launcher/adapter.h"
 #include "launcher/launcher.h"
+#include "launcher/linux/package_info.h"
 #include "launcher/startup.h"
 #include "launcher/texts/strtab.h"
 #include "lib/log.h"
@@ -71,6 +72,20 @@ class TestLauncher : public QObject {
     QCOMPARE(Logger::Initialize(Logger::FILE_LOGGER, "/dev/null", "", 0), 0);
   }
   void cleanup() { Logger::Destroy(); }
+
+  // The fixed places, and the ones that follow from the home directory.
+  void places() {
+    const PackageInfo& package = PackageInfo::GetInstance();
+    const ustring root("/opt/Parvenor/Quillmere");
+    const ustring home = u(m_dir->path() + "/.Quillmere");
+    QCOMPARE(package.GetImageFolder(), root + "/images");
+    QCOMPARE(package.GetLogLevelPath(), root + "/log/launcher.debug");
+    QCOMPARE(package.GetPackagePath(), root + "/package/quillmere.qpk");
+    QCOMPARE(package.GetConfigFolder(), root + "/conf");
+    QCOMPARE(package.GetLogFolder(), home);
+    QCOMPARE(Service::GetUserQuillmereDataInstallPath(), home + "/data");
+    QVERIFY(&LinuxService::GetInstace() == &LinuxService::GetInstace());
+  }
 
   void dialog() {
     const QFont earlier = QApplication::font();

@@ -1,4 +1,10 @@
 """The launcher's log lines, as User.log() shows them."""
+import re
+
+from user import TREE
+
+_PROJECT = re.search(r"project\(\S+ VERSION (\S+)", (TREE / "CMakeLists.txt").read_text())
+VERSION = f"[DEBUG] startup(N): version {_PROJECT[1]}"
 RUNNING = "[DEBUG] launcher(88): running"
 NO_NEED = "[DEBUG] launcher(93): no need to upgrade"
 FAILED = "[ERROR] launcher(100): Failed to upgrade packge"
@@ -26,7 +32,7 @@ def run(old, new: int, *between: str) -> list[str]:
     """The log of one start of a launcher with build `new`; `old` is None without a copy."""
     source = " does not exist" if old is None else f"_version = (3, 4, {old}, 7)"
     build, overlay = ("", "") if old is None else (old, "7")
-    return [RUNNING, f"[INFO] cloud-service(N): target_version = (3, 4, {new}, 7)",
+    return [VERSION, RUNNING, f"[INFO] cloud-service(N): target_version = (3, 4, {new}, 7)",
             f"[INFO] cloud-service(N): source{source}",
             f"[DEBUG] linux/linux-service(62): Source version: ('{build}', '{overlay}')",
             f"[DEBUG] linux/linux-service(63): Target version: ('{new}', '7')",

@@ -8,6 +8,7 @@ from pathlib import Path
 import pytest
 
 from cell import NOBODY
+from conftest import failure
 from user import TREE, User, until, write
 
 ALREADY = "[DEBUG] main(80): app has already launched, return"
@@ -32,6 +33,7 @@ def has_upgraded(user, started) -> None:
     assert [lock.stat().st_size for lock in locks(user.top)] == [0]
 
 
+@failure("session-ends")
 @pytest.mark.parametrize("closed", ["<&-", ">&- 2>&-", "<&- >&- 2>&-"])
 def test_closed_streams(user, closed):
     user.install_copy(1)
@@ -47,6 +49,7 @@ def test_broken_pipe(user):
     user.started("start")
 
 
+@failure("session-ends")
 @pytest.mark.parametrize("number", [signal.SIGTERM, signal.SIGHUP, signal.SIGINT])
 def test_session_ends(user, number):
     user.install_copy(1)
@@ -62,6 +65,7 @@ def test_session_ends(user, number):
     user.started("start")
 
 
+@failure("display-gone")
 def test_display_goes_away(user):
     server = subprocess.Popen(["Xvfb", ":78", "-noreset", "-nolisten", "tcp", "-nolock"],
                               stderr=subprocess.DEVNULL)
@@ -79,6 +83,7 @@ def test_display_goes_away(user):
     assert user.log()[-1] == "[DEBUG] launcher(111): done"
 
 
+@failure("no-thread", "no-process")
 @pytest.mark.second_user
 @pytest.mark.parametrize("processes", [1, 2, 3])
 def test_no_more_processes(user, processes):
@@ -93,6 +98,7 @@ def test_no_more_processes(user, processes):
     assert user.notes.exists() or "Failed to start the client" in failed
 
 
+@failure("no-display")
 @pytest.mark.parametrize("platform, session", [
     (None, {}), (None, {"DISPLAY": ":77"}), ("nonsense", {}), ("", {"DISPLAY": ":77"}),
     (None, {"XDG_SESSION_TYPE": "wayland", "WAYLAND_DISPLAY": "wayland-0"})])
@@ -206,6 +212,7 @@ def test_two_users(user, builds):
     user.wait(first)
 
 
+@failure("no-lock")
 @pytest.mark.second_user
 @pytest.mark.parametrize("link, owner", [(Path.symlink_to, NOBODY), (Path.hardlink_to, 0)])
 def test_lock_is_taken_by_somebody_else(user, link, owner):

@@ -241,7 +241,8 @@ class User:
             return []
         text = self.log_file.read_text(errors="replace")
         text = re.sub(r"(?m)^[A-Z][a-z]{2} \d\d \d\d:\d\d:\d\d ", "", text)
-        return re.sub(r" (cloud-service|extractor|file-op|startup)\(\d+\)", r" \1(N)", text).splitlines()
+        free = r" (cloud-service|extractor|file-op|startup)\(\d+\)"
+        return re.sub(free, r" \1(N)", text).splitlines()
 
     def has(self, *lines: str) -> None:
         """Each of `lines` is one of the log, or the front of one when it ends with "..."."""
