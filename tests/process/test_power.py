@@ -4,7 +4,7 @@ import shutil
 import pytest
 
 import power
-from faults import copy_of, force_upgrade, new_home, whole_and_started
+from faults import force_upgrade, new_home, whole_and_started
 from test_faults import damaged, missing
 from user import User, write
 
