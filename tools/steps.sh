@@ -11,7 +11,7 @@ readonly program=${0##*/}
 scratch=() # directories to remove at the end
 log_dir=   # where the steps' output goes; a directory of scratch by default
 step_number=0
-running= # set by find_running
+running=() # set by find_running
 QUILLMERE_RUN=${QUILLMERE_RUN-}/$program-$$
 export QUILLMERE_RUN
 
@@ -26,10 +26,12 @@ runs() { # PID
     { read -r line <"/proc/$1/stat"; } 2>/dev/null && [[ ${line##*) } != Z* ]]
 }
 
-# Sets `running` to the processes below this one and those with its mark.
+# Sets `running` to the processes below this one, those with its mark, and those that
+# were found before and have lost their parents since.
 find_running() {
     local -A parent=() mine=([$$]=1)
     local line pid rest grown=yes
+    for pid in "${running[@]}"; do mine[$pid]=1; done
     while IFS=/ read -r _ _ pid _; do mine[$pid]=1; done \
         < <(grep -lzsE "^QUILLMERE_RUN=$QUILLMERE_RUN(/|\$)" /proc/[0-9]*/environ || true)
     wait $! 2>/dev/null || true # for the search itself, which is a process below this one
