@@ -1,6 +1,8 @@
 # ./check lint: one step for each linter. Sourced by check.
 # shellcheck shell=bash
 
+readonly shell_form=(-i 4 -ci)
+
 tidy() {
     local sources
     mapfile -t sources < <(git ls-files 'ustring/*.cpp' 'lib/*.cpp' 'libcommon/*.cpp' 'qtsingleapplication/*.cpp' 'launcher/*.cpp')
@@ -28,7 +30,7 @@ lint_shell() {
     mapfile -t files < <(programs_for '(ba)?sh' '*.sh')
     shellcheck "${files[@]}"
     # Tabs, blanks and `case` are not for people to argue about.
-    shfmt -i 4 -ci -d "${files[@]}"
+    shfmt "${shell_form[@]}" -d "${files[@]}"
 }
 
 lint_python() {
