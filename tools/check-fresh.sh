@@ -82,7 +82,7 @@ traces() { # USER
     (
         cd "$root" || exit
         find ".$(home_of "$1")" -path '*/launcher' -prune -o -path '*/Quillmere Starter' -prune -o -print
-        find "$machine/tmp" -mindepth 1 -maxdepth 1 ! -name 'quillmere-demo.*' ! -name '.X*'
+        find "$machine/tmp" -mindepth 1 -maxdepth 1 ! -name 'quillmere-demo.*' ! -name .X11-unix
     ) | sort
 }
 
