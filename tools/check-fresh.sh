@@ -94,7 +94,7 @@ as_nosudo() {
     local before place=/home/nosudo/launcher command
     clone nosudo "$place"
     before=$(traces nosudo)
-    types nosudo en_US.UTF-8 "$place" './demo --help && ./check --help && ./check clean && ! ./demo nowhere'
+    types nosudo en_US.UTF-8 "$place" './demo --help && ./check --help && bench/run --help && ./check clean && ! ./demo nowhere'
     for command in ./demo ./check; do
         types nosudo en_US.UTF-8 "$place" "! $command 2>/tmp/said && grep -qE '^ +apt-get install .*cmake' /tmp/said && rm /tmp/said"
     done
