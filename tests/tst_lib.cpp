@@ -15,6 +15,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <csignal>
+#include <cstring>
 #include <memory>
 #include <thread>
 
@@ -92,16 +93,19 @@ int remove_closed() {
   put("shut/x", "");
   const uid_t user = geteuid();
   bool ready = QFile::link("../shut", "closed/link");
-  for (const char* path : {"closed/a/b", "closed/a", "closed", "shut"})
-    ready = ready && chmod(path, 0) == 0 && (user != 0 || lchown(path, 65534, 0) == 0);
-  ready = ready && chmod("closed/a", 0500) == 0 && chmod(".", 0777) == 0 &&
-          (user != 0 || seteuid(65534) == 0);
+  for (const char* path : {"closed/a/b", "closed/a", "closed", "shut"}) {
+    const mode_t mode = strcmp(path, "closed/a") == 0 ? 0500 : 0;
+    ready = ready && chmod(path, mode) == 0 && (user != 0 || lchown(path, 65534, 0) == 0);
+  }
+  ready = ready && chmod(".", 0777) == 0 && (user != 0 || seteuid(65534) == 0);
   prctl(PR_SET_DUMPABLE, 1);  // what seteuid() takes away: /proc/self
   ready = ready && FSRemove("closed", false) == 0 && IsFileExist("closed", false);
   FSMakeRemovable("closed");
   const bool followed = euidaccess("shut/x", F_OK) == 0;
   const int result = FSRemove("closed", false);
-  return seteuid(user) == 0 && ready && !followed ? result : -9;
+  // Whoever looks at what is left need not be root.
+  ready = seteuid(user) == 0 && chmod("shut", 0700) == 0 && ready;
+  return ready && !followed ? result : -9;
 }
 
 // The mode of what `make` makes at the path that it sets, under the umask given.
