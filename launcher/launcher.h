@@ -87,8 +87,8 @@ class Launcher : public QObject {
   ~Launcher() override;
 
   // Starts the worker thread, whose job is brought to its end even if the toolkit ends the
-  // process because the display has gone. Where there is none to be had, the client is started without it
-  // as soon as the event loop runs, and the application ends.
+  // process because the display has gone. Where there is none to be had, the client is started
+  // without it as soon as the event loop runs, and the application ends.
   void Run();
 
   // Has the worker begin. To be called once, after Run().
