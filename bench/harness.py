@@ -170,7 +170,8 @@ class Bench:
         if not self._server:
             reader, writer = os.pipe()
             self._server = subprocess.Popen(
-                ['Xvfb', '-noreset', '-nolisten', 'tcp', '-screen', '0', '1280x1024x24',
+                ['Xvfb', '-noreset', '-dpi', '96', '-nolisten', 'tcp',
+                 '-screen', '0', '1280x1024x24',
                  '-displayfd', str(writer)],
                 pass_fds=[writer], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
             os.close(writer)

@@ -111,7 +111,7 @@ def display() -> str:
     name = f":{os.getpid()}"
     log = open(Path(cell.WORK, f"display.{os.getpid()}"), "wb")
     env = {**os.environ, "DISPLAY": name, "HOME": cell.WORK}
-    server = subprocess.Popen(["Xvfb", name, "-noreset", "-nolisten", "tcp", "-nolock"],
+    server = subprocess.Popen(["Xvfb", name, "-dpi", "96", "-noreset", "-nolisten", "tcp", "-nolock"],
                               stdout=log, stderr=log)
 
     def answers(*question: str) -> bool:
