@@ -87,7 +87,10 @@ void Worker::JoinThread() {
   (void)m_handler_thread->wait();  // without a time limit there is nothing to report
 }
 
-void Worker::StartClient() { m_service->PostUpgrade(); }
+void Worker::StartClient() {
+  m_service->RestoreCopy();
+  m_service->PostUpgrade();
+}
 
 // Support knows these messages by their numbers, whatever lines they stand on.
 void Worker::HandleServicce() {

@@ -55,7 +55,8 @@ class Worker : public QObject {
   // Blocks until the thread has ended, without a time limit.
   void JoinThread();
 
-  // GUI thread, without a worker thread only: starts the client as it is.
+  // GUI thread, without a worker thread only: starts the client without an upgrade, from the whole
+  // copy where an earlier upgrade was cut short.
   void StartClient();
 
  signals:
