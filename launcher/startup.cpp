@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QString>
 #include <QStringList>
 #include <QTextCodec>
 #include <QTranslator>
@@ -61,6 +62,9 @@ QByteArray session_platforms() {
                        !qgetenv("XDG_SESSION_DESKTOP").toLower().contains("gnome");
   return wayland ? "wayland;xcb;offscreen" : "xcb;wayland;offscreen";
 }
+
+// The resource path of the translation for the system locale, ":/enu.qm" for example.
+QString getCurrentLanguageFileName() { return ":/" + ParvLocale::getDefaultLanguage() + ".qm"; }
 
 }  // namespace
 
@@ -160,8 +164,6 @@ void log_version() {
   Logger::LogMsg(Logger::L_DEBUG, kComponent, "[DEBUG] startup(%d): version %s\n", __LINE__,
                  QUILLMERE_VERSION);
 }
-
-QString getCurrentLanguageFileName() { return ":/" + ParvLocale::getDefaultLanguage() + ".qm"; }
 
 void install_translator(QTranslator* translator) {
   QString strLan = ":/enu.qm";

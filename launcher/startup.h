@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QByteArray>
-#include <QString>
 
 class QTranslator;
 
@@ -53,9 +52,6 @@ void initialize_logger();
 
 // The first line of a run that is logged whole: the launcher's version.
 void log_version();
-
-// The resource path of the translation for the system locale, ":/enu.qm" for example.
-[[nodiscard]] QString getCurrentLanguageFileName();
 
 // Has `translator`, which must outlive the application, translate the texts. Where there is no
 // translation they stay English.

@@ -136,6 +136,7 @@ int Config::write(const ustring& path) const {
   for (const auto& [key, value] : store) {
     if (!append_line(key, value, text)) return -1;
   }
+  if (text.size() > kMaxFile) return -1;  // read() would refuse it
   FILE* const fp = fopen(path.c_str(), "we");
   if (!fp) return -1;
   const bool written = fwrite(text.data(), 1, text.size(), fp) == text.size();

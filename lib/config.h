@@ -68,6 +68,8 @@ class Config {
   static bool is_value_char(unsigned char c);
   static bool is_space(unsigned char c);
 
+  Store::iterator begin() { return store.begin(); }
+  Store::iterator end() { return store.end(); }
   Store::const_iterator begin() const { return store.begin(); }
   Store::const_iterator end() const { return store.end(); }
 

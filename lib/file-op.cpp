@@ -206,7 +206,10 @@ int move_directory(const ustring& from, const ustring& to, bool do_case_check) {
   struct stat target;
   if (stat(from.c_str(), &source) != 0 || stat(to.c_str(), &target) != 0) return -3;
   // One directory under two names: it is where it shall be, and must not be removed.
-  if (same_object(source, target)) return -3;
+  if (same_object(source, target)) {
+    errno = EEXIST;
+    return -3;
+  }
   Dir dir(opendir(from.c_str()));
   if (!dir) return -3;
   for (const auto& [name, is_dir] : read_entries(std::move(dir))) {
@@ -373,7 +376,7 @@ int FSRemove(const ustring& path, bool /*allowundo*/) {
 void FSMakeRemovable(const ustring& path) { make_tree_removable(path.c_str()); }
 
 int FSSync(const ustring& path) {
-  const Descriptor fd(TEMP_FAILURE_RETRY(open(path.c_str(), O_RDONLY | O_CLOEXEC)));
+  const Descriptor fd(TEMP_FAILURE_RETRY(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC)));
   if (fd.is_open() && syncfs(fd.get()) == 0) return 0;
   if (fd.is_open() && errno == ENOSYS) {
     // Not refused but not there, by the kernel or a sandbox: sync() waits for all file systems.

@@ -24,8 +24,14 @@ struct Level {
   dev_t device = 0;  // what was closed, to know it again
   ino_t inode = 0;
   bool progress = false;             // something was removed since its reading began
+  int readings = 0;                  // how often it has been read to its end
   std::vector<std::string> pending;  // its directories that are still to be visited
 };
+
+// How often a directory is read again. Streams that miss entries need a few times; where a name
+// comes back whenever it is removed (a file that somebody holds, on some network file systems),
+// it would go on for ever.
+constexpr int kMaxReadings = 256;
 
 // The way down. The lowest levels are open, those further up are closed and opened again by way
 // of "..", which costs the same at any depth.
@@ -107,6 +113,7 @@ bool remove_current(Descent& descent) {
     return true;
   }
   if ((errno != ENOTEMPTY && errno != EEXIST) || !here.progress) return false;
+  if (++here.readings > kMaxReadings) return false;
   here.progress = false;
   rewinddir(here.dir.get());
   return true;

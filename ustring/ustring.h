@@ -113,6 +113,8 @@ class ustring {
   // it was, so it shows the old text: whoever needs the view afterwards must not build it before.
   // 16-bit input afterwards continues that old view, and so undoes the change.
   ustring& replace(char from, char to) noexcept;
+  template <class From, class To>
+  ustring& replace(From from, To to) = delete;  // a 16-bit unit or a number is no char
 
   // Removes the leading (ltrim) and trailing (rtrim) bytes contained in set; an empty set
   // removes nothing. trim() does both.
@@ -152,7 +154,8 @@ class ustring {
   // Forward searches begin at pos and find nothing if pos >= length(). Backward searches begin at
   // pos or, if that is at or beyond the end, at the last byte. An empty text never matches, not
   // even an empty needle. A needle is a zero-terminated text, a std::string, a ustring or a char;
-  // it ends at its first zero byte, and the char '\0' is an empty one.
+  // it ends at its first zero byte, and the char '\0' is an empty one. UTF-16 is looked for as
+  // ustring(u"...").
 
   // The needle as a whole, beginning at pos or later; an empty needle matches at pos.
   size_t find(const needle& s, size_t pos = 0) const;
