@@ -184,7 +184,7 @@ void Service::RestoreCopy() {
   // cut short, the next run begins it anew. The removal is to reach the disk before the rename.
   discard_copy(app);
   (void)FSSync(backup);  // moving it back is right even when this fails
-  if (FSRename(backup, app, false) != 0) {
+  if (FSRenameWhole(backup, app) != 0) {
     Logger::LogMsg(Logger::L_ERR, kComponent,
                    "[ERROR] cloud-service(%d): failed to move '%s' back to '%s'\n", __LINE__,
                    backup.c_str(), app.c_str());
@@ -219,6 +219,8 @@ int Service::PrepareUserEnv() {
 // more, so that what a removal leaves that is cut short is never taken for a copy.
 void Service::RemoveBackups(const ustring& app, int last) {
   for (int i = 0; i <= last; ++i) unmark(GetAppBackupDir(app, i));
+  // After a loss of power one of several could be whole in name alone, and pass for the newest.
+  if (last > 0 && !is_missing(app)) (void)FSSync(app);
   for (int i = 0; i <= last; ++i) {
     const ustring backup = GetAppBackupDir(app, i);
     if (remove_all(backup)) continue;
@@ -229,12 +231,14 @@ void Service::RemoveBackups(const ustring& app, int last) {
   }
 }
 
-// Moves `app` to the first backup name that takes it. 0 with its name in `backup` and its
-// number in `retry`; -1 with `app` in place when none of the names does.
+// Moves `app` to the first backup name that takes it, in one piece: some file systems move a
+// directory file by file only, and a move that was cut short there would leave no whole copy. 0
+// with its name in `backup` and its number in `retry`; -1 with `app` in place when none of the
+// names does.
 int Service::BackUp(const ustring& app, ustring& backup, int& retry) {
   for (retry = 0; retry < kMaxBackups; ++retry) {
     backup = GetAppBackupDir(app, retry);
-    if (FSRename(app, backup, false) == 0) return 0;
+    if (FSRenameWhole(app, backup) == 0) return 0;
     Logger::LogMsg(Logger::L_ERR, kComponent,
                    "[ERROR] cloud-service(%d): failed to backup app from '%s' -> '%s'\n", __LINE__,
                    app.c_str(), backup.c_str());
@@ -259,7 +263,7 @@ void Service::RollBack(const ustring& app, const ustring& backup) {
       "[ERROR] cloud-service(%d): Failed to extract package, rollback to old installation\n",
       __LINE__);
   discard_copy(app);
-  if (FSRename(backup, app, false) != 0) {
+  if (FSRenameWhole(backup, app) != 0) {
     Logger::LogMsg(
         Logger::L_ERR, kComponent,
         "[ERROR] cloud-service(%d): failed to roll back, the old installation stays in '%s'\n",

@@ -40,16 +40,21 @@ struct WriterCloser {
 };
 using Writer = std::unique_ptr<archive, WriterCloser>;
 
-// An archive handle's error text, and behind it the system's reason where it has one; without
-// a text, that of the handle it worked for.
-ustring error_text(archive* handle, archive* other = nullptr) {
-  archive* const failed = archive_error_string(handle) || !other ? handle : other;
-  const char* const text = archive_error_string(failed);
-  const int code = archive_errno(failed);
+// A reader's own words for what failed.
+const char* error_text(archive* reader) {
+  const char* const text = archive_error_string(reader);
+  return text ? text : "";
+}
+
+// What failed in writing, with the system's reason behind it where there is one: a full disk is
+// not to be told from a quota otherwise. Where only the reading failed, the reader's words.
+ustring write_error_text(archive* writer, archive* reader = nullptr) {
+  const char* const text = archive_error_string(writer);
+  if (!text) return reader ? error_text(reader) : "";
+  const int code = archive_errno(writer);
   // The library's own codes are -1 and these two, which would say nothing about the system.
   const bool has_reason = code > 0 && code != EILSEQ && code != EINVAL;
-  return ustring(text ? text : "") +
-         (has_reason ? ustring(" (") + strerror(code) + ")" : ustring());
+  return has_reason ? ustring(text) + " (" + strerror(code) + ")" : ustring(text);
 }
 
 // A reader for every format and compression, null when there is no memory or no library.
@@ -78,7 +83,7 @@ Reader open_for_listing(const ustring& source) {
   if (open_source(reader.get(), source) != ARCHIVE_OK) {
     Logger::LogMsg(Logger::L_ERR, kComponent,
                    "[ERROR] extractor(%d): archive_read_open_filename failed: '%s'\n", __LINE__,
-                   error_text(reader.get()).c_str());
+                   error_text(reader.get()));
     return nullptr;
   }
   return reader;
@@ -166,7 +171,7 @@ int Extractor::Extract() {
   if (open_source(reader.get(), source) != ARCHIVE_OK) {
     Logger::LogMsg(Logger::L_ERR, kComponent,
                    "[ERROR] extractor(%d): Failed to read file '%s' ('%s')\n", __LINE__,
-                   source.c_str(), error_text(reader.get()).c_str());
+                   source.c_str(), error_text(reader.get()));
     return -1;
   }
   return ExtractEntries(reader.get(), writer.get(), total);
@@ -181,7 +186,7 @@ int Extractor::ExtractEntries(archive* reader, archive* writer, int total) {
     if (status != ARCHIVE_OK) {
       Logger::LogMsg(Logger::L_ERR, kComponent,
                      "[ERROR] extractor(%d): archive_read_next_header failed: '%s'\n", __LINE__,
-                     error_text(reader).c_str());
+                     error_text(reader));
       return -1;
     }
 
@@ -197,7 +202,7 @@ int Extractor::ExtractEntries(archive* reader, archive* writer, int total) {
     if (archive_read_extract2(reader, entry, writer) != ARCHIVE_OK) {
       Logger::LogMsg(Logger::L_ERR, kComponent,
                      "[ERROR] extractor(%d): archive_read_extract2 failed: '%s'\n", __LINE__,
-                     error_text(writer, reader).c_str());
+                     write_error_text(writer, reader).c_str());
       return -1;
     }
     ++done;
@@ -205,7 +210,7 @@ int Extractor::ExtractEntries(archive* reader, archive* writer, int total) {
     if (archive_write_finish_entry(writer) != ARCHIVE_OK) {
       Logger::LogMsg(Logger::L_ERR, kComponent,
                      "[ERROR] extractor(%d): archive_write_finish_entry failed: '%s'\n", __LINE__,
-                     error_text(writer).c_str());
+                     write_error_text(writer).c_str());
       return -1;
     }
     early_sync.Add(path, archive_entry_size(entry));
@@ -266,13 +271,13 @@ int Extractor::copy_data(archive* reader, archive* writer) {
     if (status != ARCHIVE_OK) {
       Logger::LogMsg(Logger::L_ERR, kComponent,
                      "[ERROR] extractor(%d): archive_read_data_block failed: '%s'\n", __LINE__,
-                     error_text(reader).c_str());
+                     error_text(reader));
       return -1;
     }
     if (archive_write_data_block(writer, buffer, size, offset) != ARCHIVE_OK) {
       Logger::LogMsg(Logger::L_ERR, kComponent,
                      "[ERROR] extractor(%d): archive_write_data_block failed: '%s'\n", __LINE__,
-                     error_text(writer).c_str());
+                     write_error_text(writer).c_str());
       return -1;
     }
   }

@@ -8,6 +8,7 @@
 #include <QIcon>
 #include <QLabel>
 #include <QStyle>
+#include <QTimer>
 
 #include <cstdlib>
 
@@ -70,8 +71,7 @@ Worker::Worker() {
 Worker::~Worker() {
   // The controller has done both, unless the event loop ended in another way (a session
   // that closes): then the job is still brought to its end.
-  QuitThread();
-  JoinThread();
+  FinishJob();
   delete m_handler_thread;
   delete m_service;
 }
@@ -85,6 +85,14 @@ void Worker::QuitThread() { m_handler_thread->quit(); }
 
 void Worker::JoinThread() {
   (void)m_handler_thread->wait();  // without a time limit there is nothing to report
+}
+
+void Worker::FinishJob() {
+  // Behind the job: a thread that is asked to end before its event loop runs drops what is queued.
+  // The call cannot fail for a function object.
+  (void)QMetaObject::invokeMethod(
+      this, [this] { QuitThread(); }, Qt::QueuedConnection);
+  JoinThread();
 }
 
 void Worker::StartClient() {
@@ -130,9 +138,7 @@ static void set_application_look() {
 static void finish_at_exit(Worker* worker) {
   static Worker* unfinished = nullptr;
   const auto finish = [] {
-    if (!unfinished) return;
-    unfinished->QuitThread();
-    unfinished->JoinThread();
+    if (unfinished) unfinished->FinishJob();
   };
   // Without room for it such an exit cuts the job short, which the next start mends.
   static const int registered = std::atexit(finish);
@@ -177,12 +183,11 @@ void Launcher::Run() {
   }
   Logger::LogMsg(Logger::L_ERR, kComponent,
                  "[ERROR] launcher(%d): Failed to start the worker thread, no upgrade\n", __LINE__);
-  const auto start_client = [this] {
+  // Quitting takes an event loop that runs.
+  QTimer::singleShot(0, this, [this] {
     m_worker->StartClient();
     LaunchDone();
-  };
-  // Quitting takes an event loop that runs. The call cannot fail for a function object.
-  (void)QMetaObject::invokeMethod(this, start_client, Qt::QueuedConnection);
+  });
 }
 
 void Launcher::Start() { emit sigStart(); }

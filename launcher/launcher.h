@@ -55,6 +55,9 @@ class Worker : public QObject {
   // Blocks until the thread has ended, without a time limit.
   void JoinThread();
 
+  // Has the thread end when what was asked of it is done, and waits for that.
+  void FinishJob();
+
   // GUI thread, without a worker thread only: starts the client without an upgrade, from the whole
   // copy where an earlier upgrade was cut short.
   void StartClient();

@@ -44,8 +44,8 @@ constexpr char kHelp[] =
 // A name found through PATH has none, and a link has another; what lies there, lib/plugins
 // included, is anybody's.
 QString path_of_executable(const char* bin) {
-  const QString bin_path = QString::fromLocal8Bit(bin);
-  const QString actual = QFileInfo("/proc/self/exe").canonicalFilePath();
+  QString bin_path = QString::fromLocal8Bit(bin);
+  QString actual = QFileInfo("/proc/self/exe").canonicalFilePath();
   if (actual.isEmpty()) return bin_path;  // not to be had where /proc is not
   const auto root = [](const QString& path) {
     return QDir(QDir::cleanPath(path + "/../..")).canonicalPath();

@@ -347,14 +347,20 @@ int FSMKDirP(const ustring& path, char** endptr, bool blForceCreate, mode_t mode
   return result;
 }
 
-int FSRename(const ustring& from, const ustring& to, bool do_case_check) {
+int FSRenameWhole(const ustring& from, const ustring& to) {
   if (from.empty() || to.empty()) return -1;
   FILE_INFO info;
-  if (FSStat(from, info, do_case_check) != 0 || !info.isExist) return -2;
+  if (FSStat(from, info, false) != 0 || !info.isExist) return -2;
   if (rename(from.c_str(), to.c_str()) == 0) return 0;
-  if (errno == ENAMETOOLONG) return -100;
-  if (errno != EXDEV) return -3;
+  return errno == ENAMETOOLONG ? -100 : -3;
+}
 
+int FSRename(const ustring& from, const ustring& to, bool do_case_check) {
+  const int whole = FSRenameWhole(from, to);
+  if (whole != -3 || errno != EXDEV) return whole;
+
+  FILE_INFO info;
+  if (FSStat(from, info, do_case_check) != 0) return -2;
   switch (info.type) {
     case FT_FILE: return FSCopy(from, to, true) < 0 ? -3 : 0;
     case FT_DIR: return move_directory(from, to, do_case_check);

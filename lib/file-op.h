@@ -125,6 +125,10 @@ bool IsFileExist(const ustring& path, bool do_case_check);
 // by way of a second mount. -2 when `from` does not exist.
 [[nodiscard]] int FSRename(const ustring& from, const ustring& to, bool do_case_check);
 
+// FSRename for what must stay in one piece: where only its files could be moved, one by one,
+// nothing is moved, and that is -3.
+[[nodiscard]] int FSRenameWhole(const ustring& from, const ustring& to);
+
 // Removes a file or a whole tree, links not followed. A missing object is a success,
 // and so is a directory that cannot be opened, which stays. The first failure ends the
 // removal and leaves the rest. `allowundo` has no effect: nothing can be undone.

@@ -7,9 +7,15 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/vfs.h>
 #include <unistd.h>
 
 namespace {
+
+// File-system types, from the statfs manual page.
+constexpr quint32 kNfsMagic = 0x6969;
+constexpr quint32 kCifsMagic = 0xFF534D42;
+constexpr quint32 kSmb2Magic = 0xFE534D42;
 
 constexpr int kAttempts = 100;  // holders that come and go between two looks at the lock
 
@@ -26,6 +32,14 @@ QString runtimeDirectory() {
 QString homeDirectory() {
   const QString path = QDir::homePath() + QLatin1String("/.Quillmere");
   return QDir().mkpath(path) ? path : QString();
+}
+
+// Whether `path` lies on a file server, which may remember the lock of a machine that has died.
+bool isRemote(const QString& path) {
+  struct statfs fs;
+  if (statfs(QFile::encodeName(path).constData(), &fs) != 0) return false;
+  const auto type = static_cast<quint32>(fs.f_type);
+  return type == kNfsMagic || type == kCifsMagic || type == kSmb2Magic;
 }
 
 QString lockFileName() {
@@ -80,6 +94,8 @@ QtSingleApplication::QtSingleApplication(int& argc, char** argv, bool /*GUIenabl
     : QApplication(argc, argv) {
   // Always in this order: of several that start at once, one has all that there are.
   for (const QString& directory : {runtimeDirectory(), homeDirectory()}) {
+    // Better two on two machines than none because of a third.
+    if (!m_lockFiles.isEmpty() && isRemote(directory)) continue;
     const int lockFile = openLockFile(directory);
     if (lockFile < 0) continue;
     m_lockFiles.append(lockFile);

@@ -14,7 +14,8 @@
 //   own and nobody else's: one place for all of the user's sessions, whatever their environment;
 // - home + "/.Quillmere", which is made when it is missing: it holds what an instance works on,
 //   and so keeps instances apart that have no such directory, or another one (after a logout in
-//   the middle, or on another machine with the same home).
+//   the middle). A file server may keep the lock of a machine that died: a home there is locked
+//   only where there is no runtime directory.
 //
 // Nobody else can take a name there. An instance runs when it has the lock in each place where
 // there is one to be had. They exchange no messages.
