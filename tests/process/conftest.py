@@ -111,8 +111,8 @@ def display() -> str:
     name = f":{os.getpid()}"
     log = open(Path(cell.WORK, f"display.{os.getpid()}"), "wb")
     env = {**os.environ, "DISPLAY": name, "HOME": cell.WORK}
-    server = subprocess.Popen(["Xvfb", name, "-dpi", "96", "-noreset", "-nolisten", "tcp", "-nolock"],
-                              stdout=log, stderr=log)
+    server = subprocess.Popen(["Xvfb", name, "-dpi", "96", "-noreset", "-nolisten", "tcp",
+                               "-nolock"], stdout=log, stderr=log)
 
     def answers(*question: str) -> bool:
         said = subprocess.run(["xprop", "-root", *question], env=env, capture_output=True)

@@ -1,13 +1,15 @@
 """The running client: which process is asked to end, how long it is given, and who is spared."""
 import os
+import shutil
 import subprocess
 import time
+from pathlib import Path
 
 import pytest
 
 import lines
 from conftest import failure
-from user import runs, until, write
+from user import runs, slowness, until, write
 
 
 def start_client(user, kind: str) -> int:
@@ -62,55 +64,80 @@ def test_window_while_upgrading(user, display):
     upgrade_beside(user, "stubborn", old, started)
 
 
-# ---- Pid files. Beside the launcher there is a process that leads a group of its own.
+# ---- Pid files. Numbers of processes are given out anew in the cell of the row.
 
-BYSTANDER = "BYSTANDER"
-NO_PROCESS = ["name=x\n", "pid=\"\"", "pid=x1", "pid=0", "pid=-1", f"pid=-{BYSTANDER}",
-              "pid=99999999999999999999", "pid=4294967295", "pid=18446744073709551615",
-              "pid=2147483648", ""]
-MALFORMED = [f"pid={BYSTANDER}\nno line\n", "pid=", f"pid={BYSTANDER} x"]
-SECOND_USER = pytest.mark.second_user
-PID_FILES = [
-    pytest.param("missing", lines.no_pid, marks=failure("no-pid")),
-    *((text, lines.no_pid) for text in NO_PROCESS),
-    ("its own", lines.no_pid),
-    pytest.param("directory", lines.bad_pid, marks=failure("bad-pid-file")),
-    *((text, lines.bad_pid) for text in MALFORMED),
-    pytest.param("locked", lines.bad_pid, marks=SECOND_USER),
-    pytest.param("gone", None, marks=failure("client-gone")),
-    pytest.param("somebody else's", lambda user: "[ERROR] linux/linux-service(96): kill: "
-                 "Operation not permitted (1)", marks=[SECOND_USER, failure("foreign-client")]),
-]
+NO_CLIENT, SECOND_USER = "sleep 200", pytest.mark.second_user
+DAYS = 3 * 24 * 3600
 
 
-@pytest.mark.parametrize("text, line", PID_FILES)
-def test_pid_file(user, text, line):
+def start_with_number(number: int, *command: str) -> subprocess.Popen:
+    """Starts `command` as the process `number`, which nobody else must have."""
+    Path("/proc/sys/kernel/ns_last_pid").write_text(str(number - 1))
+    started = subprocess.Popen(command)
+    assert started.pid == number
+    return started
+
+
+# The text with the number of a process that leads a group of its own, the line, what that runs
+@pytest.mark.parametrize("text, line, command", [
+    pytest.param(None, lines.no_pid, NO_CLIENT, marks=failure("no-pid")),
+    ("pid=-{}\n", lines.no_pid, NO_CLIENT),
+    ("pid=0\n", lines.no_pid, NO_CLIENT),
+    ("pid=-1\n", lines.no_pid, NO_CLIENT),
+    pytest.param("pid={}\nno line\n", lines.bad_pid, NO_CLIENT, marks=failure("bad-pid-file")),
+    ("pid={} x", lines.bad_pid, NO_CLIENT),
+    pytest.param("locked pid={}\n", lines.bad_pid, NO_CLIENT, marks=SECOND_USER),
+    pytest.param("pid={}\n", None, "true", marks=failure("client-gone")),
+    pytest.param("pid={}\n", lambda user: "[ERROR] linux/linux-service(96): kill: Operation not "
+                 "permitted (1)", NO_CLIENT, marks=[SECOND_USER, failure("foreign-client")]),
+])
+def test_pid_file(user, text, line, command):
+    """Whoever is not this user's client goes on, and nobody else is waited for."""
     user.install_copy(1)
-    bystander = subprocess.Popen(["sleep", "200"], start_new_session=True)
-    through = []
-    if text == "directory":
-        user.pid_file.mkdir()
-    elif text == "locked":
-        write(user.pid_file, f"pid={bystander.pid}\n", 0)
-    elif text == "gone":
-        gone = subprocess.Popen(["true"])
-        gone.wait()
-        write(user.pid_file, f"pid={gone.pid}\n")
-    elif text == "its own":
-        through = ["sh", "-c", f'echo "pid=$$" >"{user.pid_file}"; exec "$@"', "sh"]
-    elif text == "somebody else's":
-        write(user.pid_file, f"pid={bystander.pid}\n")
-    elif text != "missing":
-        write(user.pid_file, text.replace(BYSTANDER, str(bystander.pid)))
-    if text in ("locked", "somebody else's"):
+    bystander = subprocess.Popen(command.split(), start_new_session=True)
+    if command == "true":
+        bystander.wait()
+    if text:
+        write(user.pid_file, text.removeprefix("locked ").format(bystander.pid))
+    if line not in (None, lines.no_pid):
         user.give_away()
-        if text == "locked":
-            os.chown(user.pid_file, 0, 0)
+    if text and text.startswith("locked"):
+        os.chown(user.pid_file, 0, 0)
+        user.pid_file.chmod(0)
     begin = time.monotonic()
-    user.launch(*through)
+    user.launch()
     took = time.monotonic() - begin
     assert user.log() == lines.upgrade(user, 1, 2, lines.EXISTS, *([line(user)] if line else []))
     user.copy_is(2)
     user.started("start")
+    assert runs(bystander.pid) == (command == NO_CLIENT)
+    assert took < 4 * slowness() or line not in (None, lines.no_pid, lines.bad_pid)
+
+
+@pytest.mark.parametrize("is_client", [
+    pytest.param(True, marks=failure("stepped-clock")),
+    pytest.param(False, marks=failure("recycled-pid"))])
+def test_process_younger_than_the_file(user, is_client):
+    """The place of its program tells a client whose clock was set from somebody else."""
+    user.install_copy(1)
+    program = shutil.copy("/bin/sleep", user.top) if is_client else "sleep"
+    process = subprocess.Popen([program, "200"])
+    write(user.pid_file, f"pid={process.pid}\n")
+    os.utime(user.pid_file, (time.time() - DAYS,) * 2)
+    user.launch()
+    assert runs(process.pid) != is_client
+    assert is_client or lines.no_pid(user) in user.log()
+    user.copy_is(2)
+
+
+def test_number_taken_over_while_waiting(user):
+    """Somebody else has the client's number when that would be killed for not having ended."""
+    user.install_copy(1)
+    client = start_with_number(5000, "sh", "-c", "trap 'sleep 2; exit' TERM; sleep 200 & wait")
+    write(user.pid_file, "pid=5000\n")
+    started = user.start()
+    client.wait()
+    bystander = start_with_number(5000, "sleep", "200")
+    user.wait(started)
+    user.copy_is(2)
     assert runs(bystander.pid)
-    assert text == "somebody else's" or took < 4  # nobody is waited for

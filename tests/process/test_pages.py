@@ -4,7 +4,6 @@ import re
 from conftest import TREE
 
 
-
 def test_failures_have_tests():
     """The last column of the tables of docs/failures.md holds ids; failure("id") marks a test."""
     page = (TREE / "docs/failures.md").read_text()

@@ -1,4 +1,4 @@
-"""A user of the launcher: a home, a copy of the client, the launcher's starts and what they left."""
+"""A user of the launcher: a home, a copy of the client, the starts and what they left."""
 import hashlib
 import os
 import re
@@ -67,7 +67,7 @@ def write(path: Path, content, mode: int = 0o644) -> Path:
 
 
 def make_client(top: Path, build: int, size: int = 1) -> Path:
-    """A client of about 50 KB, or `size` times as much, with names, modes and links of all sorts."""
+    """A client of about 50 KB, or `size` times as much, with names and links of all sorts."""
     write(top / "package/start-stop", START_STOP, 0o755)
     write(top / "bin/cloud-ui", CLOUD_UI, 0o755)
     for n in range(3):
