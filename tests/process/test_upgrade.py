@@ -37,26 +37,8 @@ def test_large_client(user, large_builds):
     user.copy_is(2)
 
 
-def test_lower_build(user, builds):
-    user.install_copy(2)
-    user.root = builds[1].root
-    user.launch()
-    assert user.log() == lines.run(2, 1, lines.NO_NEED)
-    user.copy_is(2)
-    user.started("start")
-
-
-def test_client_missing(user):
-    user.install_copy(2)
-    (user.app / "bin/cloud-ui").unlink()
-    user.launch()
-    assert user.log() == lines.upgrade(user, 2, 2)
-    user.copy_is(2)
-
-
-# ---- Packages that cannot be unpacked: what was unpacked goes, and the old copy is started
-
 REG, LINK = tarfile.REGTYPE, tarfile.LNKTYPE
+TAKEN = "[ERROR] cloud-service(N): failed to backup app from '{0.app}' -> '{0.app}_tmp"
 
 
 def tar(build, *entries) -> bytes:
@@ -75,37 +57,111 @@ def flip(archive: bytes, at: int) -> bytes:
     return archive[:at] + bytes([archive[at] ^ 4]) + archive[at + 1:]
 
 
-# Of build 2's package and its archive: the content of a bad one, None for none at all.
-BAD_PACKAGES = {
-    "missing": lambda good, build: None,
-    "text": lambda good, build: b"no archive\n" * 999,
-    "no entries": lambda good, build: bytes(10240),
-    "half": lambda good, build: good[:len(good) // 2],
-    "half a plain tar": lambda good, build: tar(build)[:len(tar(build)) // 2],
-    "last byte missing": lambda good, build: good[:-1],
-    "bit of a file's contents": lambda good, build: flip(good, len(good) // 2),
-    "bit of INFO": lambda good, build: flip(good, good.rindex(b"\x28\xb5\x2f\xfd") - 1000),
-    "above the copy": lambda good, build: tar(build, ("../evil", REG, "", b"evil")),
-    "hard link": lambda good, build: tar(build, ("1", REG, "", b"1"), ("2", LINK, "1", b"")),
-    "file for the target": lambda good, build: tar(build, ("./.", REG, "", b"evil")),
+def package(change):
+    """Puts what `change` makes of build 2's package, or a tar with a further entry, in its place."""
+    def spoil(user):
+        if isinstance(change, tuple):
+            return write(user.package, tar(user.builds[2], change))
+        return write(user.package, change(user.package.read_bytes()))
+    return spoil
+
+
+def info(text, of_copy=False):
+    """Replaces a version file, by nothing at all or a directory when it has no text."""
+    def spoil(user):
+        path = (user.app if of_copy else user.root) / "INFO"
+        path.unlink()
+        if text == "directory":
+            path.mkdir()
+        elif text == "locked":
+            user.give_away()
+            os.chown(write(path, "[Version]\nbuild_version=9\n", 0), 0, 0)
+        elif text:
+            write(path, text)
+    return spoil
+
+
+def small_disk(user):
+    copy = subprocess.run(["tar", "-C", user.top, "-c", "app"], check=True, stdout=subprocess.PIPE)
+    subprocess.run(["mount", "-t", "tmpfs", "-o", "size=120k", "tmpfs", user.home], check=True)
+    user.top.mkdir()
+    subprocess.run(["tar", "-C", user.top, "-x"], input=copy.stdout, check=True)
+
+
+def taken(count: int):
+    """Makes the first names for backups those of something else."""
+    def spoil(user):
+        for n in range(count):
+            (user.top / f"app_tmp{n or ''}/taken").mkdir(parents=True)
+    return spoil
+
+
+def compared(build: int) -> str:
+    return f"[DEBUG] linux/linux-service(126): source version = 1, target version = {build}"
+
+
+ROLLED_BACK = 1, lines.ROLLED_BACK, "[ERROR] extractor(N): ...", lines.FAILED, lines.DONE
+REPLACED, KEPT = (2, lines.READY), (1, lines.NO_NEED)
+REFUSED = "[WARNING] cloud-service(N): version file '{0.%s}/INFO' is refused..."
+VARIANT = "[Version]\nbuild_version=@Variant(2)\n"
+
+# What is done to a user with build 1 and a package root with build 2; which build is in
+# place and started after a start, and what the log says.
+STARTS = {
+    "client missing": (lambda user: (user.app / "bin/cloud-ui").unlink(), REPLACED),
+    "no package": (lambda user: user.package.unlink(), ROLLED_BACK),
+    "text for a package": (package(lambda _: b"no archive\n" * 999), ROLLED_BACK),
+    "no entries": (package(lambda _: bytes(10240)), ROLLED_BACK),
+    "half": (package(lambda good: good[:len(good) // 2]), ROLLED_BACK),
+    "last byte missing": (package(lambda good: good[:-1]), ROLLED_BACK),
+    "bit of a file": (package(lambda good: flip(good, len(good) // 2)), ROLLED_BACK),
+    "above the copy": (package(("../evil", REG, "", b"evil")), ROLLED_BACK),
+    "hard link": (package(("two", LINK, "INFO", b"")), ROLLED_BACK),
+    "file for the target": (package(("./.", REG, "", b"evil")), ROLLED_BACK),
+    "package/no INFO": (info(""), KEPT),
+    "package/directory": (info("directory"), KEPT),
+    "package/locked": (info("locked"), KEPT),
+    "package/object": (info(VARIANT), (*KEPT, REFUSED % "root")),
+    "copy/no INFO": (info("", True), REPLACED),
+    "copy/cut off": (info("[Version\n", True), REPLACED),
+    "copy/locked": (info("locked", True), REPLACED),
+    "copy/object": (info(VARIANT, True), (*REPLACED, REFUSED % "app")),
+    "3 or so": (info("[Version]\nbuild_version=3 or so\n"), (2, compared(3))),
+    "1x": (info("[Version]\nbuild_version=1x\n"), (*KEPT, compared(1))),
+    "x9": (info("[Version]\nbuild_version=x9\n"), (*KEPT, compared(0))),
+    "full disk": (small_disk, ROLLED_BACK),
+    "three names taken": (taken(3), (2, f"{TAKEN}'", f"{TAKEN}2'")),
+    "all names taken": (taken(100), (
+        1, f"{TAKEN}'", f"{TAKEN}98'", f"{TAKEN}99' at max retries, exiting", lines.FAILED)),
+    "file for the log's directory": (lambda user: write(user.top / "log", ""), (2,)),
+    "no pictures": (lambda user: shutil.rmtree(user.root / "images"), REPLACED),
 }
 
 
-@failure("rolled-back", "no-archive", "empty-archive", "damaged-archive", "bad-entry",
-         "hard-link", "target-entry")
-@pytest.mark.parametrize("name", BAD_PACKAGES)
-def test_bad_package(user, name):
+@failure("rolled-back", "no-archive", "empty-archive", "damaged-archive", "bad-entry", "hard-link",
+         "target-entry", "bad-package-info", "bad-copy-info", "refused-info", "odd-build-number",
+         "full-disk", "backup-name-taken", "no-backup-name", "no-log-directory", "no-icon")
+@pytest.mark.parametrize("name", [pytest.param(name, marks=second_user if "locked" in name else [])
+                                  for name in STARTS])
+def test_start(user, name):
+    spoil, (build, *said) = STARTS[name]
     user.install_copy(1)
     user.own_root()
-    content = BAD_PACKAGES[name](user.package.read_bytes(), user.builds[2])
-    user.package.unlink()
-    if content is not None:
-        write(user.package, content)
+    spoil(user)
     user.launch()
-    user.has(lines.ROLLED_BACK, lines.FAILED, lines.DONE, "[ERROR] extractor(N): ...")
-    user.copy_is(1)
+    user.has(*(line.format(user) for line in said))
+    user.copy_is(build, backups=100 if name == "all names taken" else 0)
     user.started("start")
     assert not (user.top / "evil").exists()
+
+
+def test_lower_build(user, builds):
+    user.install_copy(2)
+    user.root = builds[1].root
+    user.launch()
+    assert user.log() == lines.run(2, 1, lines.NO_NEED)
+    user.copy_is(2)
+    user.started("start")
 
 
 @failure("no-rollback")
@@ -117,45 +173,6 @@ def test_bad_package_without_a_copy(user):
     user.started()
 
 
-# ---- Version files
-
-@failure("bad-package-info", "bad-copy-info", "refused-info")
-@pytest.mark.parametrize("of_package", [True, False])
-@pytest.mark.parametrize("content", [
-    None, "directory", "[Version\n", "[Version]\nbuild_version=@Variant(2)\n",
-    pytest.param("locked", marks=second_user)])
-def test_bad_version_file(user, of_package, content):
-    """Counts as build 0, whose it may be."""
-    user.install_copy(1)
-    info = (user.own_root() if of_package else user.app) / "INFO"
-    if content == "locked":
-        user.give_away()
-        os.chown(write(info, "[Version]\nbuild_version=9\n", 0), 0, 0)
-    elif content == "directory":
-        info.unlink()
-        info.mkdir()
-    elif content:
-        write(info, content)
-    else:
-        info.unlink()
-    user.launch()
-    user.has(lines.NO_NEED if of_package else lines.READY)
-    if content and "@" in content:
-        user.has(f"[WARNING] cloud-service(N): version file '{info}' is refused...")
-    user.copy_is(1 if of_package else 2)
-    user.started("start")
-
-
-@failure("odd-build-number")
-@pytest.mark.parametrize("text, build, after", [("3 or so", 3, 2), ("1x", 1, 1), ("x9", 0, 1)])
-def test_odd_build_number(user, text, build, after):
-    user.install_copy(1)
-    write(user.own_root() / "INFO", f"[Version]\nbuild_version={text}\n")
-    user.launch()
-    user.has(f"[DEBUG] linux/linux-service(126): source version = 1, target version = {build}")
-    user.copy_is(after)
-
-
 @failure("inner-info-lower")
 def test_package_with_a_lower_build_inside(user):
     write(user.own_root() / "INFO", "[Version]\nbuild_version=3\n")
@@ -164,8 +181,6 @@ def test_package_with_a_lower_build_inside(user):
         user.copy_is(2)
     assert user.log().count(lines.READY) == 2
 
-
-# ---- Homes and disks that do not go along
 
 @second_user
 @failure("no-log", "no-log-directory", "no-backup-name")
@@ -187,49 +202,13 @@ def test_read_only_home(user, copy):
         assert list(user.home.iterdir()) == []
 
 
-@failure("no-log-directory", "no-target")
-@pytest.mark.parametrize("name", ["log", "."])
-def test_file_for_a_directory(user, name):
-    if name == ".":
-        user.top.rmdir()
-    taken = write(user.top / name, "")
-    said = user.launch()
-    assert taken.is_file()
-    if name == ".":
-        assert lines.FAILED in said
-    else:
-        user.copy_is(2)
+@failure("no-target")
+def test_file_for_the_product_directory(user):
+    user.top.rmdir()
+    write(user.top, "")
+    assert lines.FAILED in user.launch()
+    user.started()
 
-
-@failure("full-disk")
-def test_full_disk(user):
-    subprocess.run(["mount", "-t", "tmpfs", "-o", "size=120k", "tmpfs", user.home], check=True)
-    user.top.mkdir()
-    user.install_copy(1)
-    user.launch()
-    user.has(lines.FAILED)
-    user.copy_is(1)
-    user.started("start")
-
-
-@failure("backup-name-taken")
-@pytest.mark.parametrize("taken, after", [(3, 2), (100, 1)])
-def test_names_taken(user, taken, after):
-    user.install_copy(1)
-    names = [user.top / f"app_tmp{n or ''}" for n in range(taken)]
-    for name in names:
-        (name / "taken").mkdir(parents=True)
-    user.launch()
-    user.has(*(f"[ERROR] cloud-service(N): failed to backup app from '{user.app}' -> '{name}'"
-               for name in names))
-    if after == 1:
-        user.has(lines.FAILED, "[ERROR] cloud-service(N): failed to backup app from "
-                 f"'{user.app}' -> '{names[99]}' at max retries, exiting")
-    user.copy_is(after, backups=taken if after == 1 else 0)
-    user.started("start")
-
-
-# ---- What else there is to configure
 
 @failure("bad-level-file")
 @pytest.mark.parametrize("fault", ["malformed", "directory"])
@@ -298,13 +277,6 @@ def test_archive_library(user, reason, spoil):
     assert any(reason in line for line in user.log()), [x for x in user.log() if "libarch" in x]
     user.copy_is(1)
     user.started("start")
-
-
-@failure("no-icon")
-def test_without_pictures(user):
-    shutil.rmtree(user.own_root() / "images")
-    user.launch()
-    user.copy_is(2)
 
 
 @failure("no-start-script")
