@@ -23,10 +23,12 @@ def share(places: list, part: int, full: bool, every: int) -> list:
     return places[part::PARTS][::1 if full else every]
 
 
+# ---- What is wrong with a start; what it has to be started through, too
+
 def damaged(user):
     """Without checksums the damage shows only when most is unpacked."""
-    archive = subprocess.run(["tar", "-C", user.builds[2].copy, "-c", "lib", "package", "bin", "INFO"],
-                             check=True, capture_output=True).stdout
+    archive = subprocess.run(["tar", "-C", user.builds[2].copy, "-c", "lib", "package", "bin",
+                              "INFO"], check=True, capture_output=True).stdout
     write(user.package, archive[:len(archive) * 2 // 3])
 
 
@@ -38,16 +40,19 @@ def full_disk(user):
     resize(user.home, f"{used(user.home)}k", "remount")
 
 
+def no_thread(user):
+    """Processes can be had, but no thread to do the work."""
+    return ["strace", "-qq", "-b", "execve", "-o", str(user.dir / "trace"),
+            "-e", "inject=clone3:error=EAGAIN"]
+
+
 def undisturbed(user):
     pass
 
 
-WAYS = [undisturbed, damaged, missing, full_disk]
-
-
-@failure("killed-early", "killed-unpacking", "killed-late")
+@failure("killed-early", "killed-unpacking", "killed-late", "no-thread")
 @parts
-@pytest.mark.parametrize("way", WAYS)
+@pytest.mark.parametrize("way", [undisturbed, damaged, missing, full_disk, no_thread])
 def test_killed_then(user, full, part, way):
     """Killed at each call that changes a file, then an attempt that fails, then one that does
     not: nothing is left in the end."""
@@ -66,10 +71,11 @@ def test_killed_then(user, full, part, way):
         assert killed.wait() == -9, (call, number)
         user.notes.unlink(missing_ok=True)
         force_upgrade(user)
-        way(user)
+        through = way(user) or []
         try:
-            user.launch()
+            user.launch(*through)
             whole_and_started(user)
+            assert way is not no_thread or "Failed to start the worker" in "".join(user.log())
             resize(user.home, "64m", "remount")
             write(user.package, good)
             user.launch()
@@ -123,27 +129,20 @@ def test_failing_barrier(user, number):
     user.copy_is(1)
 
 
-@failure("stuck-rollback")
-def test_what_was_unpacked_cannot_be_removed(user):
-    user.own_root()
-    damaged(user)
+@failure("stuck-rollback", "stuck-restore")
+@pytest.mark.parametrize("unfinished", [True, False])
+def test_partial_copy_cannot_be_removed(user, unfinished):
     new_home(user)
-    user.launch(*strace(user, "-e", "inject=unlinkat:error=EIO"))
-    user.has(lines.ROLLED_BACK)
-    assert listing(user.top / "app_tmp") == user.builds[1].listing
-    user.launch()
-    user.copy_is(1)
-
-
-@failure("stuck-restore")
-def test_unfinished_copy_cannot_be_removed(user):
-    new_home(user)
-    user.app.rename(user.top / "app_tmp")
-    write(user.app / "lib/data/0", "unfinished")
     user.own_root()
-    missing(user)
+    if unfinished:
+        user.app.rename(user.top / "app_tmp")
+        write(user.app / "lib/data/0", "unfinished")
+        missing(user)
+    else:
+        damaged(user)
     user.launch(*strace(user, "-e", "inject=unlinkat:error=EIO"))
-    user.has(f"[ERROR] cloud-service(N): failed to move '{user.top}/app_tmp' back to...")
+    user.has(f"[ERROR] cloud-service(N): failed to move '{user.top}/app_tmp' back to..."
+             if unfinished else lines.ROLLED_BACK)
     assert listing(user.top / "app_tmp") == user.builds[1].listing
     user.launch()
     user.copy_is(1)

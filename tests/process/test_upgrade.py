@@ -58,7 +58,7 @@ def flip(archive: bytes, at: int) -> bytes:
 
 
 def package(change):
-    """Puts what `change` makes of build 2's package, or a tar with a further entry, in its place."""
+    """Replaces the package by what `change` makes of it, or by a tar with that further entry."""
     def spoil(user):
         if isinstance(change, tuple):
             return write(user.package, tar(user.builds[2], change))
