@@ -68,6 +68,17 @@ def full(request) -> bool:
     return request.config.option.full
 
 
+@pytest.fixture(params=range(4))
+def share(request, full):
+    """Takes a part of a campaign's places, so that workers share them; each `every`th of those
+    when the campaign is no full one."""
+    def take(places: list, every: int) -> list:
+        taken = places[request.param::4][::1 if full else every]
+        print(f"{len(taken)} of {len(places)}")
+        return taken
+    return take
+
+
 @pytest.fixture(scope="session")
 def stage(request) -> Path:
     """A staged tree of the launcher. Nobody writes to it."""

@@ -13,14 +13,7 @@ from faults import READS, calls, copy_of, errors_of, force_upgrade, inject, new_
 from faults import resize, strace, used, whole_and_started
 from user import listing, write
 
-PARTS = 4  # of a campaign, so that workers share them
 pytestmark = pytest.mark.faults
-parts = pytest.mark.parametrize("part", range(PARTS))
-
-
-def share(places: list, part: int, full: bool, every: int) -> list:
-    """A part of all places, and of these each `every`th when the campaign is no full one."""
-    return places[part::PARTS][::1 if full else every]
 
 
 # ---- What is wrong with a start; what it has to be started through, too
@@ -51,9 +44,8 @@ def undisturbed(user):
 
 
 @failure("killed-early", "killed-unpacking", "killed-late", "no-thread")
-@parts
 @pytest.mark.parametrize("way", [undisturbed, damaged, missing, full_disk, no_thread])
-def test_killed_then(user, full, part, way):
+def test_killed_then(user, share, way):
     """Killed at each call that changes a file, then an attempt that fails, then one that does
     not: nothing is left in the end."""
     user.own_root()
@@ -62,7 +54,7 @@ def test_killed_then(user, full, part, way):
     places = [place for place in calls(user) if place[0] not in READS]
     assert len(places) > 30
     resize(user.home, "64m")
-    for call, number in share(places, part, full, 16):
+    for call, number in share(places, 16):
         resize(user.home, "64m", "remount")
         new_home(user)
         write(user.package, good)
@@ -83,7 +75,6 @@ def test_killed_then(user, full, part, way):
             user.copy_is(2)
         except AssertionError as wrong:
             raise AssertionError(f"killed at {call} {number}, then {way.__name__}") from wrong
-    print(f"{len(share(places, part, full, 16))} of {len(places)} places")
 
 
 def test_killed_at_any_time(user, large_builds, full):
@@ -106,18 +97,17 @@ def test_killed_at_any_time(user, large_builds, full):
 
 
 @failure("failed-barrier")
-@parts
-def test_failing_calls(user, full, part):
+def test_failing_calls(user, share):
     """Each call fails once, with each error that it can give."""
     new_home(user)
     places = [(*place, error) for place in calls(user) for error in errors_of(place[0])]
     kept = 0
-    for call, number, error in share(places, part, full, 24):
+    for call, number, error in share(places, 24):
         new_home(user)
         user.launch(*inject(user, call, number, f"error={error}"))
         kept += whole_and_started(user) == 1
         assert "INJECTED" in (user.dir / "trace").read_text(errors="replace"), (call, number)
-    print(f"{len(share(places, part, full, 24))} of {len(places)}, the old copy kept {kept} times")
+    print(f"the old copy kept {kept} times")
 
 
 @failure("failed-barrier")
@@ -156,8 +146,7 @@ def test_backup_cannot_be_removed(user):
     user.started("start")
 
 
-@parts
-def test_disks(user, large_builds, full, part):
+def test_disks(user, large_builds, share):
     """Disks of many sizes, from far too small to large enough."""
     user.builds, user.root = large_builds, large_builds[2].root
     resize(user.home, "64m")
@@ -166,7 +155,7 @@ def test_disks(user, large_builds, full, part):
     shutil.copytree(user.builds[2].copy, user.home / "more", symlinks=True)
     need = used(user.home) - before
     shutil.rmtree(user.home / "more")
-    for percent in share(list(range(1, 121)), part, full, 15):
+    for percent in share(list(range(1, 121)), 15):
         resize(user.home, "64m", "remount")
         new_home(user)
         resize(user.home, f"{before + need * percent // 100}k", "remount")

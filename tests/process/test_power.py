@@ -8,7 +8,6 @@ from faults import force_upgrade, new_home, whole_and_started
 from test_faults import damaged, missing
 from user import User, write
 
-PARTS = 4
 pytestmark = pytest.mark.faults
 
 
@@ -54,9 +53,8 @@ def recovered(user):
     return record(user)
 
 
-@pytest.mark.parametrize("part", range(PARTS))
 @pytest.mark.parametrize("history", [upgrade, rolled_back, rolled_back_late, recovered])
-def test_power_lost(user, full, history, part):
+def test_power_lost(user, share, history):
     user.own_root()
     good = user.package.read_bytes()
     new_home(user)
@@ -67,9 +65,8 @@ def test_power_lost(user, full, history, part):
             lock.unlink()
         assert recording.end == power.digest(power.read_tree(user.top))
     force_upgrade(user)
-    states = list(power.states(recording, 50))
-    chosen = states[part::PARTS][::1 if full else 20]
-    for what, state in chosen:
+    print(f"{len(recording.changes)} changes")
+    for what, state in share(list(power.states(recording, 150)), 60):
         put(user, state)
         if user.package.exists():
             missing(user)
@@ -81,4 +78,3 @@ def test_power_lost(user, full, history, part):
             assert whole_and_started(user) == 2
         except AssertionError as wrong:
             raise AssertionError(what) from wrong
-    print(f"{len(chosen)} of {len(states)} states, {len(recording.changes)} changes")
