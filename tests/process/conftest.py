@@ -10,7 +10,7 @@ import pytest
 import cell
 
 pytest.register_assert_rewrite("user")
-from user import Build, User, make_builds, until  # noqa: E402
+from user import Build, User, make_builds, says, start_x, until  # noqa: E402
 
 TREE = Path(__file__).resolve().parents[2]
 
@@ -121,17 +121,10 @@ def display() -> str:
     assert not missing, f"not installed: {missing}"
     name = f":{os.getpid()}"
     log = open(Path(cell.WORK, f"display.{os.getpid()}"), "wb")
-    env = {**os.environ, "DISPLAY": name, "HOME": cell.WORK}
-    server = subprocess.Popen(["Xvfb", name, "-dpi", "96", "-noreset", "-nolisten", "tcp",
-                               "-nolock"], stdout=log, stderr=log)
-
-    def answers(*question: str) -> bool:
-        said = subprocess.run(["xprop", "-root", *question], env=env, capture_output=True)
-        return said.returncode == 0 and b"not found" not in said.stdout
-
-    until(answers, "the X server answers")
-    manager = subprocess.Popen(["openbox"], env=env, stdout=log, stderr=log)
-    until(lambda: answers("_NET_SUPPORTED"), "the window manager answers")
+    server = start_x(name, log)
+    manager = subprocess.Popen(["openbox"], env={**os.environ, "DISPLAY": name,
+                                                 "HOME": cell.WORK}, stdout=log, stderr=log)
+    until(lambda: "=" in says("_NET_SUPPORTED", display=name), "the window manager answers")
     yield name
     manager.kill()
     server.kill()

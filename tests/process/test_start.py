@@ -10,7 +10,7 @@ import pytest
 import lines
 from cell import NOBODY
 from conftest import failure
-from user import User, until, write
+from user import User, start_x, until, write
 
 # What a program that is started takes over from the one that starts it.
 INHERITING = """#!/bin/sh
@@ -63,10 +63,7 @@ def test_session_ends(user, number):
 
 @failure("display-gone")
 def test_display_goes_away(user):
-    server = subprocess.Popen(["Xvfb", ":78", "-noreset", "-nolisten", "tcp", "-nolock"],
-                              stderr=subprocess.DEVNULL)
-    until(lambda: subprocess.run(["xprop", "-root", "-display", ":78"], stdout=subprocess.DEVNULL,
-                                 stderr=subprocess.DEVNULL).returncode == 0, "the X server answers")
+    server = start_x(":78", subprocess.DEVNULL)
     user.install_copy(1)
     user.hold()
     started = user.start(QT_QPA_PLATFORM="xcb", DISPLAY=":78")
@@ -95,24 +92,18 @@ def test_no_more_processes(user, processes):
 
 
 @failure("no-display")
-@pytest.mark.parametrize("platform, session", [
-    (None, {}), ("nonsense", {}), ("", {"DISPLAY": ":77"}),
-    (None, {"XDG_SESSION_TYPE": "wayland", "WAYLAND_DISPLAY": "wayland-0"})])
-def test_no_display(user, platform, session):
-    """The client takes over neither the platforms that were tried nor the signals' handling."""
+@pytest.mark.parametrize("platform, session, through", [
+    (None, {}, "nohup"), ("nonsense", {}, "env"), ("", {"DISPLAY": ":77"}, "env"),
+    (None, {"XDG_SESSION_TYPE": "wayland", "WAYLAND_DISPLAY": "wayland-0"}, "env")])
+def test_no_display(user, platform, session, through):
+    """The client takes over neither the platforms that were tried nor the launcher's handling of
+    signals; those that the caller ignores stay ignored."""
     user.install_copy(2)
     write(user.app / "package/start-stop", INHERITING, 0o755)
-    user.launch(QT_QPA_PLATFORM=platform, **session)
-    none, platform = "0" * 16, "unset" if platform is None else platform
-    assert user.notes.read_text().split() == ["SigBlk:", none, "SigIgn:", none,
-                                              f"platform={platform}"]
-
-
-def test_ignored_signal_stays_ignored(user):
-    user.install_copy(2)
-    write(user.app / "package/start-stop", INHERITING, 0o755)
-    user.launch("nohup")
-    assert "SigIgn:\t0000000000000001" in user.notes.read_text()
+    user.launch(through, QT_QPA_PLATFORM=platform, **session)
+    platform = "unset" if platform is None else platform
+    assert user.notes.read_text().split() == [
+        "SigBlk:", "0" * 16, "SigIgn:", f"{int(through == 'nohup'):016}", f"platform={platform}"]
 
 
 @pytest.mark.parametrize("way", ["PATH", "link", "linked directory", "relative", "no name"])

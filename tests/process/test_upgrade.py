@@ -155,15 +155,6 @@ def test_start(user, name):
     assert not (user.top / "evil").exists()
 
 
-def test_lower_build(user, builds):
-    user.install_copy(2)
-    user.root = builds[1].root
-    user.launch()
-    assert user.log() == lines.run(2, 1, lines.NO_NEED)
-    user.copy_is(2)
-    user.started("start")
-
-
 @failure("no-rollback")
 def test_bad_package_without_a_copy(user):
     user.own_root()

@@ -1,4 +1,5 @@
 """A user of the launcher: a home, a copy of the client, the starts and what they left."""
+import functools
 import hashlib
 import os
 import re
@@ -15,7 +16,7 @@ import cell
 TREE = Path(__file__).resolve().parents[2]
 MAKE_PACKAGE = TREE / "packaging/make-package"
 PRODUCT = ".Quillmere"
-COMPONENTS = ("launcher_debug", "service_debug", "extractor_debug", "file_op_debug")
+COMPONENTS = "launcher_debug", "service_debug", "extractor_debug"
 
 # A start script that waits while $NOTES.hold exists, but not for ever, and notes its start.
 START_STOP = """#!/bin/sh
@@ -40,20 +41,28 @@ def until(condition: Callable[[], object], what: str, seconds: float = 30) -> ob
     return value
 
 
+def says(*question: str, display: str) -> str:
+    """The answer about the root window of a display, empty when there is none."""
+    return subprocess.run(["xprop", "-display", display, "-root", *question], text=True,
+                          capture_output=True).stdout
+
+
+def start_x(display: str, log) -> subprocess.Popen:
+    """Starts an X server."""
+    server = subprocess.Popen(["Xvfb", display, "-dpi", "96", "-noreset", "-nolisten", "tcp",
+                               "-nolock"], stdout=log, stderr=log)
+    until(lambda: says("_", display=display), "the X server answers")
+    return server
+
+
 def listing(top: Path) -> dict[str, tuple]:
     """What is below `top`: type and mode of each name, and a file's digest or a link's target."""
     found = {}
-    for directory, names, files in os.walk(top):
-        for name in names + files:
-            path = os.path.join(directory, name)
-            mode = os.lstat(path).st_mode
-            content = ""
-            if stat.S_ISLNK(mode):
-                content = os.readlink(path)
-            elif stat.S_ISREG(mode):
-                with open(path, "rb") as file:
-                    content = hashlib.sha1(file.read()).hexdigest()
-            found[os.path.relpath(path, top)] = (stat.filemode(mode), content)
+    for path in top.rglob("*"):
+        mode = path.lstat().st_mode
+        found[str(path.relative_to(top))] = stat.filemode(mode), (
+            os.readlink(path) if stat.S_ISLNK(mode) else
+            hashlib.sha1(path.read_bytes()).hexdigest() if stat.S_ISREG(mode) else "")
     return found
 
 
@@ -78,17 +87,10 @@ def make_client(top: Path, build: int, size: int = 1) -> Path:
     return top
 
 
-def make_package(client: Path, build: int, root: Path, *options: str) -> None:
-    subprocess.run([MAKE_PACKAGE, "--client", client, "--build", str(build), "--root", root,
-                    *options], check=True, stdout=subprocess.DEVNULL)
-
-
 @dataclass
 class Build:
     """A package root with the launcher, and a whole copy unpacked by other means."""
-    number: int
     root: Path
-    client: Path
     copy: Path
     listing: dict
 
@@ -96,12 +98,14 @@ class Build:
 def make_build(stage: Path, root: Path, client: Path, number: int) -> Build:
     """Packs `client` into a new package root with the launcher of `stage`."""
     shutil.copytree(stage, root, symlinks=True)
-    write(root / "log/launcher.debug", "".join(f"{c}=7\n" for c in COMPONENTS[:3]))
-    make_package(client, number, root, "--major", "3", "--minor", "4", "--icon-overlay", "7")
+    write(root / "log/launcher.debug", "".join(f"{c}=7\n" for c in COMPONENTS))
+    subprocess.run([MAKE_PACKAGE, "--client", client, "--build", str(number), "--root", root,
+                    "--major", "3", "--minor", "4", "--icon-overlay", "7"], check=True,
+                   stdout=subprocess.DEVNULL)
     copy = client.parent / f"copy{number}"
     copy.mkdir()
     subprocess.run(["bsdtar", "-xpf", root / "package/quillmere.qpk", "-C", copy], check=True)
-    return Build(number, root, client, copy, listing(copy))
+    return Build(root, copy, listing(copy))
 
 
 def make_builds(stage: Path, top: Path, size: int = 1) -> dict[int, Build]:
@@ -111,30 +115,29 @@ def make_builds(stage: Path, top: Path, size: int = 1) -> dict[int, Build]:
             for n, root in roots.items()}
 
 
-_slowness: dict[Path, tuple[float, dict]] = {}
-_launcher: list[Path] = []
+_slowness = {"factor": 1.0}
 
 
-def sanitizer(launcher: Path) -> tuple[float, dict[str, str]]:
-    """How much longer a launcher takes that was built with a sanitizer, and its environment."""
-    if launcher not in _slowness:
-        needed = subprocess.run(["ldd", launcher], capture_output=True, text=True).stdout
-        env = {}
-        for name, option in ("lsan", "LSAN_OPTIONS"), ("tsan", "TSAN_OPTIONS"):
-            # The options are split at blanks, which the tree's own path may have.
-            rules = Path(cell.WORK, f"{name}.{os.getpid()}")
-            shutil.copy(TREE / f"tests/{name}.supp", rules)
-            env[option] = f"suppressions={rules}:fast_unwind_on_malloc=0:print_suppressions=0"
-        # The toolkit is not built for the sanitizer.
-        env["TSAN_OPTIONS"] += ":ignore_noninstrumented_modules=1"
-        env["UBSAN_OPTIONS"] = "halt_on_error=1:print_stacktrace=1"
-        slow = any(f"lib{name}" in needed for name in ("asan", "tsan"))
-        _slowness[launcher] = (6, env) if slow else (1, {})
-    return _slowness[launcher]
+@functools.lru_cache
+def sanitizer(launcher: Path) -> dict[str, str]:
+    """The environment for a launcher that may be built with a sanitizer, and is slower then."""
+    needed = subprocess.run(["ldd", launcher], capture_output=True, text=True).stdout
+    if not any(f"lib{name}" in needed for name in ("asan", "tsan")):
+        return {}
+    _slowness["factor"] = 6
+    # The toolkit is not built for the sanitizer.
+    env = {"UBSAN_OPTIONS": "halt_on_error=1:print_stacktrace=1", "LSAN_OPTIONS": "",
+           "TSAN_OPTIONS": "ignore_noninstrumented_modules=1:"}
+    for name in "lsan", "tsan":
+        # The options are split at blanks, which the tree's own path may have.
+        rules = shutil.copy(TREE / f"tests/{name}.supp", f"{cell.WORK}/{name}.{os.getpid()}")
+        env[f"{name.upper()}_OPTIONS"] += (
+            f"suppressions={rules}:fast_unwind_on_malloc=0:print_suppressions=0")
+    return env
 
 
 def slowness() -> float:
-    return max((factor for factor, _ in _slowness.values()), default=1)
+    return _slowness["factor"]
 
 
 class User:
@@ -148,9 +151,7 @@ class User:
         self.root = builds[2].root
         self.as_nobody = False
         self.live_in(name)
-        for made in self.dir / "run", self.top:
-            made.mkdir(parents=True, exist_ok=True)
-        (self.dir / "run").chmod(0o700)
+        (self.dir / "run").mkdir(mode=0o700)
         self.dir.chmod(0o755)
         self.notes = self.dir / "notes"
         self.starts = 0
@@ -202,7 +203,7 @@ class User:
         env = {"PATH": os.environ["PATH"], "HOME": str(self.home), "LC_ALL": "C.UTF-8",
                "XDG_RUNTIME_DIR": str(self.dir / "run"), "TMPDIR": str(self.dir),
                "NOTES": str(self.notes), "QT_QPA_PLATFORM": "offscreen",
-               **sanitizer(self.root / "bin/launcher")[1], **changes}
+               **sanitizer(self.root / "bin/launcher"), **changes}
         return {name: value for name, value in env.items() if value is not None}
 
     def start(self, *through, program=None, cwd=None, stdout=None, stderr=None,
