@@ -99,7 +99,7 @@ def test_pid_file(user, text, line, command):
         bystander.wait()
     if text:
         write(user.pid_file, text.removeprefix("locked ").format(bystander.pid))
-    if line not in (None, lines.no_pid):
+    if line not in (None, lines.no_pid, lines.bad_pid) or "locked" in (text or ""):
         user.give_away()
     if text and text.startswith("locked"):
         os.chown(user.pid_file, 0, 0)

@@ -1,15 +1,12 @@
 """Upgrades that are disturbed in every way we know. A whole copy, old or new, has to be in place
 after each start, and started. Without --full a sample of each campaign."""
-import random
-import shutil
 import subprocess
-import time
 
 import pytest
 
 import lines
 from conftest import failure
-from faults import READS, calls, copy_of, errors_of, force_upgrade, inject, new_home
+from faults import READS, calls, errors_of, force_upgrade, inject, new_home
 from faults import resize, strace, used, whole_and_started
 from user import listing, write
 
@@ -77,25 +74,6 @@ def test_killed_then(user, share, way):
             raise AssertionError(f"killed at {call} {number}, then {way.__name__}") from wrong
 
 
-def test_killed_at_any_time(user, large_builds, full):
-    """With large files most of the time goes by while something changes."""
-    user.builds, user.root = large_builds, large_builds[2].root
-    new_home(user)
-    begin = time.monotonic()
-    user.launch()
-    length = time.monotonic() - begin
-    chance = random.Random(0)
-    for _ in range(200 if full else 10):
-        new_home(user)
-        killed = user.start()
-        time.sleep(length * chance.random())
-        killed.kill()
-        killed.wait()
-        user.notes.unlink(missing_ok=True)  # the killed one's start script may note once more
-        user.launch()
-        assert copy_of(user) == 2 and user.notes.exists()
-
-
 @failure("failed-barrier")
 def test_failing_calls(user, share):
     """Each call fails once, with each error that it can give."""
@@ -144,24 +122,3 @@ def test_backup_cannot_be_removed(user):
     user.launch(*strace(user, "-e", "inject=unlinkat:error=EIO"))
     user.copy_is(2, backups=1)
     user.started("start")
-
-
-def test_disks(user, large_builds, share):
-    """Disks of many sizes, from far too small to large enough."""
-    user.builds, user.root = large_builds, large_builds[2].root
-    resize(user.home, "64m")
-    new_home(user)
-    before = used(user.home)
-    shutil.copytree(user.builds[2].copy, user.home / "more", symlinks=True)
-    need = used(user.home) - before
-    shutil.rmtree(user.home / "more")
-    for percent in share(list(range(1, 121)), 15):
-        resize(user.home, "64m", "remount")
-        new_home(user)
-        resize(user.home, f"{before + need * percent // 100}k", "remount")
-        user.launch()
-        copy = copy_of(user)
-        user.started("start")
-        user.notes.unlink()
-        assert copy == 2 if percent > 105 else copy == 1 if percent < 95 else copy, percent
-        user.has(lines.READY if copy == 2 else lines.FAILED, lines.DONE)

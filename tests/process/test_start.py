@@ -10,7 +10,7 @@ import pytest
 import lines
 from cell import NOBODY
 from conftest import failure
-from user import User, start_x, until, write
+from user import start_x, until, write
 
 # What a program that is started takes over from the one that starts it.
 INHERITING = """#!/bin/sh
@@ -206,21 +206,6 @@ def test_runtime_directory_is_not_the_users_own(user, mode, owner):
     user.install_copy(2)
     user.launch(XDG_RUNTIME_DIR=str(directory))
     assert not locks(directory) and locks(user.top)
-
-
-@pytest.mark.second_user
-def test_two_users(user, builds):
-    user.install_copy(2)
-    user.hold()
-    first = user.start()
-    until(user.notes.exists, "the client starts")
-    other = User(user.dir / "others", builds)
-    other.install_copy(2)
-    other.give_away()
-    other.launch()
-    other.started("start")
-    user.let_go()
-    user.wait(first)
 
 
 @failure("no-lock")
