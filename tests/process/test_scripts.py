@@ -55,10 +55,10 @@ cd "$HOME/.Quillmere" && {{ {after}; }}
     assert done.returncode == (words != "All as it should be")
 
 
-@pytest.mark.parametrize("arguments, version, lintian, code", [
-    ("--output out", "1.2.3", 0, 0), ("--output out", "1.2.3", 1, 1),
-    ("--output out", "1.2.4", 0, 1), ("sparc", "1.2.3", 0, 2)])
-def test_build_deb(user, arguments, version, lintian, code):
+@pytest.mark.parametrize("arguments, version, lintian, code, words", [
+    ("--output out", "1.2.3", 0, 0, "out/parvenor"), ("--output out", "1.2.3", 1, 1, "lintian"),
+    ("--output out", "1.2.4", 0, 1, "has version 1.2.4"), ("sparc", "1.2.3", 0, 2, "usage")])
+def test_build_deb(user, arguments, version, lintian, code, words):
     """Whatever lies in the tree is built, but for what building left there."""
     tree = user.dir / "tree"
     for part in "tools", "packaging/debian":
@@ -69,7 +69,7 @@ def test_build_deb(user, arguments, version, lintian, code):
     for name in "half-edited", "build/x", ".git/x":
         write(tree / name, "")
     done = run(user, tree / "packaging/build-deb", *arguments.split(), LINTIAN=lintian)
-    assert done.returncode == code, done
+    assert done.returncode == code and words in done.stdout + done.stderr, done
     made = [path.name.rpartition("_")[0] for path in user.dir.glob("out/*")]
     assert made == ["parvenor-quillmere-launcher_1.2.3"] * (code == 0)
 
