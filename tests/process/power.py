@@ -159,7 +159,7 @@ def nodes(top: Node) -> Iterator[Node]:
 
 
 def text(quoted: str) -> str:
-    return ast.literal_eval(f'b"{quoted}"').decode()
+    return os.fsdecode(ast.literal_eval(f'b"{quoted}"'))
 
 
 def replay(before: Node, changes: list[Change], missing: set[int], zeros: bool) -> Node:
