@@ -212,7 +212,8 @@ int move_directory(const ustring& from, const ustring& to, bool do_case_check) {
   }
   Dir dir(opendir(from.c_str()));
   if (!dir) return -3;
-  for (const auto& [name, is_dir] : read_entries(std::move(dir))) {
+  const auto entries = read_entries(std::move(dir));
+  for (const auto& [name, is_dir] : entries) {
     const ustring child = "/" + ustring(name);
     if (FSRename(from + child, to + child, do_case_check) != 0) return -3;
   }
