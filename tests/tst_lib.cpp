@@ -43,17 +43,18 @@ struct {
 constexpr int kRotate = 1048576;  // bytes
 constexpr int kStamp = 16;        // bytes in front of each line
 
+int number(const ustring& s, int base = 10) { return int(strtol(s.c_str(), nullptr, base)); }
 QString text(const ustring& s) { return QString::fromUtf8(s.c_str()); }
 
 int open_log(const ustring& path, const ustring& levels, int rotations) {
   return Logger::Initialize(Logger::FILE_LOGGER, path, levels, rotations);
 }
 
-// What `path` is; the status where that cannot be said.
-int type_of(const ustring& path) {
+// The type of `path`, or its mode; the status where neither can be said.
+int look(const ustring& path, bool mode) {
   FILE_INFO info;
   const int result = FSStat(path, info, false);
-  return result == 0 ? info.type : result;
+  return result != 0 ? result : mode ? int(info.mode & 07777) : info.type;
 }
 
 // The files that the file tests start from.
@@ -72,41 +73,24 @@ bool make_deep(const char* name, int depth) {
   return close(creat("bottom", 0600)) == 0 && QDir::setCurrent(here);
 }
 
-// Below the hard limit; negative is that itself.
-int limit(__rlimit_resource resource, const ustring& soft) {
+// Below the hard limit; -1 is that itself.
+int limit(__rlimit_resource resource, int soft) {
   signal(SIGXFSZ, SIG_IGN);  // a write beyond the limit fails then
   rlimit limits;
   if (getrlimit(resource, &limits) != 0) return -9;
-  const int number = atoi(soft.c_str());
-  limits.rlim_cur = number < 0 ? limits.rlim_max : rlim_t(number);
+  limits.rlim_cur = std::min(rlim_t(soft), limits.rlim_max);
   return setrlimit(resource, &limits);
 }
 
-// Removes what its owner has no rights to, as somebody whom that stops.
-int remove_closed() {
-  const uid_t user = geteuid();
-  bool ready = chmod(".", 0777) == 0 && (user != 0 || seteuid(65534) == 0);
-  prctl(PR_SET_DUMPABLE, 1);  // what seteuid() takes away: /proc/self
-  put("closed/a/b/file", "");
-  put("shut/x", "");
-  ready = ready && QFile::link("../shut", "closed/link") && chmod("closed/a/b", 0) == 0 &&
-          chmod("closed/a", 0500) == 0 && chmod("closed", 0) == 0 && chmod("shut", 0) == 0 &&
-          FSRemove("closed", false) == 0 && IsFileExist("closed", false);
-  FSMakeRemovable("closed");
-  ready = ready && euidaccess("shut/x", F_OK) != 0;
-  const int result = FSRemove("closed", false);
-  // Whoever looks at what is left need not be root.
-  return chmod("shut", 0700) == 0 && seteuid(user) == 0 && ready ? result : -9;
+// Goes on as somebody whom missing rights stop.
+int leave_root() {
+  const bool left = chmod(".", 0777) == 0 && (geteuid() != 0 || seteuid(65534) == 0);
+  return left ? prctl(PR_SET_DUMPABLE, 1) : -9;  // what seteuid() takes away: /proc/self
 }
 
-// The mode of what `make` makes at the path that it sets, under a umask that matters to it.
-template <typename Make>
-int mode_of(mode_t mask, Make make) {
-  FILE_INFO info;
-  ustring path("new");
-  const mode_t before = umask(mask);
-  const bool made = make(path) == 0 && GetFileInfo(path, info) == 0 && remove(path.c_str()) == 0;
-  return umask(before) == mask && made ? int(info.mode & 07777) : -9;
+int make_temporary(const ustring& dir, const ustring& name) {
+  ustring path;
+  return FSMktemp(dir, path) == 0 ? renameat(AT_FDCWD, path.c_str(), AT_FDCWD, name.c_str()) : -9;
 }
 
 // The walk stops at the last character, or behind the name of a file, which has four.
@@ -147,7 +131,7 @@ int open_flags(const ustring& path) {
 int log_lines(const ustring& beyond, const ustring& marks) {
   errno = EDOM;
   for (const char mark : QByteArray(marks.c_str())) {
-    const QByteArray line(kRotate - kStamp + atoi(beyond.c_str()), mark);
+    const QByteArray line(kRotate - kStamp + number(beyond), mark);
     Logger::LogMsg(Logger::L_ERR, "x", "%s", line.constData());
   }
   return errno == EDOM ? 0 : -1;
@@ -160,16 +144,22 @@ const std::map<QString, std::function<int(Words, Words)>> kCalls = {
     {"clean", [](Words a, Words) { return int(remove(a.c_str()) != 0 && errno != ENOENT); }},
     {"link", [](Words a, Words b) { return symlink(a.c_str(), b.c_str()); }},
     {"hard-link", [](Words a, Words b) { return link(a.c_str(), b.c_str()); }},
-    {"deep", [](Words a, Words b) { return make_deep(a.c_str(), atoi(b.c_str())) ? 0 : -9; }},
-    {"disk", [](Words a, Words) { return g_system.error = atoi(a.c_str()), 0; }},
+    {"deep", [](Words a, Words b) { return make_deep(a.c_str(), number(b)) ? 0 : -9; }},
+    {"disk", [](Words a, Words) { return g_system.error = number(a), 0; }},
     {"other-device", [](Words, Words) { return g_system.other_device = true, 0; }},
     {"poor-streams", [](Words, Words) { return g_system.poor_streams = true, 0; }},
     {"file-system",
-     [](Words a, Words) { return sscanf(a.c_str(), "%x", &g_system.file_system) - 1; }},
+     [](Words a, Words) {
+       return g_system.file_system = unsigned(strtoul(a.c_str(), nullptr, 16)), 0;
+     }},
+    {"umask", [](Words a, Words) { return (umask(mode_t(number(a, 8))), 0); }},
+    {"chmod", [](Words a, Words b) { return chmod(a.c_str(), mode_t(number(b, 8))); }},
+    {"leave-root", [](Words, Words) { return leave_root(); }},
     {"refusals", [](Words, Words) { return g_system.refusals; }},
-    {"descriptors", [](Words a, Words) { return limit(RLIMIT_NOFILE, a); }},
-    {"file-size", [](Words a, Words) { return limit(RLIMIT_FSIZE, a); }},
-    {"stat", [](Words a, Words) { return type_of(a); }},
+    {"descriptors", [](Words a, Words) { return limit(RLIMIT_NOFILE, number(a)); }},
+    {"file-size", [](Words a, Words) { return limit(RLIMIT_FSIZE, number(a)); }},
+    {"stat", [](Words a, Words) { return look(a, false); }},
+    {"mode", [](Words a, Words) { return look(a, true); }},
     {"copy", [](Words a, Words b) { return FSCopy(a, b, false); }},
     {"copy-away", [](Words a, Words b) { return FSCopy(a, b, true); }},
     {"mkdir", [](Words a, Words) { return FSMKDir(a, false); }},
@@ -178,13 +168,10 @@ const std::map<QString, std::function<int(Words, Words)>> kCalls = {
     {"make-all-by-force", [](Words a, Words) { return make_all(a, true); }},
     {"rename", [](Words a, Words b) { return FSRename(a, b, false); }},
     {"remove", [](Words a, Words) { return FSRemove(a, false); }},
-    {"remove-closed", [](Words, Words) { return remove_closed(); }},
-    {"temporary-mode",
-     [](Words a, Words) { return mode_of(077, [=](ustring& to) { return FSMktemp(a, to); }); }},
-    {"directory-mode",
-     [](Words a, Words) {
-       return mode_of(027, [=](ustring&) { return FSMKDirP(a, nullptr, false, 0707); });
-     }},
+    {"make-removable", [](Words a, Words) { return (FSMakeRemovable(a), 0); }},
+    {"make-temporary", make_temporary},
+    {"make-exactly",
+     [](Words a, Words b) { return FSMKDirP(a, nullptr, false, mode_t(number(b, 8))); }},
     {"traverse", traverse},
     {"sync", [](Words a, Words) { return FSSync(a); }},
     {"start-sync", [](Words a, Words) { return (FSStartSync(a), 0); }},
@@ -194,7 +181,7 @@ const std::map<QString, std::function<int(Words, Words)>> kCalls = {
     {"fat", [](Words, Words) { return int(IsMSDOS(".")); }},
     {"resolve", [](Words a, Words) { return resolve(a); }},
     {"open", [](Words a, Words) { return open_flags(a); }},
-    {"log-to", [](Words a, Words b) { return open_log(a, "", atoi(b.c_str())); }},
+    {"log-to", [](Words a, Words b) { return open_log(a, "", number(b)); }},
     {"log", log_lines},
 };
 
@@ -296,7 +283,7 @@ class TestCommon : public QObject {
   }
   void cleanup() {
     Logger::Destroy();
-    g_system = {};
+    reset();
   }
 
   void names() {
@@ -414,16 +401,16 @@ class TestCommon : public QObject {
       QVERIFY2(status == call.section(" = ", 1).toInt(),
                qPrintable(QString::number(status) + ' ' + call));
     }
-    g_system = {};
-    QVERIFY(limit(RLIMIT_NOFILE, "-1") == 0 && close(reader) == 0);
+    close(reader);
+    reset();
     const QStringList after = tree(".");
     QStringList changes;
     for (const QString& entry : after + before) {
       const bool is = after.contains(entry);
       if (is == before.contains(entry)) continue;
-      const QString size = entry.size() < 99 ? "" : QString::number(entry.section(':', 1).size());
-      changes += QLatin1Char(is ? '+' : '-') +
-                 (size.isEmpty() ? entry : entry.section(':', 0, 0) + ':' + size + entry.right(1));
+      const QString name = entry.section(':', 0, 0) + ':';
+      const QString brief = name + QString::number(entry.size() - name.size()) + entry.right(1);
+      changes += QLatin1Char(is ? '+' : '-') + (entry.size() < 99 ? entry : brief);
     }
     QCOMPARE(changes.join(' '), row[0].toString());
   }
@@ -435,9 +422,7 @@ class TestCommon : public QObject {
     QVERIFY(!info.isExist && info.type == FT_FILE && info.size == 0 && info.mtime >= now);
     FILE_INFO other = info;
     other.mode = other.uid = other.gid = 1;
-    QVERIFY(other == info);
-    other.size = 1;
-    QVERIFY(other != info);
+    QVERIFY(other == info && (other.size = 1) && other != info);
   }
 
   void readsDirectory() {
@@ -471,6 +456,13 @@ class TestCommon : public QObject {
   }
 
  private:
+  static void reset() {
+    g_system = {};
+    umask(022);
+    QVERIFY(seteuid(getuid()) == 0);
+    QVERIFY(limit(RLIMIT_NOFILE, -1) == 0 && limit(RLIMIT_FSIZE, -1) == 0);
+  }
+
   std::unique_ptr<QTemporaryDir> m_dir;
 };
 
