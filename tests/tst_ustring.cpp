@@ -2,6 +2,9 @@
 
 #include <malloc.h>
 
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
 #include <functional>
 #include <memory>
 #include <new>
@@ -62,6 +65,17 @@ void sameAsStandard(bool forward, Find find) {
 
 }  // namespace
 
+// Always moves, and leaves nothing to be read where the text was.
+extern "C" void* realloc(void* old, size_t size) noexcept {
+  void* const moved = malloc(size);
+  if (!moved || !old) return moved;
+  const size_t held = malloc_usable_size(old);
+  memcpy(moved, old, std::min(held, size));
+  explicit_bzero(old, held);
+  free(old);
+  return moved;
+}
+
 class TestUstring : public QObject {
   Q_OBJECT
 
@@ -83,24 +97,24 @@ class TestUstring : public QObject {
     });
     row("append/units", "a", "aä😀deg", "",
         [=](U& s) { s.append(u"ä😀").append(u"def", 2).append(u"\0g", 2).append(none16) += 'g'; });
-    const Bytes text = Bytes("ab").repeated(500000);
-    row("append/itself", text, text + text, "", [](U& s) { s.append(s.c_str()); });
+    row("append/itself", "abcdefgh", "abcdefghabcdefgh", "", [](U& s) { s.append(s.c_str()); });
     row("append/own view", "abcdefg", "abcdefgg", "", [](U& s) { s.append(s.c_str_utf16() + 6); });
-    row("assign/chars", "abc", "dexx", "", [](U& s) { s.assign("def", 2) += U().assign('x', 2); });
-    row("assign/units", "abc", "äöö", "", [](U& s) { s.assign(u"äb", 1) += U().assign(u'ö', 2); });
-    row("assign/one", "abc", "äb", "", [](U& s) { (s = u'ä') += 'b'; });
-    row("assign/std part", "abc", "ef", "", [](U& s) { s.assign(std::string("defg"), 1, 2); });
+    row("assign", "abc", "dexxäööüzef", "", [](U& s) {
+      U all;
+      all.append(s.assign("def", 2)).append(s.assign('x', 2)).append(s.assign(u"äb", 1));
+      all.append(s.assign(u'ö', 2)).append(s = u'ü').append(s = 'z');
+      s = all.append(s.assign(std::string("defg"), 1, 2));
+    });
     row("assign/own part", "abcdefghijkl", "cd", "", [](U& s) { s.assign(s, 2, 2); });
-    row("assign/own tail", "abcdefghijkl", "l", "", [](U& s) { s = s.c_str() + 11; });
+    row("assign/own start", "abcdefghijkl", "abcd", "", [](U& s) { s.assign(s.c_str(), 4); });
     row("assign/own view", "abcdefghijkl", "l", "", [](U& s) { s = s.c_str_utf16() + 11; });
     row("substr/at the end", "abc", "", "", [](U& s) { s = s.substr(3, 1); });
     row("sum", "a", "abcdäö", "", [](U& s) { s = s + U("b") + "c" + 'd' + u"ä" + u'ö'; });
     row("streams", " ä\tb", "ä", "", [](U& s) { (std::stringstream() << s) >> s; });
     row("trim/left", " \t\r\nabc ", "abc ", "", [](U& s) { s.ltrim(); });
     row("trim/right", " abc \n", " abc", "", [](U& s) { s.rtrim(); });
-    row("trim/both", "xyabyx", "ab", "", [](U& s) { s.trim(U("xy")); });
+    row("trim/both", "xyabyx", "ab", "", [](U& s) { (s.trim(""), s.trim(U("xy"))); });
     row("trim/nothing left", "xyx", "", "", [](U& s) { s.trim("xy"); });
-    row("trim/empty set", " a ", " a ", "", [](U& s) { s.trim(""); });
     row("trim/own data", "abcdba", "cd", "", [](U& s) { s.trim(s.c_str() + 4); });
 
     const char* const toUtf8 = "Warning: u_strToUTF8: error code 10 at line 867\n";
@@ -115,8 +129,7 @@ class TestUstring : public QObject {
 
     row("throws/chars", "abc", "abc", "std::bad_alloc", [](U& s) { s.append('x', U::npos - 2); });
     row("throws/units", "abc", "abc", "std::bad_alloc", [](U& s) { s.append(u'x', U::npos / 2); });
-    row("throws/substr", "abc", "abc", "substr", [](U& s) { (void)s.substr(4); });
-    row("throws/assign itself", "abc", "abc", "substr", [](U& s) { s.assign(s, 4); });
+    row("throws/assign itself", "abc", "abc", "substr", [](U& s) { s.assign(s.substr(3), 1); });
   }
   void change() {
     QFETCH(Bytes, before);
@@ -133,9 +146,8 @@ class TestUstring : public QObject {
   }
 
   void search() {
-#define SEARCH(forward, name)                                                     \
-  sameAsStandard(forward, [](const auto& s, auto... a) { return s.name(a...); }); \
-  if (QTest::currentTestFailed()) return
+#define SEARCH(forward, name) \
+  sameAsStandard(forward, [](const auto& s, auto... a) { return s.name(a...); })
     SEARCH(true, find);
     SEARCH(false, rfind);
     SEARCH(true, find_first_of);
@@ -171,13 +183,13 @@ class TestUstring : public QObject {
     U last;
     last = std::move(to);
     for (U* const s : {&from, &to}) {
-      QCOMPARE(view(*s), QString());
+      QVERIFY(view(*s).isEmpty() && (*s + *s).empty());
       s->append(*s).append(u"b");
-      QCOMPARE(bytes(*s + *s), Bytes("bb"));
+      QCOMPARE(bytes(*s), Bytes("b"));
     }
     swap(last, to);
     to.clear();
-    QVERIFY(bytes(last) == "b" && to.empty() && bytes(std::as_const(to)[0]) == Bytes("\0", 1));
+    QVERIFY(bytes(last) == "b" && to.empty() && std::as_const(to)[0] == '\0');
   }
 
   void replaceLeavesViewStale() {
