@@ -50,6 +50,12 @@ int open_log(const ustring& path, const ustring& levels, int rotations) {
   return Logger::Initialize(Logger::FILE_LOGGER, path, levels, rotations);
 }
 
+QString stored(const Config& config) {
+  QString lines;
+  for (const auto& [key, value] : config) lines += text(key + "=" + value + ";");
+  return lines;
+}
+
 // The type of `path`, or its mode; the status where neither can be said.
 int look(const ustring& path, bool mode) {
   FILE_INFO info;
@@ -314,39 +320,34 @@ class TestCommon : public QObject {
       config["old"] = "1";
       for (const char* path : {"", "missing", ".", "fifo", "/dev/null", "/dev/zero", "file"})
         QCOMPARE(config.read(path), -1);
-      put("f", row[0].toString().toUtf8());
-      QString read = QString::number(config.read("f")) + ' ';
-      for (const auto& [key, value] : config) read += text(key + "=" + value + ";");
-      // Nothing is stored of a malformed file.
-      const QString stored = row[1].toString();
-      QCOMPARE(row[0].toString() + read,
-               row[0].toString() + (stored == "" ? "-1 " : "0 ") + stored);
+      const QString file = row[0].toString();
+      put("f", file.toUtf8());
+      const bool sound = config.read("f") == 0;
+      QCOMPARE(file + "->" + stored(config), file + "->" + row[1].toString());
+      QVERIFY(sound != row[1].toString().isEmpty());  // nothing is stored of a malformed file
+      // What was written is read again, unless the line would then be too long.
+      QVERIFY(config.write("f") == (file.size() < 8000 ? 0 : -1));
+      if (file.size() < 8000) QCOMPARE(stored(Config("f")), row[1].toString());
     }
   }
 
   void writeFile() {
     Config config;
-    char key[] = "a";
-    for (const char* value : {"4321", "", "two words # x", "a'b", "a\"b", "Grüße", "yes"}) {
-      config[key] = value;
-      ++*key;
-    }
+    config["a"] = "4321 or so";
+    config["b"] = "yes";
     QVERIFY(config.write("f") == 0 && config.write("/dev/full") == -1);
-    const QByteArray written = content("f");
-    const Config read("f");
-    QVERIFY(std::equal(read.begin(), read.end(), config.begin(), config.end()));
-    QVERIFY(read.get_int("a") == 4321 && !read.get_bool("a") && read.get_bool("g"));
-    config.unset("g");
-    QVERIFY(!config.get_bool("g") && std::distance(config.begin(), config.end()) == 6);
-    config["k"].assign('x', 8000);  // past what the stream holds back
+    QVERIFY(config.get_int("a") == 4321 && !config.get_bool("a") && config.get_bool("b"));
+    config.unset("b");
+    QCOMPARE(stored(config), QString("a=4321 or so;"));
+    config["c"].assign('x', 8000);  // past what the stream holds back
     QVERIFY(config.write("/dev/full") == -1);
-    // What the grammar has no way to say, and what would be longer than a line.
-    for (const QString& value : {QString("a'b\"c"), QString("a\nb"), QString(8187, 'x')}) {
-      config["k"] = u(value);
+    const QByteArray written = content("f");
+    for (const char* value : {"a'b\"c", "a\nb"}) {  // what the grammar has no way to say
+      config["c"] = value;
       QVERIFY(config.write("f") == -1 && content("f") == written);
     }
+    for (auto& [key, value] : config) value = key;
     for (int i = 0; i < 140; ++i) config[ustring().assign('n', i)].assign('x', 8000);
-    config["k"] = "";
     QVERIFY(config.write("f") == -1 && content("f") == written);  // what would not be read
   }
 
@@ -415,16 +416,6 @@ class TestCommon : public QObject {
     QCOMPARE(changes.join(' '), row[0].toString());
   }
 
-  void missingFile() {
-    FILE_INFO info;
-    const time_t now = time(nullptr);
-    QCOMPARE(FSStat("missing", info, false), 0);
-    QVERIFY(!info.isExist && info.type == FT_FILE && info.size == 0 && info.mtime >= now);
-    FILE_INFO other = info;
-    other.mode = other.uid = other.gid = 1;
-    QVERIFY(other == info && (other.size = 1) && other != info);
-  }
-
   void readsDirectory() {
     QVERIFY(populate());
     QCOMPARE(FSUTime("file", 5, 7), 0);
@@ -444,15 +435,22 @@ class TestCommon : public QObject {
     }
   }
 
+  // Also of a missing file, which compares by what is known of it.
   void owner() {
-    const bool root = geteuid() == 0;  // nobody else may give files away
+    FILE_INFO info;
+    const time_t now = time(nullptr);
+    QCOMPARE(FSStat("own", info, false), 0);
+    QVERIFY(!info.isExist && info.type == FT_FILE && info.size == 0 && info.mtime >= now);
     FSInitialize(1, gid_t(-1));
     QVERIFY(FSInit("own") == 0 && FSMKDirP("own", nullptr, false, mode_t(-1)) == 0);
     FSInitialize(uid_t(-1), 3);
     FSChown("own");
     FSInitialize(uid_t(-1), gid_t(-1));
-    FILE_INFO info;
-    QVERIFY(GetFileInfo("own", info) == 0 && (!root || (info.uid == 1 && info.gid == 3)));
+    QCOMPARE(GetFileInfo("own", info), 0);
+    QVERIFY(geteuid() != 0 || (info.uid == 1 && info.gid == 3));  // only root gives files away
+    FILE_INFO other = info;
+    other.mode = other.uid = other.gid = 1;
+    QVERIFY(other == info && (other.size += 1) && other != info);
   }
 
  private:
