@@ -19,11 +19,6 @@ QString accelerator(const QString& text) {
   return mark.match(text).captured(1).toUpper();
 }
 
-// What stands on a button or in a menu.
-const Pattern kButton(
-    "(^|_)(btn|button)(_|$)|^context_menu_|^tray_(exit|about|relink)$|^manage_share_change_folder$|"
-    "^(add|edit|del|finish|link_new_nas|action_unlink|(unlink|pause|resume)_connection)$");
-
 // Translates everything, in the context "global" alone.
 class Marker : public QTranslator {
  public:
@@ -50,9 +45,7 @@ class TestTexts : public QObject {
     const QStringList keys(std::begin(ktab), std::end(ktab));
     QCOMPARE(QCryptographicHash::hash(keys.join('\n').toUtf8(), QCryptographicHash::Sha1).toHex(),
              QByteArray("4a43243e78f03927eca0e9d3637222e5945520bf"));
-    QCOMPARE(LoadStr(0), QString("{\\VerdanaBold13}Welcome to the [ProductName] Setup Wizard"));
-    QCOMPARE(LoadStr(76) + LoadStr(81), QString("Quillmere is initializing...Quillmere is ready."));
-    QCOMPARE(LoadStr(app_name), QString("Parvenor Quillmere"));
+    QVERIFY(LoadStr(76).endsWith("initializing...") && LoadStr(app_name) == "Parvenor Quillmere");
     Marker marker;
     QVERIFY(QCoreApplication::installTranslator(&marker));
     QCOMPARE(LoadStr(app_name), QString("a\nb\tc"));
@@ -120,9 +113,11 @@ class TestTexts : public QObject {
 
   // A text with a settled term has its word, each standard button the toolkit's, and no button is
   // so long that it breaks the dialog.
-  static void checkTerms(const QJsonValue& words, const QTranslator& translator) {
+  void checkTerms(const QJsonValue& words, const QTranslator& translator) const {
     const QJsonObject terms = words["terms"].toObject();
     const QJsonObject buttons = words["buttons"].toObject();
+    const Pattern button(
+        m_all["button"].toString());  // the keys of what stands on one, or in a menu
     QVERIFY(terms.size() >= 10 && buttons.size() >= 20);
     for (int id = 0; id < 350; ++id) {
       const QString english = QString(stab[id]).remove('&');
@@ -133,11 +128,11 @@ class TestTexts : public QObject {
         QVERIFY2(!english.contains(term.key(), Qt::CaseInsensitive) || own.contains(word),
                  qPrintable(both));
       }
-      QVERIFY2(!QString(ktab[id]).contains(kButton) || own.size() <= 2 * english.size() + 10,
+      QVERIFY2(!QString(ktab[id]).contains(button) || own.size() <= 2 * english.size() + 10,
                qPrintable(both));
     }
-    for (auto button = buttons.begin(); button != buttons.end(); ++button)
-      QCOMPARE(translator.translate("global", stab[LookupStrID(button.key())]), button->toString());
+    for (auto own = buttons.begin(); own != buttons.end(); ++own)
+      QCOMPARE(translator.translate("global", stab[LookupStrID(own.key())]), own->toString());
   }
 
   const QJsonObject m_all = json("languages.json");
