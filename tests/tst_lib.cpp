@@ -173,6 +173,7 @@ const std::map<QString, std::function<int(Words, Words)>> kCalls = {
     {"make-all", [](Words a, Words) { return make_all(a, false); }},
     {"make-all-by-force", [](Words a, Words) { return make_all(a, true); }},
     {"rename", [](Words a, Words b) { return FSRename(a, b, false); }},
+    {"rename-whole", [](Words a, Words b) { return FSRenameWhole(a, b); }},
     {"remove", [](Words a, Words) { return FSRemove(a, false); }},
     {"make-removable", [](Words a, Words) { return (FSMakeRemovable(a), 0); }},
     {"make-temporary", make_temporary},
