@@ -218,6 +218,16 @@ def test_read_only_home(user, copy):
         assert list(user.home.iterdir()) == []
 
 
+@second_user
+def test_copy_without_write_permission(user):
+    """Which a client may take from its own directories."""
+    user.install_copy(1)
+    (user.app / "bin").chmod(0o500)
+    user.give_away()
+    user.launch()
+    user.copy_is(2)
+
+
 @failure("no-target")
 def test_file_for_the_product_directory(user):
     user.top.rmdir()
