@@ -38,9 +38,6 @@ struct Entry {
   QByteArray link = {};  // of a hard or symbolic link
 };
 using Entries = QVector<Entry>;
-}  // namespace
-Q_DECLARE_METATYPE(Entry)
-namespace {
 
 void pack(const QString& path, const Entries& entries, int format = ARCHIVE_FORMAT_TAR_GNUTAR) {
   archive* const a = archive_write_new();
@@ -93,46 +90,35 @@ class TestExtractor : public QObject {
     g_barrier = nullptr;
   }
 
-  void extract_data() {
-    QTest::addColumn<Entries>("entries");
-    QTest::addColumn<int>("size");  // bytes the archive is cut to, 0 for none
-    QTest::addColumn<int>("count");
-    QTest::addColumn<int>("result");
-    QTest::addColumn<QString>("written");
+  void extract() {
     const Entries three{{"a/b", "b"}, {"c", QByteArray(600, 'c')}, {"INFO", "i"}};
     const QString c(600, 'c');
-    QTest::newRow("all") << three << 0 << 3 << 0 << "INFO:i a/ a/b:b c:" + c + " old:o";
-    QTest::newRow("replaces") << Entries{{"old", "new"}} << 0 << 1 << 0 << "old:new";
-    QTest::newRow("cut in data") << three << 1800 << 2 << -1
-                                 << "a/ a/b:b c:" + c.left(264) + " old:o";
-    QTest::newRow("cut in a header") << three << 1100 << 1 << -1 << "a/ a/b:b old:o";
-    QTest::newRow("parent inside") << Entries{{"d/../../x", "x"}} << 0 << 1 << -1 << "old:o";
-    QTest::newRow("absolute") << Entries{{"/x", "x"}} << 0 << 1 << 0 << "old:o x:x";
-    QTest::newRow("target") << Entries{{".", "", AE_IFDIR}} << 0 << 1 << 0 << "old:o";
-  }
-  void extract() {
-    QFETCH(Entries, entries);
-    QFETCH(int, size);
-    QFETCH(int, result);
-    put("target/old", "o");
-    pack("package", entries);
-    if (size > 0) QVERIFY(QFile::resize("package", size));
-    Extractor extractor;
-    extractor.SetSource("package");
-    QVERIFY(extractor.Extract() == -1 && extractor.Count() == -1);
-    extractor.SetTarget("target");
-    QTEST(extractor.Count(), "count");
-    QSignalSpy reports(&Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateProgress);
-    QSignalSpy texts(&Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateDialogText);
-    QCOMPARE(extractor.Extract(), result);
-    QCOMPARE(texts.size(), 1);
-    QCOMPARE(texts[0][0].toString(), QString("Quillmere is initializing..."));
-    for (int i = 0; i < reports.size(); ++i) {
-      QCOMPARE(reports[i], QVariantList({extractor.Count(), i + 1}));
+    // The archive, the bytes it is cut to (0 for none), and what becomes of it.
+    const std::tuple<Entries, int, int, int, QString> rows[] = {
+        {three, 0, 3, 0, "INFO:i a/ a/b:b c:" + c + " old:o"},
+        {{{"old", "new"}}, 0, 1, 0, "old:new"},
+        {three, 1800, 2, -1, "a/ a/b:b c:" + c.left(264) + " old:o"},
+        {three, 1100, 1, -1, "a/ a/b:b old:o"},
+        {{{"d/../../x", "x"}}, 0, 1, -1, "old:o"},
+        {{{"/x", "x"}}, 0, 1, 0, "old:o x:x"},
+        {{{".", "", AE_IFDIR}}, 0, 1, 0, "old:o"}};
+    Extractor incomplete;
+    incomplete.SetSource("package");
+    QVERIFY(incomplete.Extract() == -1 && incomplete.Count() == -1);
+    for (const auto& [entries, size, count, result, written] : rows) {
+      put("target/old", "o");
+      pack("package", entries);
+      if (size > 0) QVERIFY(QFile::resize("package", size));
+      QCOMPARE(m_extractor.Count(), count);
+      QSignalSpy reports(&m_notify, &Notify_Adapter::sigUpdateProgress);
+      QSignalSpy texts(&m_notify, &Notify_Adapter::sigUpdateDialogText);
+      QCOMPARE(m_extractor.Extract(), result);
+      QCOMPARE(texts, QList({QVariantList({"Quillmere is initializing..."})}));
+      for (int i = 0; i < reports.size(); ++i) QCOMPARE(reports[i], QVariantList({count, i + 1}));
+      QVERIFY(result != 0 || reports.size() == entries.size());
+      QCOMPARE(tree("target").join(' '), written);
+      QVERIFY(!QFileInfo::exists("x") && QDir("target").removeRecursively());
     }
-    if (result == 0) QCOMPARE(reports.size(), entries.size());
-    QTEST(tree("target").join(' '), "written");
-    QVERIFY(!QFileInfo::exists("x"));
   }
 
   // An entry that would take the place of the target, which is empty when an upgrade begins.
@@ -289,9 +275,8 @@ class TestExtractor : public QObject {
   // at once; the client's size puts the end of such a piece where that could hide damage.
   void damage_data() {
     QTest::addColumn<int>("before");  // bytes of the archive from INFO's header to such an end
-    QTest::newRow("piece ends behind INFO") << 1024;
-    QTest::newRow("piece ends in the end marks") << 1536;
-    QTest::newRow("piece ends behind everything") << 2048;
+    for (const int before : {1024, 1536, 2048})  // behind INFO, in the end marks, behind those
+      QTest::newRow(qPrintable(QString::number(before))) << before;
   }
   void damage() {
     QFETCH(int, before);
