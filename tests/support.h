@@ -5,7 +5,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QStringList>
+#include <QTemporaryDir>
 
+#include "lib/log.h"
 #include "ustring/ustring.h"
 
 // What the test programs share: files to start from, and what became of them.
@@ -47,3 +49,16 @@ inline QStringList tree(const QString& dir) {
   found.sort();
   return found;
 }
+
+// A home of a test's own, which is the working directory, too. What is logged stands in "log".
+struct TestHome {
+  TestHome() {
+    if (!dir.isValid() || !qputenv("HOME", dir.path().toUtf8()) || !QDir::setCurrent(dir.path()) ||
+        Logger::Initialize(Logger::FILE_LOGGER, "log", "", 0) != 0) {
+      qFatal("no home");
+    }
+  }
+  ~TestHome() { Logger::Destroy(); }
+  QString path() const { return dir.path(); }
+  const QTemporaryDir dir;
+};

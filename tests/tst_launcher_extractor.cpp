@@ -1,5 +1,4 @@
 #include <QProcess>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include <archive.h>
@@ -8,7 +7,7 @@
 
 #include <atomic>
 #include <functional>
-#include <memory>
+#include <optional>
 #include <tuple>
 
 #include "launcher/adapter.h"
@@ -78,15 +77,12 @@ class TestExtractor : public QObject {
     (void)archive_read_free(archive_read_new());  // loads the library, whose names these are
   }
   void init() {
-    m_dir = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_dir->isValid() && QDir::setCurrent(m_dir->path()));
-    QCOMPARE(Logger::Initialize(Logger::FILE_LOGGER, "log", "", 0), 0);
-    m_extractor = {};
+    m_home.emplace();
     m_extractor.SetSource("package");
     m_extractor.SetTarget("target");
   }
   void cleanup() {
-    Logger::Destroy();
+    m_home.reset();
     g_barrier = nullptr;
   }
 
@@ -154,7 +150,7 @@ class TestExtractor : public QObject {
     put("targets/secret", "s");
     QVERIFY(QFile::link(".", "way"));
     for (const auto& [name, taken] : rows) {
-      const QByteArray link = QByteArray(name).replace("%1", m_dir->path().toUtf8());
+      const QByteArray link = QByteArray(name).replace("%1", m_home->path().toUtf8());
       pack("package", {{"first", "f"},
                        {"d/first", "f"},
                        {"way", "", AE_IFLNK, ".."},
@@ -327,7 +323,7 @@ class TestExtractor : public QObject {
   }
 
  private:
-  std::unique_ptr<QTemporaryDir> m_dir;
+  std::optional<TestHome> m_home;
   Extractor m_extractor;
   Notify_Adapter& m_notify = Notify_Adapter::GetInstance();
 };

@@ -1,4 +1,3 @@
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include <fcntl.h>
@@ -10,7 +9,7 @@
 #include <utime.h>
 
 #include <cerrno>
-#include <memory>
+#include <optional>
 
 #include "launcher/linux/linux-service.h"
 #include "launcher/linux/process.h"
@@ -91,14 +90,11 @@ class TestLauncherService : public QObject {
 
  private slots:
   void init() {
-    m_dir = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_dir->isValid());
-    QVERIFY(qputenv("HOME", m_dir->path().toUtf8()) && QDir::setCurrent(m_dir->path()));
-    QCOMPARE(Logger::Initialize(Logger::FILE_LOGGER, "log", "", 0), 0);
+    m_home.emplace();
     syncs_left = -1;
     complete_removed = false;
   }
-  void cleanup() { Logger::Destroy(); }
+  void cleanup() { m_home.reset(); }
 
   // What of a version file is refused, and that the rest has the values that it says.
   void versionFile() {
@@ -125,7 +121,7 @@ class TestLauncherService : public QObject {
                                   "\xef\xbb\xbf" + plain + "x=\xef\xbb\xbf" + rect};
     int homes = 0;  // the toolkit does not read a file again that looks the same
     const auto build = [&](const QByteArray& text) {
-      const QString home = m_dir->path() + '/' + QString::number(++homes);
+      const QString home = m_home->path() + '/' + QString::number(++homes);
       const QString info = home + "/.Quillmere/app/INFO";
       put(info, text);
       if (text == "|" && (!QFile::remove(info) || mkfifo(qPrintable(info), 0600) != 0)) return "";
@@ -285,7 +281,7 @@ class TestLauncherService : public QObject {
   }
 
  private:
-  std::unique_ptr<QTemporaryDir> m_dir;
+  std::optional<TestHome> m_home;
 };
 
 QTEST_GUILESS_MAIN(TestLauncherService)
