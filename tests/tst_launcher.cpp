@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QProcess>
 #include <QPushButton>
+#include <QTranslator>
 #include <QtTest>
 
 #include <langinfo.h>
@@ -181,6 +182,10 @@ class TestLauncher : public QObject {
     ensure_utf8_names();
     QCOMPARE(nl_langinfo(CODESET), "UTF-8");
     QVERIFY(setlocale(LC_ALL, "C.UTF-8"));
+    QTranslator german;
+    install_translator(&german);
+    QCOMPARE(QCoreApplication::translate("global", "Quillmere is ready."),
+             QString("Quillmere ist bereit."));
   }
 
  private:
@@ -198,6 +203,8 @@ int main(int argc, char** argv) {
   // The toolkit's own event loop delivers waiting calls inside a call whenever it is asked to;
   // GLib's does so only while more of them arrive, which no test could count on.
   qputenv("QT_NO_GLIB", "1");
+  qputenv("LC_ALL", "de_DE.UTF-8");
+  Q_INIT_RESOURCE(texts);
   StrTable::InitStrTable();
   Application application(argc, argv);
   TestLauncher test;
