@@ -61,6 +61,21 @@ namespace {
 const QStringList kOld{"app/", "app/INFO:old", "app/bin/", "app/bin/cloud-ui:old", "app/f:old"};
 const QStringList kNew{"app/", "app/INFO:new", "app/bin/", "app/bin/cloud-ui:new", "app/f:new"};
 
+// The paths of a row, in which "old=NAME" stands for the old copy under that name, "new" for the
+// new one and "part" for a part of that.
+QStringList paths(const char* row) {
+  QStringList found;
+  for (const QString& word : QString(row).split(' ', Qt::SkipEmptyParts)) {
+    if (word.startsWith("old="))
+      found += QStringList(kOld).replaceInStrings("app/", word.mid(4) + '/');
+    else
+      found += word == "new"    ? kNew
+               : word == "part" ? QStringList{"app/", "app/f:new"}
+                                : QStringList(word);
+  }
+  return found;
+}
+
 // Makes "name:content" a file, "name@" a link to nothing and "name/" a directory.
 void make(const QStringList& paths) {
   for (const QString& path : paths) {
@@ -138,53 +153,37 @@ class TestLauncherService : public QObject {
     for (const QByteArray& text : refused) QCOMPARE(text + build(text), text + "refused");
   }
 
-  // What becomes of partial copies and old backups.
-  void prepare_data() {
-    QTest::addColumn<QStringList>("before");
-    QTest::addColumn<int>("unpacks");  // 0 all, below some and fails, above nothing
-    QTest::addColumn<QStringList>("after");
-    const auto row = [](const char* tag, QStringList before, int unpacks, QStringList after) {
-      QTest::newRow(tag) << before << unpacks << after;
-    };
-    // The files of kOld under another name.
-    const auto old = [](QString name) {
-      return QStringList(kOld).replaceInStrings("app/", name + '/');
-    };
-    const QStringList part{"app/", "app/f:new"};
-    row("first, stale backup", {"app_tmp/x:"}, 0, kNew);
-    row("first fails", {}, -1, part);
-    row("nothing is unpacked", kOld, 1, {});
-    row("link to nothing", {"app@"}, 0, kNew);
-    row("later backups stay", QStringList{"app/x:", "app_tmp1/x:"}, 0,
-        kNew + QStringList{"app_tmp1/", "app_tmp1/x:"});
-    row("lower backups go", kOld + QStringList{"app_tmp/x:", "app_tmp1/x:"}, 0, kNew);
-    row("rolls back", kOld + QStringList{"app_tmp/x:"}, -1,
-        kOld + QStringList{"app_tmp/", "app_tmp/x:"});
-    row("restores/over a part", part + old("app_tmp"), -1, kOld);
-    row("restores/over one without client", QStringList{"app/INFO:new"} + old("app_tmp"), -1, kOld);
-    row("restores/over nothing", old("app_tmp1"), -1, kOld);
-    row("restores/newest",
-        part + old("app_tmp") + QStringList{"app_tmp/INFO:older", "app_tmp2/INFO:x"} +
-            old("app_tmp1"),
-        -1,
-        kOld + old("app_tmp").replaceInStrings("INFO:old", "INFO:older") +
-            QStringList{"app_tmp2/", "app_tmp2/INFO:x"});
-    row("restores/then succeeds", part + old("app_tmp"), 0, kNew);
-    row("restores/not over a whole one", kNew + old("app_tmp"), -1, kNew + old("app_tmp"));
-    row("restores/no whole one", part + QStringList{"app_tmp/", "app_tmp/INFO:x"}, -1,
-        part + QStringList{"app_tmp/", "app_tmp/INFO:x"});
-  }
+  // What becomes of partial copies and old backups: what is there, what can be unpacked (0 all,
+  // below nothing but a part, above nothing at all), and what is there then.
   void prepare() {
-    QFETCH(QStringList, before);
-    QFETCH(QStringList, after);
-    make(before);
-    TestService service;
-    QFETCH(int, unpacks);
-    service.extract_result = unpacks;
-    QCOMPARE(service.PrepareUserEnv(), unpacks < 0 ? -1 : 0);
-    after.sort();
-    QCOMPARE(tree(".Quillmere"), after);
-    QVERIFY(!complete_removed);
+    const std::tuple<const char*, int, const char*> rows[] = {
+        {"app_tmp/x:", 0, "new"},
+        {"", -1, "part"},
+        {"old=app", 1, ""},
+        {"app@", 0, "new"},
+        {"app/x: app_tmp1/x:", 0, "new app_tmp1/ app_tmp1/x:"},
+        {"old=app app_tmp/x: app_tmp1/x:", 0, "new"},
+        {"old=app app_tmp/x:", -1, "old=app app_tmp/ app_tmp/x:"},
+        // A whole backup takes the place of a copy that is not.
+        {"part old=app_tmp", -1, "old=app"},
+        {"app/INFO:new old=app_tmp", -1, "old=app"},
+        {"old=app_tmp1", -1, "old=app"},
+        {"part old=app_tmp app_tmp/g: old=app_tmp1 app_tmp2/INFO:x", -1,
+         "old=app old=app_tmp app_tmp/g: app_tmp2/ app_tmp2/INFO:x"},
+        {"part old=app_tmp", 0, "new"},
+        {"new old=app_tmp", -1, "new old=app_tmp"},
+        {"part app_tmp/INFO:x", -1, "part app_tmp/ app_tmp/INFO:x"}};
+    for (const auto& [before, unpacks, after] : rows) {
+      init();
+      make(paths(before));
+      TestService service;
+      service.extract_result = unpacks;
+      QVERIFY2(service.PrepareUserEnv() == (unpacks < 0 ? -1 : 0), before);
+      QStringList expected = paths(after);
+      expected.sort();
+      QCOMPARE(tree(".Quillmere").join(' '), expected.join(' '));
+      QVERIFY2(!complete_removed, before);
+    }
   }
 
   // A barrier that fails is a failed upgrade. What is taken back loses its mark first.
@@ -214,50 +213,41 @@ class TestLauncherService : public QObject {
     }
   }
 
-  void stop_data() {
-    QTest::addColumn<QString>("who");  // the file names: PID or SELF, or what becomes of a PID
-    QTest::addColumn<int>("age");      // of the file, in seconds
-    QTest::addColumn<int>("gone");     // the signal from which on nobody is there
-    QTest::addColumn<QList<int>>("sent");
-    QTest::addColumn<int>("seconds");
-    const auto row = [](const char* tag, QString who, int age, int gone, QList<int> sent,
-                        int seconds) {
-      QTest::newRow(tag) << who << age << gone << sent << seconds;
-    };
-    const QList<int> all{SIGTERM, 0, 0, 0, 0, 0, SIGKILL};
-    row("itself", "SELF", 0, 9, {}, 0);
-    row("gone", "PID", 0, 1, {SIGTERM}, 0);
-    row("ends at once", "PID", 0, 2, {SIGTERM, 0}, 0);
-    row("ends later", "PID", 0, 4, {SIGTERM, 0, 0, 0}, 2);
-    row("ends in the last second", "LATE", 0, 9, all.mid(0, 6), 5);
-    row("nobody asks for its end", "ENDED", 0, 9, {SIGTERM, 0}, 0);
-    row("stubborn, within the tolerance", "PID", 1, 9, all, 5);
-    row("younger than the file", "PID", 60, 9, {}, 0);
-    row("file of the future", "PID", -3600, 9, all, 5);
-  }
+  // The process that the file names and what becomes of it, the file's age in seconds, the signal
+  // from which on nobody is there; what is sent, and how long is waited.
   void stop() {
-    QFETCH(QString, who);
-    QFETCH(int, age);
-    QFETCH(int, gone);
-    const pid_t child = fork();
-    if (child == 0) {
-      if (who != "ENDED") (void)pause();
-      _exit(0);
+    enum Who { kRuns, kSelf, kEnded, kEndsLate };
+    const QList<int> all{SIGTERM, 0, 0, 0, 0, 0, SIGKILL};
+    const std::tuple<const char*, Who, int, int, QList<int>, int> rows[] = {
+        {"itself", kSelf, 0, 9, {}, 0},
+        {"gone", kRuns, 0, 1, all.mid(0, 1), 0},
+        {"ends at once", kRuns, 0, 2, all.mid(0, 2), 0},
+        {"ends later", kRuns, 0, 4, all.mid(0, 4), 2},
+        {"ends in the last second", kEndsLate, 0, 9, all.mid(0, 6), 5},
+        {"nobody asks for its end", kEnded, 0, 9, all.mid(0, 2), 0},
+        {"stubborn, within the tolerance", kRuns, 1, 9, all, 5},
+        {"younger than the file", kRuns, 60, 9, {}, 0},
+        {"file of the future", kRuns, -3600, 9, all, 5}};
+    for (const auto& [tag, who, age, gone, sent, seconds] : rows) {
+      const pid_t child = fork();
+      if (child == 0) {
+        if (who != kEnded) (void)pause();
+        _exit(0);
+      }
+      siginfo_t info;
+      if (who == kEnded) QVERIFY(waitid(P_PID, id_t(child), &info, WEXITED | WNOWAIT) == 0);
+      put(".Quillmere/ui.pid", "pid=" + QByteArray::number(who == kSelf ? getpid() : child));
+      const utimbuf times = {time(nullptr) - age, time(nullptr) - age};
+      QVERIFY(utime(".Quillmere/ui.pid", &times) == 0);
+      signals_sent.clear();
+      slept = 0;
+      gone_at = gone;
+      ends_at = who == kEndsLate ? child : 0;
+      LinuxService().StopService();
+      (void)syscall(SYS_kill, child, SIGKILL);
+      (void)waitpid(child, nullptr, 0);
+      QVERIFY2(signals_sent == sent && slept == seconds, tag);
     }
-    siginfo_t info;
-    if (who == "ENDED") QVERIFY(waitid(P_PID, id_t(child), &info, WEXITED | WNOWAIT) == 0);
-    put(".Quillmere/ui.pid", "pid=" + QByteArray::number(who == "SELF" ? getpid() : child));
-    const utimbuf times = {time(nullptr) - age, time(nullptr) - age};
-    QVERIFY(utime(".Quillmere/ui.pid", &times) == 0);
-    signals_sent.clear();
-    slept = 0;
-    gone_at = gone;
-    ends_at = who == "LATE" ? child : 0;
-    LinuxService().StopService();
-    (void)syscall(SYS_kill, child, SIGKILL);
-    (void)waitpid(child, nullptr, 0);
-    QTEST(signals_sent, "sent");
-    QTEST(slept, "seconds");
   }
 
   void copyPath() {
