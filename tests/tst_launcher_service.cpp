@@ -115,18 +115,20 @@ class TestLauncherService : public QObject {
   void versionFile() {
     const QByteArray plain = "[Version]\nbuild_version=47\n";
     const QByteArray rect = "@Rect(1 2 3 4)";
-    const QByteArray taken[] = {"; a@b\n# a@b\n" + plain + "x=a@b\ny=C:\\new\nz=@b (c)\n",
-                                plain + "x=x" + rect,
-                                "[Version]\nx=@@Rect(1)\nbuild_version=@String(47)\n",
-                                plain + ";x=" + rect + "\n ;x=" + rect,
-                                plain + "; c\n [Other]\nx=@Variant(\\0\\0\\0\\x7f\\xff)\n",
-                                plain + QByteArray(65536 - plain.size(), '\n')};
+    const QByteArray taken[] = {
+        "; a@b\n# a@b\n" + plain + "x=a@b\ny=C:\\new\nz=@b (c)\nw=@Rect(1\n",
+        plain + "x=x" + rect,
+        "[Version]\nx=@@Rect(1)\nbuild_version=@String(47)\n",
+        plain + ";x=" + rect + "\n ;x=" + rect,
+        plain + "; c\n [Other]\nx=@Variant(\\0\\0\\0\\x7f\\xff)\n",
+        plain + QByteArray(65536 - plain.size(), '\n')};
     const QByteArray refused[] = {"|",  // a pipe
                                   plain + QByteArray(65537 - plain.size(), '\n'),
                                   plain + "x=@Variant(\\0\\0\\0\\x7f\\xff\\xff)\n",
                                   plain + "x=@DateTime(\\0)\n",
                                   plain + "x=\"@Re\"ct\"(1 2 3 4)\"",
                                   plain + "x=\"@Rect\"  (1 2 3 4)",
+                                  plain + "x=" + rect + " \t",
                                   plain + "x=\\x10040Point(1 2)",
                                   plain + "x=\\100Size(1 2)",
                                   plain + "x=@Rec\\\r\nt(1 2 3 4)",
