@@ -143,6 +143,7 @@ class TestLauncher : public QObject {
     QCOMPARE(QProcess::execute("tar", {"-cf", root + "/package/quillmere.qpk", "package"}), 0);
     {
       Launcher launcher;
+      findDialog()->setMinimumDuration(3600000);  // it would show itself after four seconds
       launcher.Run();
       launcher.Start();
       QTRY_VERIFY(findDialog()->isVisible());
