@@ -17,6 +17,9 @@ EarlySync::~EarlySync() {
   requestInterruption();
   m_batches.release();
   (void)wait();  // without a time limit there is nothing to report
+  // What is left is the barrier's. Under the lock, because the thread sanitizer does not see that
+  // wait() has seen the thread end.
+  (void)TakePaths();
 }
 
 void EarlySync::Add(const ustring& path, int64_t size) {
