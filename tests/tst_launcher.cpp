@@ -133,10 +133,12 @@ class TestLauncher : public QObject {
     QVERIFY2(application->deepest <= 101, qPrintable(QString::number(application->deepest)));
   }
 
-#ifndef __SANITIZE_THREAD__  // which sees nothing of the queue by which calls are handed on
   // An upgrade as the user sees it; and when the event loop ends in another way, the client's
   // start script has still ended when the launcher does.
   void upgrade() {
+#ifdef __SANITIZE_THREAD__
+    QSKIP("the thread sanitizer sees nothing of the queue by which calls are handed on");
+#endif
     const QString root = QCoreApplication::applicationDirPath() + "/..";
     put("package/start-stop", kStartScript);
     QVERIFY(chmod("package/start-stop", 0755) == 0 && QDir().mkpath(root + "/package"));
@@ -153,7 +155,6 @@ class TestLauncher : public QObject {
     }
     QVERIFY(QFile::exists("ended"));
   }
-#endif
 
   // On a system without another thread the client is started all the same.
   void noThread() {
@@ -162,7 +163,7 @@ class TestLauncher : public QObject {
     pthread_attr_t usual;
     QCOMPARE(pthread_getattr_default_np(&usual), 0);
     pthread_attr_t larger_than_memory = usual;
-    QCOMPARE(pthread_attr_setstacksize(&larger_than_memory, size_t(1) << 62), 0);
+    QCOMPARE(pthread_attr_setstacksize(&larger_than_memory, ~size_t(0) / 4 * 3), 0);
     Launcher launcher;
     QCOMPARE(pthread_setattr_default_np(&larger_than_memory), 0);
     launcher.Run();
