@@ -117,7 +117,7 @@ duration() { # SECONDS
 }
 
 size() { # PATH...
-    du -shc -- "$@" 2>/dev/null | awk 'END { sub(/[KMGT]/, " &B", $1); print $1 }'
+    { du -shc -- "$@" 2>/dev/null || true; } | awk 'END { sub(/[KMGT]/, " &B", $1); print $1 }'
 }
 
 # Shows that PID, whose output goes to LOG, is at work: its time and last words
