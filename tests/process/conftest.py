@@ -1,4 +1,5 @@
 """Options and fixtures of the process tests; see cell.py for where their rows run."""
+import json
 import os
 import shutil
 import subprocess
@@ -18,6 +19,15 @@ TREE = Path(__file__).resolve().parents[2]
 def failure(*ids: str):
     """Marks a test that shows what these rows of docs/failures.md promise; see test_pages.py."""
     return pytest.mark.failure(*ids)
+
+
+def rows(file: str, table: str) -> list:
+    """The rows of a table of tests/data, by name, with the marks that they ask for: an object is
+    one argument of the test, a list has one each. Its "failure" is what failure() takes."""
+    found = json.loads((TREE / f"tests/data/{file}.json").read_text())[table]
+    return [pytest.param(*row if isinstance(row, list) else [row], id=name,
+                         marks=[pytest.mark.second_user] if "nobody" in row else [])
+            for name, row in found.items()]
 
 
 def pytest_addoption(parser):
@@ -62,18 +72,12 @@ def pytest_runtest_setup(item):
         pytest.skip("needs a second user id, which root has")
 
 
-@pytest.fixture
-def full(request) -> bool:
-    """Whether campaigns are wanted whole."""
-    return request.config.option.full
-
-
 @pytest.fixture(params=range(4))
-def share(request, full):
+def share(request):
     """Takes a part of a campaign's places, so that workers share them; each `every`th of those
     when the campaign is no full one."""
     def take(places: list, every: int) -> list:
-        taken = places[request.param::4][::1 if full else every]
+        taken = places[request.param::4][::1 if request.config.option.full else every]
         print(f"{len(taken)} of {len(places)}")
         return taken
     return take

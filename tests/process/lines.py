@@ -1,8 +1,8 @@
 """The launcher's log lines, as User.log() shows them."""
 import re
+from pathlib import Path
 
-from user import TREE
-
+TREE = Path(__file__).resolve().parents[2]
 _PROJECT = re.search(r"project\(\S+ VERSION (\S+)", (TREE / "CMakeLists.txt").read_text())
 VERSION = f"[DEBUG] startup(N): version {_PROJECT[1]}"
 RUNNING = "[DEBUG] launcher(88): running"

@@ -12,8 +12,9 @@ from pathlib import Path
 from typing import Callable, Optional
 
 import cell
+import lines
+from lines import TREE
 
-TREE = Path(__file__).resolve().parents[2]
 MAKE_PACKAGE = TREE / "packaging/make-package"
 PRODUCT = ".Quillmere"
 COMPONENTS = "launcher_debug", "service_debug", "extractor_debug"
@@ -168,12 +169,16 @@ class User:
     # ---- before a start
 
     def own_root(self) -> Path:
-        """A package root that the row may change: by write() or by removal, because what it
-        holds is linked to the one that all rows share."""
-        own = self.dir / "root"
-        subprocess.run(["cp", "-al", self.root, own], check=True)
-        self.root = own
-        return own
+        """A package root that the row may change."""
+        self.root = shutil.copytree(self.root, self.dir / "root", symlinks=True)
+        return self.root
+
+    def sh(self, command: str, cwd: str = ".", **env: object) -> None:
+        """Runs shell commands beside the home, which find its places in variables."""
+        places = {"home": self.home, "top": self.top, "app": self.app, "root": self.root,
+                  "copy": self.dir / "copy", **env}
+        subprocess.run(["bash", "-euc", f"umask 022; {command}"], cwd=self.dir / cwd, check=True,
+                       env={**os.environ, **{name: str(value) for name, value in places.items()}})
 
     @property
     def package(self) -> Path:
@@ -238,21 +243,22 @@ class User:
 
     # ---- after a start
 
-    def log(self) -> list[str]:
-        """The log without time stamps, and without those line numbers that are free to change."""
-        if not self.log_file.is_file():
-            return []
-        text = self.log_file.read_text(errors="replace")
-        text = re.sub(r"(?m)^[A-Z][a-z]{2} \d\d \d\d:\d\d:\d\d ", "", text)
-        free = r" (cloud-service|extractor|file-op|startup)\(\d+\)"
+    def log(self, errors: str = "") -> list[str]:
+        """The log and `errors` without time stamps, and without free line numbers."""
+        text = self.log_file.read_text(errors="replace") if self.log_file.is_file() else ""
+        text = re.sub(r"(?m)^[A-Z][a-z]{2} \d\d \d\d:\d\d:\d\d ", "", text + errors)
+        free = r" (cloud-service|extractor|file-op|startup|libarchive)\(\d+\)"
         return re.sub(free, r" \1(N)", text).splitlines()
 
-    def has(self, *lines: str) -> None:
-        """Each of `lines` is one of the log, or the front of one when it ends with "..."."""
-        log = self.log()
-        for line in lines:
-            assert line in log or line.endswith("...") and any(
-                found.startswith(line[:-3]) for found in log), (line, log)
+    def has(self, *wanted: str, errors: str = "") -> None:
+        """Each of `wanted`, a line or a name in `lines`, is in the log, as often as it is given;
+        "..." stands for any text."""
+        log = self.log(errors)
+        for line in wanted:
+            text = getattr(lines, line, line).format(self)
+            pattern = ".*".join(re.escape(part) for part in text.split("..."))
+            found = [said for said in log if re.fullmatch(pattern, said)]
+            assert len(found) >= wanted.count(line), (text, log)
 
     def copy_is(self, build: int, backups: int = 0) -> None:
         """The copy is that build's, whole, and this many backups are beside it."""
