@@ -11,7 +11,7 @@ import pytest
 import cell
 
 pytest.register_assert_rewrite("user")
-from user import Build, User, make_builds, says, start_x, until  # noqa: E402
+from user import Build, User, make_builds  # noqa: E402
 
 TREE = Path(__file__).resolve().parents[2]
 
@@ -115,20 +115,3 @@ def user(builds, request) -> User:
     yield User(directory, builds)
     # The rows' mounts have gone with their cells.
     shutil.rmtree(directory)
-
-
-@pytest.fixture(scope="session")
-def display() -> str:
-    """The name of an X display with a window manager, the same for all rows of a worker: give
-    them the mark xdist_group("display")."""
-    missing = cell.tools_missing("Xvfb", "openbox", "xdotool", "xprop", "xwininfo")
-    assert not missing, f"not installed: {missing}"
-    name = f":{os.getpid()}"
-    log = open(Path(cell.WORK, f"display.{os.getpid()}"), "wb")
-    server = start_x(name, log)
-    manager = subprocess.Popen(["openbox"], env={**os.environ, "DISPLAY": name,
-                                                 "HOME": cell.WORK}, stdout=log, stderr=log)
-    until(lambda: "=" in says("_NET_SUPPORTED", display=name), "the window manager answers")
-    yield name
-    manager.kill()
-    server.kill()

@@ -16,16 +16,10 @@ ROLLED_BACK = ("[ERROR] cloud-service(N): Failed to extract package, "
                "rollback to old installation")
 NO_COPY = ("[ERROR] cloud-service(N): Failed to extract package, "
            "and no old installation to rollback")
-
-
-def no_pid(user) -> str:
-    return (f"[DEBUG] linux/linux-service(76): pid file '{user.pid_file}' does not exist, "
-            "no need to terminate")
-
-
-def bad_pid(user) -> str:
-    return (f"[NOTE] linux/linux-service(81): Failed to read pid file '{user.pid_file}', "
-            "not exist ?")
+NO_PID = ("[DEBUG] linux/linux-service(76): pid file '{0.pid_file}' does not exist, "
+          "no need to terminate")
+BAD_PID = ("[NOTE] linux/linux-service(81): Failed to read pid file '{0.pid_file}', "
+           "not exist ?")
 
 
 def run(old, new: int, *between: str) -> list[str]:

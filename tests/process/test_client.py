@@ -8,8 +8,9 @@ from pathlib import Path
 import pytest
 
 import lines
-from conftest import failure
-from user import runs, slowness, until, write
+from cell import NOBODY
+from conftest import failure, rows
+from user import runs, says, slowness, start_x, until, write
 
 
 def start_client(user, kind: str) -> int:
@@ -40,17 +41,20 @@ def test_running_client(user, kind, least, most):
     assert least <= time.monotonic() - begin < most * 2
 
 
-@pytest.mark.xdist_group("display")
-def test_window_while_upgrading(user, display):
+def test_window_while_upgrading(user):
     """Neither Escape nor the window manager closes the window, which the start script keeps."""
+    env = {**os.environ, "DISPLAY": ":79", "HOME": str(user.home)}
+
     def x(*command: str) -> str:
-        env = {**os.environ, "DISPLAY": display}
         return subprocess.run(command, env=env, check=True, capture_output=True, text=True,
                               timeout=60).stdout
 
+    start_x(":79")
+    subprocess.Popen(["openbox"], env=env, stderr=subprocess.DEVNULL)
+    until(lambda: "=" in says("_NET_SUPPORTED", display=":79"), "the window manager answers")
     old = start_client(user, "stubborn")
     user.hold()
-    started = user.start(CLIENT="stubborn", QT_QPA_PLATFORM=None, DISPLAY=display)
+    started = user.start(CLIENT="stubborn", QT_QPA_PLATFORM=None, DISPLAY=":79")
     window = x("xdotool", "search", "--sync", "--onlyvisible", "--name",
                "^Parvenor Quillmere$").strip()
     assert '"parvenor-quillmere"' in x("xprop", "-id", window, "WM_CLASS")
@@ -66,7 +70,6 @@ def test_window_while_upgrading(user, display):
 
 # ---- Pid files. Numbers of processes are given out anew in the cell of the row.
 
-NO_CLIENT, SECOND_USER = "sleep 200", pytest.mark.second_user
 DAYS = 3 * 24 * 3600
 
 
@@ -78,40 +81,24 @@ def start_with_number(number: int, *command: str) -> subprocess.Popen:
     return started
 
 
-# The text with the number of a process that leads a group of its own, the line, what that runs
-@pytest.mark.parametrize("text, line, command", [
-    pytest.param(None, lines.no_pid, NO_CLIENT, marks=failure("no-pid")),
-    ("pid=-{}\n", lines.no_pid, NO_CLIENT),
-    ("pid=0\n", lines.no_pid, NO_CLIENT),
-    ("pid=-1\n", lines.no_pid, NO_CLIENT),
-    pytest.param("pid={}\nno line\n", lines.bad_pid, NO_CLIENT, marks=failure("bad-pid-file")),
-    ("pid={} x", lines.bad_pid, NO_CLIENT),
-    pytest.param("locked pid={}\n", lines.bad_pid, NO_CLIENT, marks=SECOND_USER),
-    pytest.param("pid={}\n", None, "true", marks=failure("client-gone")),
-    pytest.param("pid={}\n", lambda user: "[ERROR] linux/linux-service(96): kill: Operation not "
-                 "permitted (1)", NO_CLIENT, marks=[SECOND_USER, failure("foreign-client")]),
-])
-def test_pid_file(user, text, line, command):
+@pytest.mark.parametrize("row", rows("client", "pid file"))
+def test_pid_file(user, row):
     """Whoever is not this user's client goes on, and nobody else is waited for."""
     user.install_copy(1)
-    bystander = subprocess.Popen(command.split(), start_new_session=True)
-    if command == "true":
-        bystander.wait()
-    if text:
-        write(user.pid_file, text.removeprefix("locked ").format(bystander.pid))
-    if line not in (None, lines.no_pid, lines.bad_pid) or "locked" in (text or ""):
+    bystander = subprocess.Popen(["sleep", "200"], start_new_session=True)
+    if row.get("nobody"):
         user.give_away()
-    if text and text.startswith("locked"):
-        os.chown(user.pid_file, 0, 0)
-        user.pid_file.chmod(0)
+    user.sh(row["do"], pid=bystander.pid, nobody=NOBODY)
+    if row.get("ended"):
+        bystander.wait()
     begin = time.monotonic()
     user.launch()
-    took = time.monotonic() - begin
-    assert user.log() == lines.upgrade(user, 1, 2, lines.EXISTS, *([line(user)] if line else []))
+    assert row.get("waits") or time.monotonic() - begin < 4 * slowness()
+    said = [getattr(lines, row["said"], row["said"]).format(user)] if "said" in row else []
+    assert user.log() == lines.upgrade(user, 1, 2, lines.EXISTS, *said)
     user.copy_is(2)
     user.started("start")
-    assert runs(bystander.pid) == (command == NO_CLIENT)
-    assert took < 4 * slowness() or line not in (None, lines.no_pid, lines.bad_pid)
+    assert runs(bystander.pid) != row.get("ended", False)
 
 
 @pytest.mark.parametrize("is_client", [
@@ -126,7 +113,7 @@ def test_process_younger_than_the_file(user, is_client):
     os.utime(user.pid_file, (time.time() - DAYS,) * 2)
     user.launch()
     assert runs(process.pid) != is_client
-    assert is_client or lines.no_pid(user) in user.log()
+    user.has(*[] if is_client else ["NO_PID"])
     user.copy_is(2)
 
 

@@ -5,6 +5,7 @@ import subprocess
 
 import pytest
 
+from conftest import rows
 from user import TREE, write
 
 STAND_INS = {
@@ -27,21 +28,9 @@ def run(user, *command, **env: object) -> subprocess.CompletedProcess:
     return subprocess.run(command, env=env, capture_output=True, text=True, cwd=user.dir)
 
 
-# What a launcher does before and after its work, and what the demonstration says of it.
-DEMO = [
-    (":", ":", "All as it should be"),
-    (":", "exit 3", "the launcher ended with 3"),
-    (":", "sed -i s/=10/=9/ app/INFO", "the copy is not build 100"),
-    (":", "echo >>app/bin/cloud-ui", "the copy differs"),
-    (":", "mkdir app_tmp7", "a backup was left behind"),
-    (":", 'kill -9 "$(sed s/pid=// ui.pid)"', "the client does not run"),
-    ("rm -f ui.pid", ":", "the old client still runs"),
-    (":", "sed -i s/no.need// log/launcher.log", "the log does not say so"),
-]
-
-
-@pytest.mark.parametrize("before, after, words", DEMO)
-def test_demo(user, before, after, words):
+@pytest.mark.parametrize("client, before, after, words", rows("scripts", "demo"))
+def test_demo(user, client, before, after, words):
+    """What the demonstration says when its launcher does something before and after its work."""
     launcher = user.own_root() / "bin/launcher"
     launcher.rename(f"{launcher}.real")
     shutil.rmtree(user.root / "package")
@@ -50,14 +39,12 @@ cd "$HOME/.Quillmere" 2>/dev/null && {{ {before}; }}
 "$0.real"
 cd "$HOME/.Quillmere" && {{ {after}; }}
 """, 0o755)
-    done = run(user, TREE / "demo", STAGE=user.root)
+    done = run(user, TREE / "demo", *client.split() and [TREE / client], STAGE=user.root)
     assert words in done.stdout + done.stderr, done
     assert done.returncode == (words != "All as it should be")
 
 
-@pytest.mark.parametrize("arguments, version, lintian, code, words", [
-    ("--output out", "1.2.3", 0, 0, "out/parvenor"), ("--output out", "1.2.3", 1, 1, "lintian"),
-    ("--output out", "1.2.4", 0, 1, "has version 1.2.4"), ("sparc", "1.2.3", 0, 2, "usage")])
+@pytest.mark.parametrize("arguments, version, lintian, code, words", rows("scripts", "build-deb"))
 def test_build_deb(user, arguments, version, lintian, code, words):
     """Whatever lies in the tree is built, but for what building left there."""
     tree = user.dir / "tree"

@@ -9,7 +9,7 @@ import pytest
 
 import lines
 from cell import NOBODY
-from conftest import failure
+from conftest import failure, rows
 from user import start_x, until, write
 
 # What a program that is started takes over from the one that starts it.
@@ -32,16 +32,10 @@ def has_upgraded(user, started) -> None:
     assert [lock.stat().st_size for lock in locks(user.top)] == [0]
 
 
-@pytest.mark.parametrize("closed", ["<&-", ">&- 2>&-", "<&- >&- 2>&-", "broken pipe"])
-def test_closed_streams(user, closed):
+@pytest.mark.parametrize("command", rows("start", "closed streams"))
+def test_closed_streams(user, command):
     user.install_copy(1)
-    if closed == "broken pipe":
-        read, write_end = os.pipe()
-        os.close(read)
-        started = user.start(stdout=write_end, stderr=write_end)
-    else:
-        started = user.start("sh", "-c", f'exec "$@" {closed}', "sh")
-    has_upgraded(user, started)
+    has_upgraded(user, user.start("bash", "-c", f"set -o pipefail; {command}", "sh"))
     user.started("start")
 
 
@@ -63,7 +57,7 @@ def test_session_ends(user, number):
 
 @failure("display-gone")
 def test_display_goes_away(user):
-    server = start_x(":78", subprocess.DEVNULL)
+    server = start_x(":78")
     user.install_copy(1)
     user.hold()
     started = user.start(QT_QPA_PLATFORM="xcb", DISPLAY=":78")
@@ -92,9 +86,7 @@ def test_no_more_processes(user, processes):
 
 
 @failure("no-display")
-@pytest.mark.parametrize("platform, session, through", [
-    (None, {}, "nohup"), ("nonsense", {}, "env"), ("", {"DISPLAY": ":77"}, "env"),
-    (None, {"XDG_SESSION_TYPE": "wayland", "WAYLAND_DISPLAY": "wayland-0"}, "env")])
+@pytest.mark.parametrize("platform, session, through", rows("start", "no display"))
 def test_no_display(user, platform, session, through):
     """The client takes over neither the platforms that were tried nor the launcher's handling of
     signals; those that the caller ignores stay ignored."""
@@ -106,25 +98,14 @@ def test_no_display(user, platform, session, through):
         "SigBlk:", "0" * 16, "SigIgn:", f"{int(through == 'nohup'):016}", f"platform={platform}"]
 
 
-@pytest.mark.parametrize("way", ["PATH", "link", "linked directory", "relative", "no name"])
-def test_ways_to_the_executable(user, way):
+@pytest.mark.parametrize("way, plugins", rows("start", "ways"))
+def test_ways_to_the_executable(user, way, plugins):
     """What lies beside a working directory or a link is never loaded."""
-    binary, elsewhere = user.root / "bin", user.dir / "elsewhere"
-    elsewhere.mkdir()
-    (elsewhere / "link").symlink_to(binary / "launcher")
-    (elsewhere / "bin").symlink_to(binary)
-    path = {"program": "launcher", "PATH": f"{binary}:{os.environ['PATH']}"}
-    inside = {"cwd": binary, "plugins": "../lib/plugins"}
-    user.launch("env", **{
-        "PATH": path, "link": {"program": elsewhere / "link"}, "no name": {**path, **inside},
-        "linked directory": {"program": elsewhere / "bin/launcher"},
-        "relative": {"program": "./launcher", **inside}}[way])
+    user.launch("bash", "-c", way, "sh", plugins=plugins)
     user.copy_is(2)
 
 
-@pytest.mark.parametrize("arguments, answer", [
-    ("--version", f"launcher {lines.VERSION.split()[-1]}\n"), ("--help", "usage: launcher "),
-    ("--version --help", None), ("x --version", None)])
+@pytest.mark.parametrize("arguments, answer", rows("start", "questions"))
 def test_questions(user, arguments, answer):
     user.install_copy(2)
     started = user.start("sh", "-c", f'exec "$@" {arguments}', "sh")
@@ -161,7 +142,7 @@ def test_fifty_starts(user):
     log = user.log()
     assert log.count(lines.ALREADY) == 49
     assert [line for line in log if line != lines.ALREADY] == lines.upgrade(
-        user, 1, 2, lines.EXISTS, lines.no_pid(user))
+        user, 1, 2, lines.EXISTS, lines.NO_PID.format(user))
     user.copy_is(2)
     user.started("start")
 

@@ -48,10 +48,10 @@ def says(*question: str, display: str) -> str:
                           capture_output=True).stdout
 
 
-def start_x(display: str, log) -> subprocess.Popen:
+def start_x(display: str) -> subprocess.Popen:
     """Starts an X server."""
     server = subprocess.Popen(["Xvfb", display, "-dpi", "96", "-noreset", "-nolisten", "tcp",
-                               "-nolock"], stdout=log, stderr=log)
+                               "-nolock"], stderr=subprocess.DEVNULL)
     until(lambda: says("_", display=display), "the X server answers")
     return server
 
@@ -211,8 +211,7 @@ class User:
                **sanitizer(self.root / "bin/launcher"), **changes}
         return {name: value for name, value in env.items() if value is not None}
 
-    def start(self, *through, program=None, cwd=None, stdout=None, stderr=None,
-              **changes: Optional[str]) -> subprocess.Popen:
+    def start(self, *through, **changes: Optional[str]) -> subprocess.Popen:
         """Starts the launcher, through the command `through` when there is one."""
         self.starts += 1
         if "strace" in through:  # a search for leaks traces the process, too
@@ -223,9 +222,9 @@ class User:
                        "--clear-groups", *through)
         out, err = self.dir / f"out{self.starts}", self.dir / f"err{self.starts}"
         with open(out, "wb") as out_file, open(err, "wb") as err_file:
-            started = subprocess.Popen([*through, program or self.root / "bin/launcher"], env=env,
-                                       cwd=cwd or self.dir, stdin=subprocess.DEVNULL,
-                                       stdout=stdout or out_file, stderr=stderr or err_file)
+            started = subprocess.Popen([*through, self.root / "bin/launcher"], env=env,
+                                       cwd=self.dir, stdin=subprocess.DEVNULL,
+                                       stdout=out_file, stderr=err_file)
         started.out, started.err = out, err
         return started
 
@@ -238,8 +237,8 @@ class User:
         assert started.out.read_text() == line
         return errors
 
-    def launch(self, *through, plugins=None, **options) -> str:
-        return self.wait(self.start(*through, **options), plugins)
+    def launch(self, *through, plugins=None, **changes: Optional[str]) -> str:
+        return self.wait(self.start(*through, **changes), plugins)
 
     # ---- after a start
 
