@@ -4,11 +4,10 @@ import subprocess
 
 import pytest
 
-import lines
 from conftest import failure
 from faults import READS, calls, errors_of, force_upgrade, inject, new_home
 from faults import resize, strace, used, whole_and_started
-from user import listing, write
+from user import write
 
 pytestmark = pytest.mark.faults
 
@@ -74,7 +73,6 @@ def test_killed_then(user, share, way):
             raise AssertionError(f"killed at {call} {number}, then {way.__name__}") from wrong
 
 
-@failure("failed-barrier")
 def test_failing_calls(user, share):
     """Each call fails once, with each error that it can give."""
     new_home(user)
@@ -86,39 +84,3 @@ def test_failing_calls(user, share):
         kept += whole_and_started(user) == 1
         assert "INJECTED" in (user.dir / "trace").read_text(errors="replace"), (call, number)
     print(f"the old copy kept {kept} times")
-
-
-@failure("failed-barrier")
-@pytest.mark.parametrize("number", [1, 2])
-def test_failing_barrier(user, number):
-    new_home(user)
-    user.launch(*inject(user, "syncfs", number, "error=EIO"))
-    user.has(lines.ROLLED_BACK, "[ERROR] file-op(N): FSSync: Failed to sync...")
-    user.copy_is(1)
-
-
-@failure("stuck-rollback", "stuck-restore")
-@pytest.mark.parametrize("unfinished", [True, False])
-def test_partial_copy_cannot_be_removed(user, unfinished):
-    new_home(user)
-    user.own_root()
-    if unfinished:
-        user.app.rename(user.top / "app_tmp")
-        write(user.app / "lib/data/0", "unfinished")
-        missing(user)
-    else:
-        damaged(user)
-    user.launch(*strace(user, "-e", "inject=unlinkat:error=EIO"))
-    user.has(f"[ERROR] cloud-service(N): failed to move '{user.top}/app_tmp' back to..."
-             if unfinished else lines.ROLLED_BACK)
-    assert listing(user.top / "app_tmp") == user.builds[1].listing
-    user.launch()
-    user.copy_is(1)
-
-
-@failure("stuck-backup")
-def test_backup_cannot_be_removed(user):
-    new_home(user)
-    user.launch(*strace(user, "-e", "inject=unlinkat:error=EIO"))
-    user.copy_is(2, backups=1)
-    user.started("start")

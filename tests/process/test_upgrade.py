@@ -5,6 +5,7 @@ import pytest
 
 import lines
 from conftest import failure, rows
+from faults import strace
 
 # How a start can end: the build in place and the lines of the log; 0 where the row itself tells.
 ENDS = {
@@ -66,20 +67,22 @@ def test_start(user, row):
         user.give_away()
     subprocess.run(["cp", "-a", user.builds[2].copy, user.dir / "copy"], check=True)
     user.sh(COMMANDS + row["do"])
-    errors = ""
+    through = strace(user, "-e", f"inject={row['inject']}") if "inject" in row else []
+    errors, check = "", row.get("check", "")
     for _ in range(row.get("launches", 1)):
-        started = user.start(LD_LIBRARY_PATH=str(user.dir / "lib"))
+        started = user.start(*through, LD_LIBRARY_PATH=str(user.dir / "lib"))
         if end == "ended":
             assert started.wait() != 0
         else:
             errors += user.wait(started)
+        user.sh(check, old=user.builds[1].copy)
+        through, check = [], ""  # of the first one
     build, *said = ENDS[end]
     user.has(*said, *row.get("said", []), errors=errors)
     assert end != "silent" or user.log() == []
     if build:
         user.copy_is(build, row.get("backups", 0))
     user.started(*["start"] * row.get("starts", 1))
-    user.sh(row.get("check", ":"))
 
 
 @failure("language")
