@@ -6,10 +6,11 @@ itself: a name, a rename, a removal, a file's contents. A change that a missing 
 is missing, too; a file whose contents are missing is empty, or as long as it was and all zeros."""
 import ast
 import os
+import pickle
 import random
 import re
 import stat
-from dataclasses import dataclass, field, replace
+from dataclasses import dataclass, field
 from pathlib import Path
 from typing import Iterator, Optional
 
@@ -18,8 +19,7 @@ CALLS = "openat,write,pwrite64,rename,unlink,unlinkat,rmdir,mkdir,symlink,syncfs
 
 @dataclass(eq=False)
 class Node:
-    """A file (its contents), a link (its target) or a directory (its names), by what is in it."""
-    kind: str
+    """A file (its contents, bytes), a link (its target, a text) or a directory (its names)."""
     content: object
     mode: int = 0o755
     names: dict = field(default_factory=dict)
@@ -29,17 +29,17 @@ class Node:
 def read_tree(path: Path) -> Node:
     info = os.lstat(path)
     if stat.S_ISLNK(info.st_mode):
-        return Node("link", os.readlink(path))
+        return Node(os.readlink(path))
     if not stat.S_ISDIR(info.st_mode):
-        return Node("file", path.read_bytes(), stat.S_IMODE(info.st_mode))
-    return Node("directory", None, stat.S_IMODE(info.st_mode),
+        return Node(path.read_bytes(), stat.S_IMODE(info.st_mode))
+    return Node(None, stat.S_IMODE(info.st_mode),
                 {name: read_tree(path / name) for name in sorted(os.listdir(path))})
 
 
 def write_tree(node: Node, path: Path) -> None:
-    if node.kind == "link":
+    if isinstance(node.content, str):
         path.symlink_to(node.content)
-    elif node.kind == "file":
+    elif node.content is not None:
         path.write_bytes(node.content)
         path.chmod(node.mode)
     else:
@@ -51,7 +51,7 @@ def write_tree(node: Node, path: Path) -> None:
 
 def digest(node: Node) -> tuple:
     names = tuple((name, digest(child)) for name, child in sorted(node.names.items()))
-    return node.kind, node.content, node.mode, names
+    return node.content, node.mode, names
 
 
 @dataclass
@@ -96,6 +96,18 @@ class Recording:
         self.end = digest(self.tree)
         for node, names, content in self.first:
             node.names, node.content = names, content
+        self.start = pickle.dumps((self.tree, self.changes))
+
+    def replay(self, count: int, missing: set[int], zeros: bool) -> Node:
+        """The tree after the first `count` changes but those with the numbers `missing`."""
+        tree, changes = pickle.loads(self.start)
+        for number, change in enumerate(changes[:count]):
+            if zeros and change.file and number in missing:
+                change.content = bytes(len(change.content))
+            elif number in missing:
+                continue
+            change.apply()
+        return tree
 
     def place(self, at: str, name: str) -> Optional[tuple[Node, str, str]]:
         """The directory, the name and the path that a call means; None outside of `top`."""
@@ -132,11 +144,10 @@ class Recording:
     def made(self, call: str, directory: Node, name: str, path: str, target: str) -> None:
         if call.startswith("open") and name in directory.names:
             return
-        kind = {"o": "file", "m": "directory", "s": "link"}[call[0]]
-        node = Node(kind, {"file": b"", "directory": None, "link": target}[kind])
+        node = Node({"o": b"", "m": None, "s": target}[call[0]])
         final = self.whole
         for part in path.split("/")[1:]:
-            final = final.names.get(part, Node("file", b"")) if final else final
+            final = final.names.get(part, Node(b"")) if final else final
         node.mode, node.final = final.mode, final.content
         self.first.append((node, {}, node.content))
         self.add(Change(gains=(directory, name, node)))
@@ -162,32 +173,10 @@ def text(quoted: str) -> str:
     return os.fsdecode(ast.literal_eval(f'b"{quoted}"'))
 
 
-def replay(before: Node, changes: list[Change], missing: set[int], zeros: bool) -> Node:
-    """The tree after all changes but those with the numbers `missing`."""
-    copies: dict[int, Node] = {}
-
-    def copy(node: Node) -> Node:
-        if id(node) not in copies:
-            copies[id(node)] = Node(node.kind, node.content, node.mode)
-            copies[id(node)].names = {name: copy(child) for name, child in node.names.items()}
-        return copies[id(node)]
-
-    top = copy(before)
-    for number, change in enumerate(changes):
-        if number in missing:
-            if not (zeros and change.file):
-                continue
-            change = Change(file=change.file, content=bytes(len(change.content)))
-        gains = change.gains and (copy(change.gains[0]), change.gains[1], copy(change.gains[2]))
-        replace(change, directory=change.directory and copy(change.directory), gains=gains,
-                file=change.file and copy(change.file)).apply()
-    return top
-
-
 def states(recording: Recording, most: int) -> Iterator[tuple[str, Node]]:
     """(what is missing, tree) for each state that a loss of power may leave, each tree once, of
     about `most` at one place."""
-    before, changes = recording.tree, recording.changes
+    changes = recording.changes
     chance = random.Random(0)
     seen = set()
     barrier = 0
@@ -202,7 +191,7 @@ def states(recording: Recording, most: int) -> Iterator[tuple[str, Node]]:
                          for share in (i / most for i in range(1, most)))]
         for missing in choices:
             for zeros in False, True:
-                tree = replay(before, changes[:end], missing, zeros)
+                tree = recording.replay(end, missing, zeros)
                 if (key := hash(digest(tree))) not in seen:
                     seen.add(key)
                     yield f"after {end} changes without {sorted(missing)}", tree

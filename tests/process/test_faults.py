@@ -6,7 +6,7 @@ import pytest
 
 from conftest import failure
 from faults import READS, calls, errors_of, force_upgrade, inject, new_home
-from faults import resize, strace, used, whole_and_started
+from faults import resize, used, whole_and_started
 from user import write
 
 pytestmark = pytest.mark.faults
