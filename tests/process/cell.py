@@ -8,7 +8,6 @@ process it can see ends the row and no other, and when the row has ended nothing
 import ctypes
 import os
 import pickle
-import shutil
 import signal
 import subprocess
 import sys
@@ -109,7 +108,3 @@ def run(work: Callable[[], object]) -> object:
         os.kill(keeper, signal.SIGKILL)
         os.waitpid(keeper, 0)
     return pickle.loads(said) if said else None
-
-
-def tools_missing(*names: str) -> list[str]:
-    return [name for name in names if not shutil.which(name)]

@@ -53,17 +53,14 @@ def pytest_pyfunc_call(pyfuncitem):
     def work():
         try:
             pyfuncitem.obj(**arguments)
-        except pytest.skip.Exception as reason:
-            return "skipped", str(reason)
         except BaseException:
-            return "failed", str(pyfuncitem.repr_failure(pytest.ExceptionInfo.from_current()))
-        return "passed", ""
+            return str(pyfuncitem.repr_failure(pytest.ExceptionInfo.from_current()))
+        return ""
 
-    outcome, text = cell.run(work) or ("failed", "ended without a word, as if it had been killed")
-    if outcome == "skipped":
-        pytest.skip(text)
-    if outcome == "failed":
-        pytest.fail(text, pytrace=False)
+    if wrong := cell.run(work):
+        pytest.fail(wrong, pytrace=False)
+    if wrong is None:
+        pytest.fail("ended without a word, as if it had been killed", pytrace=False)
     return True
 
 
@@ -99,12 +96,6 @@ def stage(request) -> Path:
 def builds(stage) -> dict[int, Build]:
     """Two package roots, builds 1 and 2 of a client that notes what happens to it."""
     return make_builds(stage, Path(cell.WORK, f"builds.{os.getpid()}"))
-
-
-@pytest.fixture(scope="session")
-def large_builds(stage) -> dict[int, Build]:
-    """The same with clients of 5 MB, of which a part is sent to the disk early."""
-    return make_builds(stage, Path(cell.WORK, f"large.{os.getpid()}"), 100)
 
 
 @pytest.fixture

@@ -1,11 +1,10 @@
 """What disturbs a launcher: strace, on the calls that have to do with the copies, the log and the
 package. That leaves out the start of the libraries, and what the launcher executes."""
+import os
 import shutil
-import subprocess
 from collections import Counter
 from pathlib import Path
 
-import cell
 from user import User, listing, write
 
 # The errors that a call can give. A close that is made to fail does not happen, which no system
@@ -24,8 +23,6 @@ READS = ("access", "newfstatat", "statx", "read", "getdents64", "lseek", "close"
 
 def strace(user: User, *options: str) -> list[str]:
     """The command to start a launcher through, with these options."""
-    missing = cell.tools_missing("strace")
-    assert not missing, f"not installed: {missing}"
     paths = {"", *(name for build in user.builds.values() for name in build.listing)}
     watched = [user.top, user.top / "log", user.log_file, user.pid_file, user.root / "INFO",
                user.root / "log/launcher.debug", user.root / "package", user.package]
@@ -73,20 +70,15 @@ def new_home(user: User, copy: int = 1) -> None:
         user.install_copy(copy)
 
 
-def copy_of(user: User) -> int:
-    """The build of the whole copy that is in place, 0 when there is none. The version file is the
-    last that is unpacked: a copy in which it is empty is whole, and replaced by the next start."""
+def whole_and_started(user: User) -> int:
+    """Checks that a whole copy is in place and was started once; returns its build. The version
+    file is the last that is unpacked: a copy in which it is empty is whole, and replaced by the
+    next start."""
     found = listing(user.app)
     found.pop("INFO", None)
-    return next((number for number, build in user.builds.items()
+    copy = next((number for number, build in user.builds.items()
                  if {**found, "INFO": build.listing["INFO"]} == build.listing), 0)
-
-
-def whole_and_started(user: User) -> int:
-    """Checks that a whole copy is in place and was started once; returns its build."""
-    copy = copy_of(user)
-    found = {name: entry for name, entry in listing(user.top).items() if "/" not in name}
-    assert copy, f"no whole copy in place, but {found}"
+    assert copy, f"no whole copy in place, but {sorted(os.listdir(user.top))}"
     user.started("start")
     user.notes.unlink()
     return copy
@@ -95,14 +87,3 @@ def whole_and_started(user: User) -> int:
 def force_upgrade(user: User) -> None:
     """Gives the package root a build number that no copy reaches: each start upgrades."""
     write(user.root / "INFO", "[Version]\nbuild_version=3\n")
-
-
-def resize(path: Path, size: str, *options: str) -> None:
-    subprocess.run(["mount", "-t", "tmpfs", "-o", ",".join([*options, f"size={size}"]), "tmpfs",
-                    path], check=True)
-
-
-def used(path: Path) -> int:
-    """KiB in use on the disk of `path`."""
-    return int(subprocess.run(["df", "-k", "--output=used", path], check=True, text=True,
-                              capture_output=True).stdout.split()[-1])

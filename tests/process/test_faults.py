@@ -5,8 +5,7 @@ import subprocess
 import pytest
 
 from conftest import failure
-from faults import READS, calls, errors_of, force_upgrade, inject, new_home
-from faults import resize, used, whole_and_started
+from faults import READS, calls, errors_of, force_upgrade, inject, new_home, whole_and_started
 from user import write
 
 pytestmark = pytest.mark.faults
@@ -26,7 +25,7 @@ def missing(user):
 
 
 def full_disk(user):
-    resize(user.home, f"{used(user.home)}k", "remount")
+    user.sh("mount -o remount,size=$(($(df -k --output=used $home | tail -n 1)))k $home")
 
 
 def no_thread(user):
@@ -49,9 +48,9 @@ def test_killed_then(user, share, way):
     new_home(user)
     places = [place for place in calls(user) if place[0] not in READS]
     assert len(places) > 30
-    resize(user.home, "64m")
+    user.sh("mount -t tmpfs tmpfs $home")
     for call, number in share(places, 16):
-        resize(user.home, "64m", "remount")
+        user.sh("mount -o remount,size=64m $home")
         new_home(user)
         write(user.package, good)
         write(user.root / "INFO", "[Version]\nbuild_version=2\n")
@@ -64,7 +63,7 @@ def test_killed_then(user, share, way):
             user.launch(*through)
             whole_and_started(user)
             assert way is not no_thread or "Failed to start the worker" in "".join(user.log())
-            resize(user.home, "64m", "remount")
+            user.sh("mount -o remount,size=64m $home")
             write(user.package, good)
             user.launch()
             assert whole_and_started(user) == 2

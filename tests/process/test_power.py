@@ -31,10 +31,6 @@ def put(user: User, state: power.Node) -> None:
     power.write_tree(state, user.top)
 
 
-def upgrade(user):
-    return record(user)
-
-
 def rolled_back(user):
     damaged(user)
     return record(user)
@@ -52,13 +48,13 @@ def recovered(user):
     return record(user)
 
 
-@pytest.mark.parametrize("history", [upgrade, rolled_back, rolled_back_late, recovered])
+@pytest.mark.parametrize("history", [record, rolled_back, rolled_back_late, recovered])
 def test_power_lost(user, share, history):
     user.own_root()
     good = user.package.read_bytes()
     new_home(user)
     recording = history(user)
-    if history is upgrade:
+    if history is record:
         shutil.rmtree(user.top / "log")
         for lock in user.top.glob("*-lockfile"):
             lock.unlink()

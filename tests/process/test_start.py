@@ -147,19 +147,6 @@ def test_fifty_starts(user):
     user.started("start")
 
 
-def test_killed_launcher(user):
-    user.install_copy(2)
-    user.hold()
-    killed = user.start()
-    until(user.notes.exists, "the start script runs")
-    killed.kill()
-    killed.wait()
-    user.let_go()
-    user.launch()
-    run = lines.run(2, 2, lines.NO_NEED)
-    assert user.log() == run[:-1] + run
-
-
 @pytest.mark.parametrize("other_home", [False, True])
 def test_one_instance_in_every_environment(user, other_home):
     """A second launcher from another kind of session finds the first."""

@@ -4,8 +4,9 @@ import subprocess
 import pytest
 
 import lines
-from conftest import failure, rows
+from conftest import rows
 from faults import strace
+from user import make_builds
 
 # How a start can end: the build in place and the lines of the log; 0 where the row itself tells.
 ENDS = {
@@ -43,9 +44,10 @@ def test_new_user(user, name, locale):
 
 
 @pytest.mark.parametrize("size, after", [(None, 2), (9, 1), (6, 1)])
-def test_large_client(user, large_builds, size, after):
+def test_large_client(user, stage, size, after):
     """A part of its files is sent to the disk by a thread of its own; without room for all too."""
-    user.builds, user.root = large_builds, large_builds[2].root
+    user.builds = make_builds(stage, user.dir / "large", 100)
+    user.root = user.builds[2].root
     if size:
         subprocess.run(["mount", "-t", "tmpfs", "-o", f"size={size}m", "tmpfs", user.home],
                        check=True)
@@ -70,7 +72,8 @@ def test_start(user, row):
     through = strace(user, "-e", f"inject={row['inject']}") if "inject" in row else []
     errors, check = "", row.get("check", "")
     for _ in range(row.get("launches", 1)):
-        started = user.start(*through, LD_LIBRARY_PATH=str(user.dir / "lib"))
+        started = user.start(*through, LD_LIBRARY_PATH=str(user.dir / "lib"),
+                             **row.get("env", {}))
         if end == "ended":
             assert started.wait() != 0
         else:
@@ -83,11 +86,3 @@ def test_start(user, row):
     if build:
         user.copy_is(build, row.get("backups", 0))
     user.started(*["start"] * row.get("starts", 1))
-
-
-@failure("language")
-@pytest.mark.parametrize("locale, code", [("zh_TW", "cht"), ("xx_YY", "enu")])
-def test_language(user, locale, code):
-    user.install_copy(2)
-    errors = user.launch(LC_ALL=locale)
-    assert f"qPrintable(qstrDef)=[{code}\n" in errors

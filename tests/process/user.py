@@ -35,7 +35,7 @@ while :; do sleep 0.1 & wait $!; done
 
 def until(condition: Callable[[], object], what: str, seconds: float = 30) -> object:
     """Waits for `condition` and returns its value; fails with `what` when it takes too long."""
-    end = time.monotonic() + seconds * slowness()
+    end = time.monotonic() + seconds * slowness["factor"]
     while not (value := condition()):
         assert time.monotonic() < end, f"waited in vain: {what}"
         time.sleep(0.02)
@@ -68,7 +68,7 @@ def listing(top: Path) -> dict[str, tuple]:
 
 
 def write(path: Path, content, mode: int = 0o644) -> Path:
-    """Makes a file, a new one where there was one: hard links elsewhere keep what they have."""
+    """Makes a file, a new one where there was one."""
     path.parent.mkdir(parents=True, exist_ok=True)
     path.unlink(missing_ok=True)
     path.write_bytes(content.encode() if isinstance(content, str) else content)
@@ -96,27 +96,25 @@ class Build:
     listing: dict
 
 
-def make_build(stage: Path, root: Path, client: Path, number: int) -> Build:
-    """Packs `client` into a new package root with the launcher of `stage`."""
-    shutil.copytree(stage, root, symlinks=True)
-    write(root / "log/launcher.debug", "".join(f"{c}=7\n" for c in COMPONENTS))
-    subprocess.run([MAKE_PACKAGE, "--client", client, "--build", str(number), "--root", root,
-                    "--major", "3", "--minor", "4", "--icon-overlay", "7"], check=True,
-                   stdout=subprocess.DEVNULL)
-    copy = client.parent / f"copy{number}"
-    copy.mkdir()
-    subprocess.run(["bsdtar", "-xpf", root / "package/quillmere.qpk", "-C", copy], check=True)
-    return Build(root, copy, listing(copy))
-
-
 def make_builds(stage: Path, top: Path, size: int = 1) -> dict[int, Build]:
-    """Build 1, and build 2 in a directory whose name is hard to handle."""
-    roots = {1: top / "first", 2: top / "Zweites Päckchen '2'"}
-    return {n: make_build(stage, root, make_client(top / f"client{n}", n, size), n)
-            for n, root in roots.items()}
+    """Two clients, packed into package roots with the launcher of `stage`: build 1, and build 2
+    in a directory whose name is hard to handle."""
+    builds = {}
+    for number, name in (1, "first"), (2, "Zweites Päckchen '2'"):
+        root = shutil.copytree(stage, top / name, symlinks=True)
+        write(root / "log/launcher.debug", "".join(f"{c}=7\n" for c in COMPONENTS))
+        client = make_client(top / f"client{number}", number, size)
+        subprocess.run([MAKE_PACKAGE, "--client", client, "--build", str(number), "--root", root,
+                        "--major", "3", "--minor", "4", "--icon-overlay", "7"], check=True,
+                       stdout=subprocess.DEVNULL)
+        copy = top / f"copy{number}"
+        copy.mkdir()
+        subprocess.run(["bsdtar", "-xpf", root / "package/quillmere.qpk", "-C", copy], check=True)
+        builds[number] = Build(root, copy, listing(copy))
+    return builds
 
 
-_slowness = {"factor": 1.0}
+slowness = {"factor": 1.0}
 
 
 @functools.lru_cache
@@ -125,7 +123,7 @@ def sanitizer(launcher: Path) -> dict[str, str]:
     needed = subprocess.run(["ldd", launcher], capture_output=True, text=True).stdout
     if not any(f"lib{name}" in needed for name in ("asan", "tsan")):
         return {}
-    _slowness["factor"] = 6
+    slowness["factor"] = 6
     # The toolkit is not built for the sanitizer.
     env = {"UBSAN_OPTIONS": "halt_on_error=1:print_stacktrace=1", "LSAN_OPTIONS": "",
            "TSAN_OPTIONS": "ignore_noninstrumented_modules=1:"}
@@ -137,21 +135,17 @@ def sanitizer(launcher: Path) -> dict[str, str]:
     return env
 
 
-def slowness() -> float:
-    return _slowness["factor"]
-
-
 class User:
     """The home of one user on a machine whose package root is `root`; all of it lies in `dir`.
 
     Everything is root's own until `give_away` makes it an ordinary user's."""
 
-    def __init__(self, directory: Path, builds: dict[int, Build], name: str = "home"):
+    def __init__(self, directory: Path, builds: dict[int, Build]):
         self.dir = directory
         self.builds = builds
         self.root = builds[2].root
         self.as_nobody = False
-        self.live_in(name)
+        self.live_in("home")
         (self.dir / "run").mkdir(mode=0o700)
         self.dir.chmod(0o755)
         self.notes = self.dir / "notes"
@@ -230,7 +224,7 @@ class User:
 
     def wait(self, started: subprocess.Popen, plugins=None) -> str:
         """Waits for a start: it ends with 0 and has printed its line. Returns its errors."""
-        code = started.wait(timeout=60 * slowness())
+        code = started.wait(timeout=60 * slowness["factor"])
         errors = started.err.read_text(errors="replace")
         assert code == 0, errors
         line = f"lib path = '{plugins or self.root / 'lib/plugins'}'\n"
