@@ -24,8 +24,13 @@ def missing(user):
     user.package.unlink()
 
 
+def resize(user, size):
+    """With type and source, without which an ordinary user's namespace has no remounting."""
+    user.sh(f"mount -t tmpfs -o remount,size={size} tmpfs $home")
+
+
 def full_disk(user):
-    user.sh("mount -o remount,size=$(($(df -k --output=used $home | tail -n 1)))k $home")
+    resize(user, "$(($(df -k --output=used $home | tail -n 1)))k")
 
 
 def no_thread(user):
@@ -50,7 +55,7 @@ def test_killed_then(user, share, way):
     assert len(places) > 30
     user.sh("mount -t tmpfs tmpfs $home")
     for call, number in share(places, 16):
-        user.sh("mount -o remount,size=64m $home")
+        resize(user, "64m")
         new_home(user)
         write(user.package, good)
         write(user.root / "INFO", "[Version]\nbuild_version=2\n")
@@ -63,7 +68,7 @@ def test_killed_then(user, share, way):
             user.launch(*through)
             whole_and_started(user)
             assert way is not no_thread or "Failed to start the worker" in "".join(user.log())
-            user.sh("mount -o remount,size=64m $home")
+            resize(user, "64m")
             write(user.package, good)
             user.launch()
             assert whole_and_started(user) == 2
