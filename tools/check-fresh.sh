@@ -6,13 +6,14 @@
 # not find fails here, also where the script would have gone on without it.
 # shellcheck shell=bash disable=SC2016,SC2154 # what shells in the root expand, and what check sets
 
-readonly everyone=(nosudo english german superuser)
-machine= # the directory of the machine that is being used
+readonly everyone=(nosudo english german superuser) # and, by name only, interrupted
+machine=                                            # the directory of the machine that is being used
 
 check_fresh() { # [PERSON...]
     local person
     for person; do
-        [[ " ${everyone[*]} " == *" $person "* ]] || fail "$person: nobody of that name, but ${everyone[*]}"
+        [[ " ${everyone[*]} interrupted " == *" $person "* ]] ||
+            fail "$person: nobody of that name, but ${everyone[*]} and interrupted"
     done
     (($# > 0)) || set -- "${everyone[@]}"
     if [[ -n $(git -c safe.directory='*' status --porcelain) ]]; then
@@ -102,17 +103,24 @@ as_nosudo() {
     [[ -z $(compgen -G "$machine/tmp/*") && ! -e $root$place/build ]] || fail "nosudo: something was left behind"
 }
 
-# Interrupted at each of these steps, both commands leave nothing that runs, and go on well
-# the next time.
 as_english() {
+    local before place=/home/english/launcher
+    clone english "$place"
+    before=$(traces english)
+    types english en_US.UTF-8 "$place" ./demo
+    types english en_US.UTF-8 /home/english 'launcher/demo launcher/packaging/demo-client'
+    types english en_US.UTF-8 "$place" ./check
+    unchanged "$before" english
+}
+
+# Interrupted at each of these steps, both commands leave nothing that runs, and go on well
+# the next time. A quarter of an hour by itself.
+as_interrupted() {
     local before place=/home/english/launcher interrupt=tests/interrupt
     clone english "$place"
     before=$(traces english)
     types english en_US.UTF-8 "$place" "$interrupt ./demo reading fetching installing building 'First installation' Upgrade"
-    types english en_US.UTF-8 "$place" ./demo
-    types english en_US.UTF-8 /home/english 'launcher/demo launcher/packaging/demo-client'
     types english en_US.UTF-8 "$place" "$interrupt ./check installing building testing testing+20 trying"
-    types english en_US.UTF-8 "$place" ./check
     unchanged "$before" english
 }
 
